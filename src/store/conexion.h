@@ -1,0 +1,109 @@
+#pragma once
+// La conexión con la base: una interfaz pequeña que implementan SQLite y PostgreSQL.
+// Todo SQL se escribe una sola vez, con parámetros "?" enlazados.
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "common/fallo.h"
+
+namespace nomira::store {
+
+struct Nulo {
+    bool operator==(const Nulo&) const = default;
+};
+
+// Un valor de columna o de parámetro. Las fechas viajan como texto "aaaa-mm-dd";
+// el dinero como double (se lee siempre a través de Dinero).
+using Valor = std::variant<Nulo, std::int64_t, double, std::string>;
+
+// Un fallo del motor de base de datos.
+class ErrorBase : public common::Fallo {
+public:
+    using common::Fallo::Fallo;
+};
+
+// Una fila leída: columnas por nombre o por posición; Null y "" se leen igual.
+class Fila {
+public:
+    Fila(const std::vector<std::string>* columnas, std::vector<Valor> valores)
+        : columnas_(columnas), valores_(std::move(valores)) {}
+
+    const Valor& valor(std::size_t posicion) const { return valores_.at(posicion); }
+    const Valor& valor(std::string_view columna) const;
+    bool esNulo(std::string_view columna) const;
+
+    // Texto: Null da ""; un número se convierte a texto.
+    std::string texto(std::string_view columna) const;
+    std::string texto(std::size_t posicion) const;
+    // Números: Null y "" dan 0; un texto con número se convierte.
+    std::int64_t entero(std::string_view columna) const;
+    double real(std::string_view columna) const;
+
+    std::size_t tamano() const { return valores_.size(); }
+
+private:
+    std::size_t posicion(std::string_view columna) const;
+    const std::vector<std::string>* columnas_;
+    std::vector<Valor> valores_;
+};
+
+struct Resultado {
+    std::vector<std::string> columnas;
+    std::vector<Fila> filas;
+
+    bool vacio() const { return filas.empty(); }
+    const Fila& primera() const { return filas.at(0); }
+};
+
+enum class Motor { Sqlite, Postgres };
+
+class Conexion {
+public:
+    virtual ~Conexion() = default;
+
+    virtual Motor motor() const = 0;
+    // Ruta del archivo o cadena de conexión, tal como se abrió.
+    virtual const std::string& destino() const = 0;
+
+    // SELECT con parámetros "?".
+    virtual Resultado consulta(std::string_view sql, const std::vector<Valor>& parametros = {}) = 0;
+    // INSERT, UPDATE, DELETE o DDL; devuelve las filas afectadas.
+    virtual std::int64_t ejecuta(std::string_view sql, const std::vector<Valor>& parametros = {}) = 0;
+
+    // Transacciones anidables: sólo la más externa confirma de verdad.
+    virtual void comenzar() = 0;
+    virtual void confirmar() = 0;
+    virtual void deshacer() = 0;
+};
+
+// Deshace al salir de su alcance si no se llamó a confirmar().
+class Transaccion {
+public:
+    explicit Transaccion(Conexion& c) : c_(c) { c_.comenzar(); }
+    ~Transaccion() {
+        if (!hecha_) {
+            try { c_.deshacer(); } catch (...) {}
+        }
+    }
+    Transaccion(const Transaccion&) = delete;
+    Transaccion& operator=(const Transaccion&) = delete;
+    void confirmar() {
+        c_.confirmar();
+        hecha_ = true;
+    }
+
+private:
+    Conexion& c_;
+    bool hecha_ = false;
+};
+
+// Abre la base que nombra el destino: una ruta de archivo (SQLite) o una
+// cadena de conexión PostgreSQL ("postgresql://..." o "host=... dbname=...").
+std::unique_ptr<Conexion> abrir(const std::string& destino);
+bool esDestinoPostgres(std::string_view destino);
+
+}  // namespace nomira::store
