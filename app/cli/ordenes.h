@@ -1,0 +1,27 @@
+#pragma once
+// Las órdenes de nomira-cli. Cada grupo de órdenes se registra en la aplicación
+// y devuelve su estado de salida: 0 hecho, 1 rechazado por un mensaje, 2 fallo.
+#include <CLI/CLI.hpp>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "frame/dialogo_consola.h"
+#include "store/conexion.h"
+
+namespace nomira::cli {
+
+struct Contexto {
+    std::string base;                // --base, o base.txt
+    std::optional<bool> respuesta;   // --si / --no
+    std::function<int()> accion;     // la orden elegida
+
+    std::string destino() const;
+    std::unique_ptr<store::Conexion> abrir() const;
+    frame::DialogoConsola dialogo() const;
+};
+
+void registrarOrdenesBase(CLI::App& app, Contexto& ctx);
+
+}  // namespace nomira::cli

@@ -1,0 +1,34 @@
+// nomira-cli [--base RUTA] <orden> [opciones]
+#include <iostream>
+
+#include "cli/ordenes.h"
+#include "common/fallo.h"
+
+int main(int argc, char** argv) {
+    using namespace nomira;
+    CLI::App app{"Nomira: liquidación de sueldos desde la línea de órdenes"};
+    app.require_subcommand(1);
+    cli::Contexto ctx;
+    app.add_option("--base", ctx.base, "Archivo SQLite o cadena de conexión PostgreSQL");
+    bool si = false, no = false;
+    auto* opcionSi = app.add_flag("--si", si, "Responde Sí a las preguntas");
+    app.add_flag("--no", no, "Responde No a las preguntas")->excludes(opcionSi);
+    cli::registrarOrdenesBase(app, ctx);
+
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& e) {
+        return app.exit(e) == 0 ? 0 : 2;
+    }
+    if (si) ctx.respuesta = true;
+    if (no) ctx.respuesta = false;
+    try {
+        return ctx.accion ? ctx.accion() : 0;
+    } catch (const common::Fallo& f) {
+        std::cerr << "Error inesperado " << f.numero() << ' ' << f.descripcion() << '\n';
+        return 2;
+    } catch (const std::exception& e) {
+        std::cerr << "Error inesperado " << e.what() << '\n';
+        return 2;
+    }
+}

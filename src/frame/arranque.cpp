@@ -1,0 +1,55 @@
+#include "frame/arranque.h"
+
+#include "frame/carpeta.h"
+#include "frame/ingreso.h"
+#include "store/crear.h"
+
+namespace nomira::frame {
+
+std::optional<std::string> destinoConfigurado() {
+    auto linea = leerLinea("base.txt");
+    if (!linea || linea->empty()) return std::nullopt;
+    return linea;
+}
+
+std::string destinoPorDefecto() { return rutaNomira("nomira.db").string(); }
+
+std::unique_ptr<store::Conexion> abrirBase(const std::string& destino) {
+    auto base = store::abrir(destino);
+    if (!store::existeEsquema(*base))
+        throw store::ErrorBase(3024, "La base de datos '" + destino + "' no tiene las tablas de Nomira.");
+    store::migrar(*base);
+    return base;
+}
+
+std::unique_ptr<store::Conexion> crearBaseNueva(const std::string& destino, const std::string& usuario,
+                                                const std::string& password) {
+    auto base = store::abrir(destino);
+    if (store::existeEsquema(*base))
+        throw store::ErrorBase(3010, "La base de datos '" + destino + "' ya existe.");
+    store::Transaccion t(*base);
+    store::crearBase(*base);
+    if (!usuario.empty()) agregarUsuario(*base, usuario, password, "1");
+    t.confirmar();
+    return base;
+}
+
+bool hayUsuarios(const master::Configuracion& c) {
+    for (const auto& u : c.usuarios)
+        if (!u.usu.empty()) return true;
+    return false;
+}
+
+bool agregarUsuario(store::Conexion& base, const std::string& usuario, const std::string& password,
+                    const std::string& categoria) {
+    auto c = master::leerConfiguracion(base);
+    for (int n = 1; n <= master::kCantUsuarios; ++n) {
+        if (!c.usuarios[n - 1].usu.empty()) continue;
+        ponerUsuario(c, n, usuario, password, categoria);
+        master::guardarConfiguracion(base, c);
+        return true;
+    }
+    return false;
+}
+
+}  // namespace nomira::frame

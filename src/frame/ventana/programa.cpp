@@ -1,0 +1,105 @@
+#include "frame/ventana/programa.h"
+
+#include <QApplication>
+#include <unistd.h>
+#include <QMessageBox>
+#include <cstdlib>
+#include <iostream>
+
+#include "frame/arranque.h"
+#include "frame/carpeta.h"
+#include "frame/dialogo_consola.h"
+#include "frame/instancia.h"
+#include "frame/ventana/captura.h"
+#include "frame/ventana/dialogo_qt.h"
+#include "frame/ventana/primer_usuario.h"
+#include "frame/ventana/registro_pantallas.h"
+#include "frame/ventana/ventana_principal.h"
+
+namespace nomira::ventana {
+
+namespace {
+
+std::string argumento(int argc, char** argv, const std::string& nombre) {
+    for (int i = 1; i + 1 < argc; ++i)
+        if (argv[i] == nombre) return argv[i + 1];
+    return {};
+}
+
+// Capturas: una base propia (la indicada o una nueva y vacía), usuario de categoría 1.
+int capturar(const std::string& carpeta, const std::string& base) {
+    frame::Sesion sesion;
+    frame::DialogoConsola dialogo(std::cerr, false);
+    sesion.dialogo = &dialogo;
+    sesion.categoria = 1;
+    if (base.empty()) {
+        const auto temporal = std::filesystem::temp_directory_path() /
+                              ("nomira-captura-" + std::to_string(::getpid()) + ".db");
+        std::filesystem::remove(temporal);
+        sesion.base = frame::crearBaseNueva(temporal.string());
+    } else {
+        sesion.base = frame::abrirBase(base);
+    }
+    const int n = capturarPantallas(sesion, carpeta);
+    std::cout << n << " capturas en " << carpeta << '\n';
+    return 0;
+}
+
+// Sin base.txt se crea la base en la carpeta de configuración y se pide el primer
+// administrador; lo mismo si la base no tiene ningún usuario todavía.
+bool prepararBase(frame::Sesion& sesion, const std::string& indicada) {
+    std::string destino = indicada;
+    if (destino.empty()) {
+        if (auto d = frame::destinoConfigurado()) {
+            destino = *d;
+        } else {
+            destino = frame::destinoPorDefecto();
+            std::filesystem::create_directories(frame::rutaNomira());
+            if (!std::filesystem::exists(destino)) frame::crearBaseNueva(destino);
+            frame::escribirLinea("base.txt", destino);
+        }
+    }
+    sesion.base = frame::abrirBase(destino);
+    if (frame::hayUsuarios(master::leerConfiguracion(*sesion.base))) return true;
+    DialogoPrimerUsuario primero(*sesion.dialogo);
+    if (primero.exec() != QDialog::Accepted) return false;
+    return frame::agregarUsuario(*sesion.base, primero.usuario(), primero.password(), "1");
+}
+
+}  // namespace
+
+int iniciarPrograma(int argc, char** argv) {
+    const auto carpetaCaptura = argumento(argc, argv, "--captura");
+    const auto base = argumento(argc, argv, "--base");
+    if (!carpetaCaptura.empty()) setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    QApplication app(argc, argv);
+    QApplication::setApplicationName("Nomira");
+    registrarPantallasDelMarco();
+
+    try {
+        if (!carpetaCaptura.empty()) return capturar(carpetaCaptura, base);
+    } catch (const std::exception& e) {
+        std::cerr << "Error inesperado " << e.what() << '\n';
+        return 2;
+    }
+
+    frame::BloqueoInstancia bloqueo(frame::rutaNomira(".nomira.bloqueo"));
+    if (!bloqueo.obtenido()) {
+        QMessageBox::critical(nullptr, "Nomira", frame::kMensajeSegundaInstancia);
+        return 1;
+    }
+    frame::Sesion sesion;
+    DialogoQt dialogo(nullptr);
+    sesion.dialogo = &dialogo;
+    try {
+        if (!prepararBase(sesion, base)) return 0;
+    } catch (const std::exception& e) {
+        common::avisarErrorInesperado(dialogo, e, "Form_Load", "Form1");
+        return 2;
+    }
+    VentanaPrincipal ventana(sesion);
+    ventana.show();
+    return app.exec();
+}
+
+}  // namespace nomira::ventana
