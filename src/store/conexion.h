@@ -20,17 +20,33 @@ struct Nulo {
 // el dinero como double (se lee siempre a través de Dinero).
 using Valor = std::variant<Nulo, std::int64_t, double, std::string>;
 
-// Un fallo del motor de base de datos.
+// Un fallo del motor de base de datos. Numeración:
+//   3000 + código primario de SQLite (3005 ocupada, 3019 restricción...);
+//   3100 + clase SQLSTATE de PostgreSQL cuando es numérica (3108 conexión,
+//          3123 restricción, 3142 sintaxis), 3199 para las clases con letras;
+//   3200 uso indebido de la conexión (confirmar sin comenzar, columna
+//        inexistente, varias sentencias en un texto).
 class ErrorBase : public common::Fallo {
-public:
+  public:
     using common::Fallo::Fallo;
 };
 
+constexpr int kErrorSqlite = 3000;
+constexpr int kErrorPostgres = 3100;
+constexpr int kErrorPostgresConexion = 3108;
+constexpr int kErrorUso = 3200;
+
 // Una fila leída: columnas por nombre o por posición; Null y "" se leen igual.
+// Los nombres de columna se comparten entre las filas de un resultado, así una
+// fila sigue siendo válida aunque el Resultado se mueva o se descarte.
 class Fila {
-public:
+  public:
+    using Columnas = std::shared_ptr<const std::vector<std::string>>;
+
+    Fila(Columnas columnas, std::vector<Valor> valores)
+        : columnas_(std::move(columnas)), valores_(std::move(valores)) {}
     Fila(const std::vector<std::string>* columnas, std::vector<Valor> valores)
-        : columnas_(columnas), valores_(std::move(valores)) {}
+        : Fila(std::make_shared<const std::vector<std::string>>(*columnas), std::move(valores)) {}
 
     const Valor& valor(std::size_t posicion) const { return valores_.at(posicion); }
     const Valor& valor(std::string_view columna) const;
@@ -42,12 +58,16 @@ public:
     // Números: Null y "" dan 0; un texto con número se convierte.
     std::int64_t entero(std::string_view columna) const;
     double real(std::string_view columna) const;
+    std::int64_t entero(std::size_t posicion) const;
+    double real(std::size_t posicion) const;
+    bool esNulo(std::size_t posicion) const;
+    const std::vector<std::string>& columnas() const { return *columnas_; }
 
     std::size_t tamano() const { return valores_.size(); }
 
-private:
+  private:
     std::size_t posicion(std::string_view columna) const;
-    const std::vector<std::string>* columnas_;
+    Columnas columnas_;
     std::vector<Valor> valores_;
 };
 
@@ -62,7 +82,7 @@ struct Resultado {
 enum class Motor { Sqlite, Postgres };
 
 class Conexion {
-public:
+  public:
     virtual ~Conexion() = default;
 
     virtual Motor motor() const = 0;
@@ -72,7 +92,8 @@ public:
     // SELECT con parámetros "?".
     virtual Resultado consulta(std::string_view sql, const std::vector<Valor>& parametros = {}) = 0;
     // INSERT, UPDATE, DELETE o DDL; devuelve las filas afectadas.
-    virtual std::int64_t ejecuta(std::string_view sql, const std::vector<Valor>& parametros = {}) = 0;
+    virtual std::int64_t ejecuta(std::string_view sql,
+                                 const std::vector<Valor>& parametros = {}) = 0;
 
     // Transacciones anidables: sólo la más externa confirma de verdad.
     virtual void comenzar() = 0;
@@ -82,11 +103,14 @@ public:
 
 // Deshace al salir de su alcance si no se llamó a confirmar().
 class Transaccion {
-public:
+  public:
     explicit Transaccion(Conexion& c) : c_(c) { c_.comenzar(); }
     ~Transaccion() {
         if (!hecha_) {
-            try { c_.deshacer(); } catch (...) {}
+            try {
+                c_.deshacer();
+            } catch (...) {
+            }
         }
     }
     Transaccion(const Transaccion&) = delete;
@@ -96,10 +120,18 @@ public:
         hecha_ = true;
     }
 
-private:
+  private:
     Conexion& c_;
     bool hecha_ = false;
 };
+
+// Un texto vacío como Nulo: así se escriben las fechas y los números que
+// vienen de una casilla que puede quedar vacía.
+Valor textoONulo(std::string_view texto);
+
+// Texto de un número tal como lo muestran los lectores: sin ".0" en los
+// enteros, punto decimal, hasta 15 cifras significativas.
+std::string textoDeNumero(double numero);
 
 // Abre la base que nombra el destino: una ruta de archivo (SQLite) o una
 // cadena de conexión PostgreSQL ("postgresql://..." o "host=... dbname=...").

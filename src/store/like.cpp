@@ -1,0 +1,27 @@
+#include "store/like.h"
+
+namespace nomira::store {
+
+std::string like(const Conexion& c) {
+    return c.motor() == Motor::Postgres ? "ILIKE" : "LIKE";
+}
+
+std::string condicionLike(const Conexion& c, std::string_view columna) {
+    return std::string(columna) + " " + like(c) + " ? ESCAPE '\\'";
+}
+
+std::string patronLike(std::string_view patron) {
+    std::string salida;
+    salida.reserve(patron.size() + 4);
+    for (char ch : patron) {
+        if (ch == '*') {
+            salida += '%';
+            continue;
+        }
+        if (ch == '%' || ch == '_' || ch == '\\') salida += '\\';
+        salida += ch;
+    }
+    return salida;
+}
+
+}  // namespace nomira::store

@@ -1,0 +1,280 @@
+#include "store/postgres.h"
+
+#include <cctype>
+#include <charconv>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+
+namespace nomira::store {
+
+namespace {
+
+constexpr std::size_t kMaxCache = 256;
+
+// Identificadores de tipo de pg_type que el sistema usa.
+enum : Oid {
+    kBool = 16,
+    kInt8 = 20,
+    kInt2 = 21,
+    kInt4 = 23,
+    kOid = 26,
+    kFloat4 = 700,
+    kFloat8 = 701,
+    kNumeric = 1700,
+};
+
+bool esDeDatos(std::string_view sql) {
+    std::size_t i = 0;
+    while (i < sql.size() && std::isspace(static_cast<unsigned char>(sql[i]))) ++i;
+    std::string inicio;
+    for (; i < sql.size() && std::isalpha(static_cast<unsigned char>(sql[i])); ++i)
+        inicio += static_cast<char>(std::tolower(static_cast<unsigned char>(sql[i])));
+    return inicio == "select" || inicio == "insert" || inicio == "update" || inicio == "delete" ||
+           inicio == "with";
+}
+
+std::string textoDeParametro(const Valor& v) {
+    if (const auto* i = std::get_if<std::int64_t>(&v)) return std::to_string(*i);
+    if (const auto* d = std::get_if<double>(&v)) {
+        // La forma más corta que vuelve al mismo double.
+        char buf[32];
+        auto [fin, ec] = std::to_chars(buf, buf + sizeof buf, *d);
+        return std::string(buf, ec == std::errc() ? fin : buf);
+    }
+    return std::get<std::string>(v);
+}
+
+Valor leer(const PGresult* r, int fila, int col) {
+    if (PQgetisnull(r, fila, col)) return Nulo{};
+    const char* texto = PQgetvalue(r, fila, col);
+    std::size_t largo = static_cast<std::size_t>(PQgetlength(r, fila, col));
+    switch (PQftype(r, col)) {
+        case kBool:
+            return static_cast<std::int64_t>(texto[0] == 't' ? 1 : 0);
+        case kInt2:
+        case kInt4:
+        case kInt8:
+        case kOid: {
+            std::int64_t n = 0;
+            std::from_chars(texto, texto + largo, n);
+            return n;
+        }
+        case kFloat4:
+        case kFloat8:
+        case kNumeric: {
+            double d = 0;
+            std::from_chars(texto, texto + largo, d);
+            return d;
+        }
+        default:
+            // text, varchar y date (con DateStyle ISO ya es "aaaa-mm-dd").
+            return std::string(texto, largo);
+    }
+}
+
+struct LiberarResultado {
+    void operator()(PGresult* r) const { PQclear(r); }
+};
+using ResultadoPg = std::unique_ptr<PGresult, LiberarResultado>;
+
+void ignorarAvisos(void*, const char*) {}
+
+}  // namespace
+
+std::string numerarParametros(std::string_view sql, int* cantidad) {
+    std::string salida;
+    salida.reserve(sql.size() + 8);
+    int n = 0;
+    char comilla = 0;
+    for (std::size_t i = 0; i < sql.size(); ++i) {
+        char ch = sql[i];
+        if (comilla) {
+            // '' dentro de un literal es una comilla escrita: sale y vuelve a entrar.
+            if (ch == comilla) comilla = 0;
+        } else if (ch == '\'' || ch == '"') {
+            comilla = ch;
+        } else if (ch == '-' && i + 1 < sql.size() && sql[i + 1] == '-') {
+            std::size_t fin = sql.find('\n', i);
+            if (fin == std::string_view::npos) fin = sql.size();
+            salida.append(sql.substr(i, fin - i));
+            i = fin - 1;
+            continue;
+        } else if (ch == '?') {
+            salida += '$' + std::to_string(++n);
+            continue;
+        }
+        salida += ch;
+    }
+    if (cantidad) *cantidad = n;
+    return salida;
+}
+
+ConexionPostgres::ConexionPostgres(std::string cadena) : cadena_(std::move(cadena)) {
+    conexion_ = PQconnectdb(cadena_.c_str());
+    if (PQstatus(conexion_) != CONNECTION_OK) {
+        std::string mensaje = PQerrorMessage(conexion_);
+        PQfinish(conexion_);
+        conexion_ = nullptr;
+        while (!mensaje.empty() && std::isspace(static_cast<unsigned char>(mensaje.back())))
+            mensaje.pop_back();
+        throw ErrorBase(kErrorPostgresConexion,
+                        "No se pudo conectar con el servidor de la base de datos: " + mensaje);
+    }
+    prepararSesion();
+}
+
+ConexionPostgres::~ConexionPostgres() {
+    PQfinish(conexion_);
+}
+
+void ConexionPostgres::prepararSesion() {
+    // Los NOTICE de "ya existe" no son asunto del usuario.
+    PQsetNoticeProcessor(conexion_, ignorarAvisos, nullptr);
+    directa("SET DateStyle TO ISO");
+    directa("SET client_encoding TO 'UTF8'");
+}
+
+int ConexionPostgres::procesoServidor() const {
+    return PQbackendPID(conexion_);
+}
+
+void ConexionPostgres::asegurarConexion() {
+    if (PQstatus(conexion_) == CONNECTION_OK) return;
+    // Se perdió en una operación anterior: se reintenta una vez al empezar otra.
+    PQreset(conexion_);
+    cache_.clear();
+    profundidad_ = 0;
+    if (PQstatus(conexion_) != CONNECTION_OK)
+        throw ErrorBase(kErrorPostgresConexion,
+                        std::string("Se perdió la conexión con el servidor de la base de datos: ") +
+                            PQerrorMessage(conexion_));
+    prepararSesion();
+}
+
+void ConexionPostgres::fallar(PGresult* resultado) {
+    ResultadoPg r(resultado);
+    std::string mensaje = PQerrorMessage(conexion_);
+    while (!mensaje.empty() && std::isspace(static_cast<unsigned char>(mensaje.back())))
+        mensaje.pop_back();
+    if (PQstatus(conexion_) != CONNECTION_OK) {
+        // Lo confirmado queda en el servidor; lo que estaba a medias se perdió.
+        cache_.clear();
+        profundidad_ = 0;
+        throw ErrorBase(kErrorPostgresConexion,
+                        "Se perdió la conexión con el servidor de la base de datos: " + mensaje);
+    }
+    const char* estado = r ? PQresultErrorField(r.get(), PG_DIAG_SQLSTATE) : nullptr;
+    int numero = kErrorPostgres + 99;
+    if (estado && std::isdigit(static_cast<unsigned char>(estado[0])) &&
+        std::isdigit(static_cast<unsigned char>(estado[1])))
+        numero = kErrorPostgres + (estado[0] - '0') * 10 + (estado[1] - '0');
+    throw ErrorBase(numero, "Error de la base de datos: " + mensaje);
+}
+
+void ConexionPostgres::directa(const std::string& sql) {
+    PGresult* r = PQexec(conexion_, sql.c_str());
+    if (PQresultStatus(r) != PGRES_COMMAND_OK && PQresultStatus(r) != PGRES_TUPLES_OK) fallar(r);
+    PQclear(r);
+}
+
+PGresult* ConexionPostgres::correr(std::string_view sql, const std::vector<Valor>& parametros) {
+    asegurarConexion();
+    std::vector<std::string> textos(parametros.size());
+    std::vector<const char*> punteros(parametros.size(), nullptr);
+    for (std::size_t i = 0; i < parametros.size(); ++i) {
+        if (std::holds_alternative<Nulo>(parametros[i])) continue;
+        textos[i] = textoDeParametro(parametros[i]);
+        punteros[i] = textos[i].c_str();
+    }
+    int n = static_cast<int>(parametros.size());
+    int esperados = 0;
+    std::string texto(sql);
+    std::string numerado = numerarParametros(sql, &esperados);
+    if (esperados != n)
+        throw ErrorBase(kErrorUso, "La sentencia espera " + std::to_string(esperados) +
+                                       " parámetros y recibió " + std::to_string(n));
+
+    PGresult* r = nullptr;
+    if (!esDeDatos(sql)) {
+        r = PQexecParams(conexion_, numerado.c_str(), n, nullptr, punteros.data(), nullptr, nullptr,
+                         0);
+    } else {
+        auto it = cache_.find(texto);
+        if (it == cache_.end()) {
+            if (cache_.size() >= kMaxCache) {
+                directa("DEALLOCATE ALL");
+                cache_.clear();
+            }
+            std::string nombre = "nomira" + std::to_string(++siguiente_);
+            ResultadoPg p(PQprepare(conexion_, nombre.c_str(), numerado.c_str(), 0, nullptr));
+            if (PQresultStatus(p.get()) != PGRES_COMMAND_OK) fallar(p.release());
+            it = cache_.emplace(texto, Preparada{nombre}).first;
+        }
+        r = PQexecPrepared(conexion_, it->second.nombre.c_str(), n, punteros.data(), nullptr,
+                           nullptr, 0);
+    }
+    auto estado = PQresultStatus(r);
+    if (estado != PGRES_COMMAND_OK && estado != PGRES_TUPLES_OK) fallar(r);
+    return r;
+}
+
+Resultado ConexionPostgres::consulta(std::string_view sql, const std::vector<Valor>& parametros) {
+    ResultadoPg r(correr(sql, parametros));
+    Resultado resultado;
+    int columnas = PQnfields(r.get());
+    for (int c = 0; c < columnas; ++c) resultado.columnas.emplace_back(PQfname(r.get(), c));
+    auto nombres = std::make_shared<const std::vector<std::string>>(resultado.columnas);
+    int filas = PQntuples(r.get());
+    resultado.filas.reserve(static_cast<std::size_t>(filas));
+    for (int f = 0; f < filas; ++f) {
+        std::vector<Valor> valores;
+        valores.reserve(static_cast<std::size_t>(columnas));
+        for (int c = 0; c < columnas; ++c) valores.push_back(leer(r.get(), f, c));
+        resultado.filas.emplace_back(nombres, std::move(valores));
+    }
+    return resultado;
+}
+
+std::int64_t ConexionPostgres::ejecuta(std::string_view sql, const std::vector<Valor>& parametros) {
+    ResultadoPg r(correr(sql, parametros));
+    const char* afectadas = PQcmdTuples(r.get());
+    std::int64_t n = 0;
+    if (afectadas && *afectadas) std::from_chars(afectadas, afectadas + std::strlen(afectadas), n);
+    return n;
+}
+
+void ConexionPostgres::comenzar() {
+    asegurarConexion();
+    directa(profundidad_ == 0 ? "BEGIN" : "SAVEPOINT nivel" + std::to_string(profundidad_));
+    ++profundidad_;
+}
+
+void ConexionPostgres::confirmar() {
+    if (profundidad_ == 0) throw ErrorBase(kErrorUso, "Confirmar sin una transacción abierta");
+    // Tras una sentencia fallida PostgreSQL respondería ROLLBACK a COMMIT sin
+    // quejarse: se avisa en lugar de dar por confirmado lo que no quedó.
+    if (profundidad_ == 1 && PQtransactionStatus(conexion_) == PQTRANS_INERROR) {
+        profundidad_ = 0;
+        directa("ROLLBACK");
+        throw ErrorBase(kErrorPostgres + 25,
+                        "No se confirmó la transacción porque una de sus sentencias falló");
+    }
+    directa(profundidad_ == 1 ? "COMMIT"
+                              : "RELEASE SAVEPOINT nivel" + std::to_string(profundidad_ - 1));
+    --profundidad_;
+}
+
+void ConexionPostgres::deshacer() {
+    if (profundidad_ == 0) throw ErrorBase(kErrorUso, "Deshacer sin una transacción abierta");
+    int nivel = --profundidad_;
+    if (nivel == 0) {
+        directa("ROLLBACK");
+    } else {
+        std::string punto = "nivel" + std::to_string(nivel);
+        directa("ROLLBACK TO SAVEPOINT " + punto);
+        directa("RELEASE SAVEPOINT " + punto);
+    }
+}
+
+}  // namespace nomira::store

@@ -1,0 +1,62 @@
+#pragma once
+// La base en un servidor PostgreSQL, para varios PC. La contraseña nunca va en
+// base.txt: libpq la toma de PGPASSWORD, de ~/.pgpass o del archivo que diga
+// PGPASSFILE.
+#include <libpq-fe.h>
+
+#include <string>
+#include <unordered_map>
+
+#include "store/conexion.h"
+
+namespace nomira::store {
+
+class ConexionPostgres : public Conexion {
+  public:
+    // Conecta y fija DateStyle ISO y UTF8, así las fechas viajan "aaaa-mm-dd".
+    explicit ConexionPostgres(std::string cadena);
+    ~ConexionPostgres() override;
+    ConexionPostgres(const ConexionPostgres&) = delete;
+    ConexionPostgres& operator=(const ConexionPostgres&) = delete;
+
+    Motor motor() const override { return Motor::Postgres; }
+    const std::string& destino() const override { return cadena_; }
+
+    // Los "?" se vuelven $1..$n. Las sentencias de datos se preparan una vez
+    // por texto y luego se ejecutan con un solo viaje al servidor. Los
+    // parámetros van como texto y el servidor los convierte al tipo de la
+    // columna, por eso un entero o una fecha pueden llegar como string.
+    Resultado consulta(std::string_view sql, const std::vector<Valor>& parametros = {}) override;
+    std::int64_t ejecuta(std::string_view sql, const std::vector<Valor>& parametros = {}) override;
+
+    // BEGIN afuera, SAVEPOINT adentro. Ojo: en PostgreSQL una sentencia que
+    // falla invalida la transacción hasta deshacer ese nivel.
+    void comenzar() override;
+    void confirmar() override;
+    void deshacer() override;
+
+    // Número del proceso servidor de esta conexión (para pruebas y soporte).
+    int procesoServidor() const;
+
+  private:
+    struct Preparada {
+        std::string nombre;
+    };
+
+    PGresult* correr(std::string_view sql, const std::vector<Valor>& parametros);
+    void directa(const std::string& sql);
+    void asegurarConexion();
+    void prepararSesion();
+    [[noreturn]] void fallar(PGresult* resultado);
+
+    std::string cadena_;
+    PGconn* conexion_ = nullptr;
+    std::unordered_map<std::string, Preparada> cache_;
+    int siguiente_ = 0;
+    int profundidad_ = 0;
+};
+
+// "?" fuera de literales y de identificadores entre comillas pasa a $1, $2...
+std::string numerarParametros(std::string_view sql, int* cantidad = nullptr);
+
+}  // namespace nomira::store

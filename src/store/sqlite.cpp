@@ -1,0 +1,211 @@
+#include "store/sqlite.h"
+
+#include <cctype>
+
+#include "store/like_sqlite.h"
+
+namespace nomira::store {
+
+namespace {
+
+constexpr int kEsperaMs = 10000;
+constexpr std::size_t kMaxCache = 256;
+
+// Sólo se guardan las sentencias de datos; el DDL se prepara cada vez.
+bool esDeDatos(std::string_view sql) {
+    std::size_t i = 0;
+    while (i < sql.size() && std::isspace(static_cast<unsigned char>(sql[i]))) ++i;
+    std::string inicio;
+    for (; i < sql.size() && std::isalpha(static_cast<unsigned char>(sql[i])); ++i)
+        inicio += static_cast<char>(std::tolower(static_cast<unsigned char>(sql[i])));
+    return inicio == "select" || inicio == "insert" || inicio == "update" || inicio == "delete" ||
+           inicio == "with";
+}
+
+bool soloEspacios(const char* texto) {
+    for (; *texto; ++texto)
+        if (!std::isspace(static_cast<unsigned char>(*texto)) && *texto != ';') return false;
+    return true;
+}
+
+Valor leerColumna(sqlite3_stmt* s, int i) {
+    switch (sqlite3_column_type(s, i)) {
+        case SQLITE_INTEGER:
+            return static_cast<std::int64_t>(sqlite3_column_int64(s, i));
+        case SQLITE_FLOAT:
+            return sqlite3_column_double(s, i);
+        case SQLITE_NULL:
+            return Nulo{};
+        default: {
+            const auto* texto = reinterpret_cast<const char*>(sqlite3_column_text(s, i));
+            return std::string(texto, static_cast<std::size_t>(sqlite3_column_bytes(s, i)));
+        }
+    }
+}
+
+}  // namespace
+
+ConexionSqlite::ConexionSqlite(std::string ruta) : ruta_(std::move(ruta)) {
+    int codigo =
+        sqlite3_open_v2(ruta_.c_str(), &base_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+    if (codigo != SQLITE_OK) {
+        std::string mensaje = base_ ? sqlite3_errmsg(base_) : sqlite3_errstr(codigo);
+        sqlite3_close(base_);
+        base_ = nullptr;
+        throw ErrorBase(kErrorSqlite + (codigo & 0xff),
+                        "No se pudo abrir la base de datos " + ruta_ + ": " + mensaje);
+    }
+    sqlite3_extended_result_codes(base_, 0);
+    sqlite3_busy_timeout(base_, kEsperaMs);
+    registrarLikeSinMayusculas(base_);
+    // WAL deja leer mientras otro proceso escribe.
+    directa("PRAGMA journal_mode=WAL");
+}
+
+ConexionSqlite::~ConexionSqlite() {
+    for (auto& [texto, sentencia] : cache_) sqlite3_finalize(sentencia);
+    sqlite3_close(base_);
+}
+
+void ConexionSqlite::fallar(int codigo) const {
+    throw ErrorBase(kErrorSqlite + (codigo & 0xff),
+                    std::string("Error de la base de datos: ") + sqlite3_errmsg(base_));
+}
+
+void ConexionSqlite::directa(const std::string& sql) {
+    char* error = nullptr;
+    if (sqlite3_exec(base_, sql.c_str(), nullptr, nullptr, &error) != SQLITE_OK) {
+        std::string mensaje = error ? error : "";
+        sqlite3_free(error);
+        throw ErrorBase(kErrorSqlite + (sqlite3_errcode(base_) & 0xff),
+                        "Error de la base de datos: " + mensaje);
+    }
+}
+
+sqlite3_stmt* ConexionSqlite::preparar(std::string_view sql) {
+    std::string texto(sql);
+    if (auto it = cache_.find(texto); it != cache_.end()) return it->second;
+    sqlite3_stmt* sentencia = nullptr;
+    const char* resto = nullptr;
+    int codigo = sqlite3_prepare_v2(base_, texto.c_str(), static_cast<int>(texto.size() + 1),
+                                    &sentencia, &resto);
+    if (codigo != SQLITE_OK) fallar(codigo);
+    if (!sentencia) throw ErrorBase(kErrorUso, "Sentencia vacía");
+    if (resto && !soloEspacios(resto)) {
+        sqlite3_finalize(sentencia);
+        throw ErrorBase(kErrorUso, "Se pasó más de una sentencia en un solo texto");
+    }
+    if (esDeDatos(sql)) {
+        if (cache_.size() >= kMaxCache) {
+            for (auto& [t, s] : cache_) sqlite3_finalize(s);
+            cache_.clear();
+        }
+        cache_.emplace(std::move(texto), sentencia);
+    }
+    return sentencia;
+}
+
+void ConexionSqlite::liberar(sqlite3_stmt* sentencia, bool enCache) {
+    if (enCache) {
+        sqlite3_reset(sentencia);
+        sqlite3_clear_bindings(sentencia);
+    } else {
+        sqlite3_finalize(sentencia);
+    }
+}
+
+void ConexionSqlite::enlazar(sqlite3_stmt* s, const std::vector<Valor>& parametros) {
+    int esperados = sqlite3_bind_parameter_count(s);
+    if (esperados != static_cast<int>(parametros.size()))
+        throw ErrorBase(kErrorUso, "La sentencia espera " + std::to_string(esperados) +
+                                       " parámetros y recibió " +
+                                       std::to_string(parametros.size()));
+    for (int i = 0; i < esperados; ++i) {
+        const Valor& v = parametros[static_cast<std::size_t>(i)];
+        int codigo = SQLITE_OK;
+        if (const auto* e = std::get_if<std::int64_t>(&v))
+            codigo = sqlite3_bind_int64(s, i + 1, *e);
+        else if (const auto* d = std::get_if<double>(&v))
+            codigo = sqlite3_bind_double(s, i + 1, *d);
+        else if (const auto* t = std::get_if<std::string>(&v))
+            codigo = sqlite3_bind_text(s, i + 1, t->data(), static_cast<int>(t->size()),
+                                       SQLITE_TRANSIENT);
+        else
+            codigo = sqlite3_bind_null(s, i + 1);
+        if (codigo != SQLITE_OK) fallar(codigo);
+    }
+}
+
+Resultado ConexionSqlite::consulta(std::string_view sql, const std::vector<Valor>& parametros) {
+    sqlite3_stmt* s = preparar(sql);
+    bool enCache = cache_.contains(std::string(sql));
+    Resultado resultado;
+    try {
+        enlazar(s, parametros);
+        int n = sqlite3_column_count(s);
+        for (int i = 0; i < n; ++i) resultado.columnas.emplace_back(sqlite3_column_name(s, i));
+        auto columnas = std::make_shared<const std::vector<std::string>>(resultado.columnas);
+        int codigo;
+        while ((codigo = sqlite3_step(s)) == SQLITE_ROW) {
+            std::vector<Valor> valores;
+            valores.reserve(static_cast<std::size_t>(n));
+            for (int i = 0; i < n; ++i) valores.push_back(leerColumna(s, i));
+            resultado.filas.emplace_back(columnas, std::move(valores));
+        }
+        if (codigo != SQLITE_DONE) fallar(codigo);
+    } catch (...) {
+        liberar(s, enCache);
+        throw;
+    }
+    liberar(s, enCache);
+    return resultado;
+}
+
+std::int64_t ConexionSqlite::ejecuta(std::string_view sql, const std::vector<Valor>& parametros) {
+    sqlite3_stmt* s = preparar(sql);
+    bool enCache = cache_.contains(std::string(sql));
+    try {
+        enlazar(s, parametros);
+        int codigo;
+        while ((codigo = sqlite3_step(s)) == SQLITE_ROW) {
+        }
+        if (codigo != SQLITE_DONE) fallar(codigo);
+    } catch (...) {
+        liberar(s, enCache);
+        throw;
+    }
+    liberar(s, enCache);
+    return sqlite3_changes64(base_);
+}
+
+void ConexionSqlite::comenzar() {
+    if (profundidad_ == 0)
+        directa("BEGIN IMMEDIATE");
+    else
+        directa("SAVEPOINT nivel" + std::to_string(profundidad_));
+    ++profundidad_;
+}
+
+void ConexionSqlite::confirmar() {
+    if (profundidad_ == 0) throw ErrorBase(kErrorUso, "Confirmar sin una transacción abierta");
+    if (profundidad_ == 1)
+        directa("COMMIT");
+    else
+        directa("RELEASE SAVEPOINT nivel" + std::to_string(profundidad_ - 1));
+    --profundidad_;
+}
+
+void ConexionSqlite::deshacer() {
+    if (profundidad_ == 0) throw ErrorBase(kErrorUso, "Deshacer sin una transacción abierta");
+    // Se baja el nivel aunque el motor falle: la transacción ya no sirve.
+    int nivel = --profundidad_;
+    if (nivel == 0) {
+        if (!sqlite3_get_autocommit(base_)) directa("ROLLBACK");
+    } else {
+        std::string punto = "nivel" + std::to_string(nivel);
+        directa("ROLLBACK TO SAVEPOINT " + punto);
+        directa("RELEASE SAVEPOINT " + punto);
+    }
+}
+
+}  // namespace nomira::store
