@@ -1,0 +1,84 @@
+#include "common/decimal.h"
+
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+
+#include "common/fallo.h"
+
+namespace nomira::common {
+
+Decimal descomponer(double x) {
+    if (!std::isfinite(x)) throw Fallo(6, "Desbordamiento");
+    Decimal d;
+    if (x == 0) return d;
+    // "%.14e" da exactamente 15 cifras significativas: "-1.23450000000000e+05".
+    char buf[40];
+    std::snprintf(buf, sizeof buf, "%.14e", x);
+    const char* p = buf;
+    if (*p == '-') {
+        d.negativo = true;
+        ++p;
+    }
+    for (; *p != 'e'; ++p) {
+        if (*p != '.') d.cifras += *p;
+    }
+    d.enteras = std::atoi(p + 1) + 1;
+    while (!d.cifras.empty() && d.cifras.back() == '0') d.cifras.pop_back();
+    return d;
+}
+
+namespace {
+
+// Suma uno a un texto de cifras decimales.
+void incrementar(std::string& cifras) {
+    for (auto i = cifras.size(); i-- > 0;) {
+        if (cifras[i] != '9') {
+            ++cifras[i];
+            return;
+        }
+        cifras[i] = '0';
+    }
+    cifras.insert(cifras.begin(), '1');
+}
+
+}  // namespace
+
+std::string escalarRedondeando(const Decimal& d, int decimales, Redondeo modo) {
+    const int largo = static_cast<int>(d.cifras.size());
+    const int conservadas = d.enteras + decimales;
+    std::string resultado;
+    std::string descartadas;
+    if (conservadas <= 0) {
+        resultado = "0";
+        // Con conservadas < 0 la primera cifra descartada es un cero implícito.
+        if (conservadas == 0) descartadas = d.cifras;
+    } else if (conservadas >= largo) {
+        resultado = d.cifras + std::string(conservadas - largo, '0');
+    } else {
+        resultado = d.cifras.substr(0, conservadas);
+        descartadas = d.cifras.substr(conservadas);
+    }
+
+    bool subir = false;
+    if (!descartadas.empty()) {
+        const char primera = descartadas[0];
+        if (primera > '5') {
+            subir = true;
+        } else if (primera == '5') {
+            // Las cifras no tienen ceros a la derecha: si hay más, pasa de la mitad.
+            const bool exactaMitad = descartadas.size() == 1;
+            if (!exactaMitad || modo == Redondeo::MitadLejosDelCero) {
+                subir = true;
+            } else {
+                subir = (resultado.back() - '0') % 2 == 1;
+            }
+        }
+    }
+    if (subir) incrementar(resultado);
+
+    const auto noCero = resultado.find_first_not_of('0');
+    return noCero == std::string::npos ? "0" : resultado.substr(noCero);
+}
+
+}  // namespace nomira::common

@@ -1,0 +1,25 @@
+#pragma once
+// Forma decimal de un double a 15 cifras significativas, la que muestran los
+// números del sistema. Todo redondeo de dinero, de Round y de los formatos se
+// hace sobre esta forma y no sobre el valor binario: así 1.005 es "1.005" y no
+// 1.00499999999999989..., y el resultado coincide con lo que el usuario ve.
+#include <string>
+
+namespace nomira::common {
+
+struct Decimal {
+    bool negativo = false;
+    std::string cifras;  // cifras significativas, sin ceros a la derecha; vacío para cero
+    int enteras = 0;     // cuántas cifras van antes del punto (puede ser <= 0)
+};
+
+enum class Redondeo { MitadAlPar, MitadLejosDelCero };
+
+// Lanza Fallo(6, "Desbordamiento") para infinitos y NaN.
+Decimal descomponer(double x);
+
+// |x| * 10^decimales redondeado a entero, como texto de cifras sin ceros a la
+// izquierda ("0" para cero). El signo queda en el Decimal.
+std::string escalarRedondeando(const Decimal& d, int decimales, Redondeo modo);
+
+}  // namespace nomira::common
