@@ -120,6 +120,7 @@ QWidget* PantallaConfiguracion::paginaImpresion() {
         imp.impresora->addItems(QPrinterInfo::availablePrinterNames());
         imp.fuente = new QFontComboBox;
         imp.fuente->setObjectName(QString("fuente_") + nombres[i]);
+        imp.fuente->setEditable(true);  // guarda el nombre escrito aunque la fuente no esté en esta PC
         imp.tamano = new QSpinBox;
         imp.tamano->setObjectName(QString("tamano_") + nombres[i]);
         imp.tamano->setRange(4, 36);
@@ -184,7 +185,7 @@ void PantallaConfiguracion::cargar() {
         const std::string* impresoras[] = {&c.impresorarecibos, &c.impresorainformes, &c.impresoracomanda};
         for (int i = 0; i < 3; ++i) {
             impresion_[i].impresora->setCurrentText(q(*impresoras[i]));
-            impresion_[i].fuente->setCurrentFont(QFont(q(*fuentes[i])));
+            impresion_[i].fuente->setCurrentText(q(*fuentes[i]));
             impresion_[i].tamano->setValue(QString::fromStdString(*tamanos[i]).toInt());
         }
         contitulos_->ponerValor(q(c.contitulos));
@@ -230,7 +231,7 @@ std::optional<master::Configuracion> PantallaConfiguracion::leerPantalla() {
     std::string* tamanos[] = {&c.tamrec, &c.taminf, &c.tamcom};
     for (int i = 0; i < 3; ++i) {
         *impresoras[i] = s(impresion_[i].impresora->currentText());
-        *fuentes[i] = s(impresion_[i].fuente->currentFont().family());
+        *fuentes[i] = s(impresion_[i].fuente->currentText());
         *tamanos[i] = std::to_string(impresion_[i].tamano->value());
     }
     c.contitulos = s(contitulos_->valor());
