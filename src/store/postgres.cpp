@@ -6,6 +6,8 @@
 #include <cstring>
 #include <memory>
 
+#include "store/sentencias.h"
+
 namespace nomira::store {
 
 namespace {
@@ -23,16 +25,6 @@ enum : Oid {
     kFloat8 = 701,
     kNumeric = 1700,
 };
-
-bool esDeDatos(std::string_view sql) {
-    std::size_t i = 0;
-    while (i < sql.size() && std::isspace(static_cast<unsigned char>(sql[i]))) ++i;
-    std::string inicio;
-    for (; i < sql.size() && std::isalpha(static_cast<unsigned char>(sql[i])); ++i)
-        inicio += static_cast<char>(std::tolower(static_cast<unsigned char>(sql[i])));
-    return inicio == "select" || inicio == "insert" || inicio == "update" || inicio == "delete" ||
-           inicio == "with";
-}
 
 std::string textoDeParametro(const Valor& v) {
     if (const auto* i = std::get_if<std::int64_t>(&v)) return std::to_string(*i);
@@ -200,23 +192,45 @@ PGresult* ConexionPostgres::correr(std::string_view sql, const std::vector<Valor
         r = PQexecParams(conexion_, numerado.c_str(), n, nullptr, punteros.data(), nullptr, nullptr,
                          0);
     } else {
-        auto it = cache_.find(texto);
-        if (it == cache_.end()) {
-            if (cache_.size() >= kMaxCache) {
-                directa("DEALLOCATE ALL");
-                cache_.clear();
-            }
-            std::string nombre = "nomira" + std::to_string(++siguiente_);
-            ResultadoPg p(PQprepare(conexion_, nombre.c_str(), numerado.c_str(), 0, nullptr));
-            if (PQresultStatus(p.get()) != PGRES_COMMAND_OK) fallar(p.release());
-            it = cache_.emplace(texto, Preparada{nombre}).first;
+        r = ejecutarPreparada(texto, numerado, punteros);
+        // Si otra conexión cambió la tabla, la preparada ya no sirve; fuera de
+        // una transacción se prepara de nuevo y se reintenta una vez.
+        const char* estado = PQresultErrorField(r, PG_DIAG_SQLSTATE);
+        if (estado && std::string_view(estado) == "0A000" && profundidad_ == 0 &&
+            PQtransactionStatus(conexion_) == PQTRANS_IDLE) {
+            PQclear(r);
+            directa("DEALLOCATE " + cache_.at(texto).nombre);
+            cache_.erase(texto);
+            r = ejecutarPreparada(texto, numerado, punteros);
         }
-        r = PQexecPrepared(conexion_, it->second.nombre.c_str(), n, punteros.data(), nullptr,
-                           nullptr, 0);
     }
     auto estado = PQresultStatus(r);
     if (estado != PGRES_COMMAND_OK && estado != PGRES_TUPLES_OK) fallar(r);
-    return r;
+    ResultadoPg guardado(r);
+    // Un cambio de tablas deja viejas las sentencias preparadas que las leen
+    // ("cached plan must not change result type"): se vuelven a preparar.
+    if (cambiaTablas(sql) && !cache_.empty()) {
+        directa("DEALLOCATE ALL");
+        cache_.clear();
+    }
+    return guardado.release();
+}
+
+PGresult* ConexionPostgres::ejecutarPreparada(const std::string& texto, const std::string& numerado,
+                                              const std::vector<const char*>& parametros) {
+    auto it = cache_.find(texto);
+    if (it == cache_.end()) {
+        if (cache_.size() >= kMaxCache) {
+            directa("DEALLOCATE ALL");
+            cache_.clear();
+        }
+        std::string nombre = "nomira" + std::to_string(++siguiente_);
+        ResultadoPg p(PQprepare(conexion_, nombre.c_str(), numerado.c_str(), 0, nullptr));
+        if (PQresultStatus(p.get()) != PGRES_COMMAND_OK) fallar(p.release());
+        it = cache_.emplace(texto, Preparada{nombre}).first;
+    }
+    return PQexecPrepared(conexion_, it->second.nombre.c_str(), static_cast<int>(parametros.size()),
+                          parametros.data(), nullptr, nullptr, 0);
 }
 
 Resultado ConexionPostgres::consulta(std::string_view sql, const std::vector<Valor>& parametros) {

@@ -43,6 +43,8 @@ class ConexionPostgres : public Conexion {
         std::string nombre;
     };
 
+    PGresult* ejecutarPreparada(const std::string& texto, const std::string& numerado,
+                                const std::vector<const char*>& parametros);
     PGresult* correr(std::string_view sql, const std::vector<Valor>& parametros);
     void directa(const std::string& sql);
     void asegurarConexion();

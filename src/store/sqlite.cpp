@@ -3,6 +3,7 @@
 #include <cctype>
 
 #include "store/like_sqlite.h"
+#include "store/sentencias.h"
 
 namespace nomira::store {
 
@@ -10,17 +11,6 @@ namespace {
 
 constexpr int kEsperaMs = 10000;
 constexpr std::size_t kMaxCache = 256;
-
-// Sólo se guardan las sentencias de datos; el DDL se prepara cada vez.
-bool esDeDatos(std::string_view sql) {
-    std::size_t i = 0;
-    while (i < sql.size() && std::isspace(static_cast<unsigned char>(sql[i]))) ++i;
-    std::string inicio;
-    for (; i < sql.size() && std::isalpha(static_cast<unsigned char>(sql[i])); ++i)
-        inicio += static_cast<char>(std::tolower(static_cast<unsigned char>(sql[i])));
-    return inicio == "select" || inicio == "insert" || inicio == "update" || inicio == "delete" ||
-           inicio == "with";
-}
 
 bool soloEspacios(const char* texto) {
     for (; *texto; ++texto)
@@ -142,11 +132,13 @@ Resultado ConexionSqlite::consulta(std::string_view sql, const std::vector<Valor
     Resultado resultado;
     try {
         enlazar(s, parametros);
+        // Los nombres se leen después del primer paso: si la tabla cambió,
+        // SQLite vuelve a preparar la sentencia en ese paso.
+        int codigo = sqlite3_step(s);
         int n = sqlite3_column_count(s);
         for (int i = 0; i < n; ++i) resultado.columnas.emplace_back(sqlite3_column_name(s, i));
         auto columnas = std::make_shared<const std::vector<std::string>>(resultado.columnas);
-        int codigo;
-        while ((codigo = sqlite3_step(s)) == SQLITE_ROW) {
+        for (; codigo == SQLITE_ROW; codigo = sqlite3_step(s)) {
             std::vector<Valor> valores;
             valores.reserve(static_cast<std::size_t>(n));
             for (int i = 0; i < n; ++i) valores.push_back(leerColumna(s, i));
@@ -175,6 +167,10 @@ std::int64_t ConexionSqlite::ejecuta(std::string_view sql, const std::vector<Val
         throw;
     }
     liberar(s, enCache);
+    if (cambiaTablas(sql)) {
+        for (auto& [t, guardada] : cache_) sqlite3_finalize(guardada);
+        cache_.clear();
+    }
     return sqlite3_changes64(base_);
 }
 

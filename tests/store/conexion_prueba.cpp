@@ -2,6 +2,7 @@
 
 #include "store/base_prueba.h"
 #include "store/like.h"
+#include "store/like_sqlite.h"
 #include "store/postgres.h"
 
 namespace nomira::store::prueba {
@@ -43,6 +44,21 @@ TEST(Parametros, SignosDeInterrogacionFueraDeLiterales) {
         numerarParametros("UPDATE t SET n = 'O''Neill ?', m = ? -- ¿y esto?\nWHERE \"x?\" = ?", &n),
         "UPDATE t SET n = 'O''Neill ?', m = $1 -- ¿y esto?\nWHERE \"x?\" = $2");
     EXPECT_EQ(n, 2);
+}
+
+// El LIKE propio de SQLite: vuelta atrás en "%", escape y letras acentuadas.
+TEST(LikeSqlite, ComodinesEscapeYAcentos) {
+    EXPECT_TRUE(coincideLike("%aab", "aaab", 0));
+    EXPECT_TRUE(coincideLike("a%b%c", "aXXbYbc", 0));
+    EXPECT_FALSE(coincideLike("a%b%c", "aXXbYb", 0));
+    EXPECT_TRUE(coincideLike("%", "", 0));
+    EXPECT_FALSE(coincideLike("_", "", 0));
+    EXPECT_TRUE(coincideLike("a_c", "ABC", 0));
+    EXPECT_FALSE(coincideLike("a\\_c", "abc", U'\\'));
+    EXPECT_TRUE(coincideLike("a\\_c", "a_c", U'\\'));
+    EXPECT_TRUE(coincideLike("%peña", "GÓMEZ PEÑA", 0));
+    EXPECT_TRUE(coincideLike("%ÁÉÍÓÚÜ", "áéíóúü", 0));
+    EXPECT_FALSE(coincideLike("pena", "peña", 0));
 }
 
 TEST(Filas, NuloYVacioSeLeenIgualYLosNumerosSeConvierten) {
