@@ -1,11 +1,10 @@
 // Primer arranque, una sola instancia, reparar y compactar, y las órdenes init y resumen.
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
 #include <fstream>
 
 #include "apoyo/carpeta_temporal.h"
+#include "apoyo/cli.h"
 #include "apoyo/dialogo_guion.h"
 #include "frame/arranque.h"
 #include "frame/carpeta.h"
@@ -17,21 +16,7 @@ using namespace nomira;
 
 namespace {
 
-struct Salida {
-    int estado;
-    std::string texto;
-};
-
-// Corre nomira-cli con stderr junto a stdout.
-Salida cli(const std::string& argumentos) {
-    const std::string orden = std::string(std::getenv("NOMIRA_CLI")) + " " + argumentos + " 2>&1";
-    FILE* p = popen(orden.c_str(), "r");
-    std::string texto;
-    std::array<char, 512> b{};
-    while (fgets(b.data(), b.size(), p)) texto += b.data();
-    const int estado = pclose(p);
-    return {WEXITSTATUS(estado), texto};
-}
+using pruebas::cli;
 
 void agregarEmpresa(store::Conexion& base, const std::string& nombre) {
     base.ejecuta("INSERT INTO empresas (empresa, nroemp) VALUES (?, ?)", {nombre, std::int64_t{1}});
