@@ -2,7 +2,7 @@
 
 #include <thread>
 
-#include "store/base_prueba.h"
+#include "apoyo/base_prueba.h"
 
 namespace nomira::store::prueba {
 namespace {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "store/base_prueba.h"
+#include "apoyo/base_prueba.h"
 #include "store/like.h"
 #include "store/like_sqlite.h"
 #include "store/postgres.h"

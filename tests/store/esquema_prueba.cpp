@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "store/base_prueba.h"
+#include "apoyo/base_prueba.h"
 #include "store/crear.h"
 #include "store/esquema.h"
 

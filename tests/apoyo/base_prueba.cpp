@@ -1,4 +1,4 @@
-#include "store/base_prueba.h"
+#include "apoyo/base_prueba.h"
 
 #include <unistd.h>
 

@@ -1,0 +1,98 @@
+// Mudar una base de un motor a otro y volver, sin perder ni cambiar una fila.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "apoyo/base_prueba.h"
+#include "common/dinero.h"
+#include "maintenance/copia_base.h"
+#include "store/crear.h"
+#include "store/esquema.h"
+
+using namespace nomira;
+using store::Nulo;
+using store::Valor;
+
+namespace {
+
+class CopiaBase : public store::prueba::BaseVacia {
+protected:
+    std::unique_ptr<store::Conexion> sqlite(const std::string& nombre) {
+        const auto ruta = std::filesystem::temp_directory_path() /
+                          ("nomira-copia-" + std::to_string(::getpid()) + "-" + nombre);
+        std::filesystem::remove(ruta);
+        archivos_.push_back(ruta);
+        return store::abrir(ruta.string());
+    }
+    void TearDown() override {
+        BaseVacia::TearDown();
+        for (const auto& a : archivos_) std::filesystem::remove(a);
+    }
+    std::vector<std::filesystem::path> archivos_;
+};
+
+// Todas las filas de todas las tablas, como texto comparable.
+std::vector<std::string> volcado(store::Conexion& c) {
+    std::vector<std::string> filas;
+    for (const auto& t : store::esquema()) {
+        for (const auto& f : c.consulta("SELECT * FROM " + t.nombre).filas) {
+            std::string linea = t.nombre;
+            for (const auto& col : t.columnas)
+                linea += "|" + (f.esNulo(col.nombre) ? std::string("<null>") : f.texto(col.nombre));
+            filas.push_back(linea);
+        }
+    }
+    // Cada motor ordena el texto a su manera: se compara sin depender del orden.
+    std::sort(filas.begin(), filas.end());
+    return filas;
+}
+
+void llenar(store::Conexion& c) {
+    store::crearBase(c);
+    c.ejecuta("UPDATE configuracion SET usu1 = 'ADMIN', cat1 = '1', tiporec = 'Courier New'");
+    c.ejecuta("INSERT INTO empresas (empresa, nroemp, fechainsc) VALUES (?, ?, ?)",
+              {std::string("O'Hara & Cía."), std::int64_t{7}, std::string("2024-02-29")});
+    c.ejecuta("INSERT INTO personal (empresa, nombre, sueldo, fechaing, fechaeg) VALUES (?, ?, ?, ?, ?)",
+              {std::string("O'Hara & Cía."), std::string("PEÑA_DÍAZ, JOSÉ"), std::string("25000.50"),
+               std::string("2020-01-31"), Nulo{}});
+    for (int i = 1; i <= 30; ++i)
+        c.ejecuta("INSERT INTO habydesc (empresa, nombre, fecha, codigo, concepto, tipo, cant, total) "
+                  "VALUES (?, ?, ?, ?, ?, ?, ?, ?)",
+                  {std::string("O'Hara & Cía."), std::string("PEÑA_DÍAZ, JOSÉ"), std::string("2026-02-01"),
+                   std::int64_t{i}, "CONCEPTO " + std::to_string(i), std::string(i % 2 ? "Hab" : "Des"),
+                   0.5 * i, common::Dinero::desdeDouble(1234567.8901 / i).aDouble()});
+    c.ejecuta("INSERT INTO definiciondevariables (nombre, fecha, valor) VALUES ('BPC', '2026-01-01', 6864)");
+    c.ejecuta("INSERT INTO paises (nombre) VALUES ('01-URUGUAY')");
+}
+
+}  // namespace
+
+TEST_P(CopiaBase, IdaYVueltaDejaLasMismasFilas) {
+    auto origen = sqlite("origen.db");
+    llenar(*origen);
+    std::vector<std::string> avance;
+    const auto copiadas = maintenance::copiarBase(*origen, c(), [&](const auto& t) { avance.push_back(t.tabla); });
+    ASSERT_EQ(copiadas.size(), store::esquema().size());
+    EXPECT_EQ(avance.front(), "personal");
+    const auto habydesc = std::find_if(copiadas.begin(), copiadas.end(),
+                                       [](const auto& t) { return t.tabla == "habydesc"; });
+    EXPECT_EQ(habydesc->filas, 30);
+
+    auto vuelta = sqlite("vuelta.db");
+    maintenance::copiarBase(c(), *vuelta);
+    EXPECT_EQ(volcado(*vuelta), volcado(*origen));
+    EXPECT_EQ(volcado(c()), volcado(*origen));
+}
+
+TEST_P(CopiaBase, UnDestinoConDatosSeRechazaSinTocarlo) {
+    auto origen = sqlite("origen.db");
+    llenar(*origen);
+    store::crearBase(c());
+    c().ejecuta("INSERT INTO paises (nombre) VALUES ('02-ARGENTINA')");
+    const auto antes = volcado(c());
+    EXPECT_THROW(maintenance::copiarBase(*origen, c()), store::ErrorBase);
+    EXPECT_EQ(volcado(c()), antes);
+}
+
+NOMIRA_PARA_CADA_MOTOR(CopiaBase);
