@@ -1,6 +1,9 @@
 #include "frame/ventana/programa.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
 #include <unistd.h>
 #include <QMessageBox>
 #include <cstdlib>
@@ -74,6 +77,10 @@ int iniciarPrograma(int argc, char** argv) {
     if (!carpetaCaptura.empty()) setenv("QT_QPA_PLATFORM", "offscreen", 0);
     QApplication app(argc, argv);
     QApplication::setApplicationName("Nomira");
+    // Los botones estándar (Sí, No, Aceptar, Cancelar) en castellano.
+    QTranslator traduccion;
+    if (traduccion.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&traduccion);
     registrarPantallasDelMarco();
 
     try {
