@@ -14,6 +14,7 @@ int main(int argc, char** argv) {
     auto* opcionSi = app.add_flag("--si", si, "Responde Sí a las preguntas");
     app.add_flag("--no", no, "Responde No a las preguntas")->excludes(opcionSi);
     cli::registrarOrdenesBase(app, ctx);
+    cli::registrarOrdenesFormula(app, ctx);
 
     try {
         app.parse(argc, argv);

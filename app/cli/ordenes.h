@@ -23,5 +23,6 @@ struct Contexto {
 };
 
 void registrarOrdenesBase(CLI::App& app, Contexto& ctx);
+void registrarOrdenesFormula(CLI::App& app, Contexto& ctx);
 
 }  // namespace nomira::cli
