@@ -16,7 +16,6 @@
 #include "frame/ventana/captura.h"
 #include "frame/ventana/dialogo_qt.h"
 #include "frame/ventana/primer_usuario.h"
-#include "frame/ventana/registro_pantallas.h"
 #include "frame/ventana/ventana_principal.h"
 
 namespace nomira::ventana {
@@ -81,7 +80,6 @@ int iniciarPrograma(int argc, char** argv) {
     QTranslator traduccion;
     if (traduccion.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&traduccion);
-    registrarPantallasDelMarco();
 
     try {
         if (!carpetaCaptura.empty()) return capturar(carpetaCaptura, base);

@@ -1,5 +1,6 @@
 #pragma once
 // El arranque del programa de escritorio, de main() a la ventana principal.
+// Las pantallas ya tienen que estar registradas.
 
 namespace nomira::ventana {
 

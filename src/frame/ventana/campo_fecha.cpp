@@ -1,0 +1,27 @@
+#include "frame/ventana/campo_fecha.h"
+
+#include <QKeyEvent>
+
+namespace nomira::ventana {
+
+CampoFecha::CampoFecha(QWidget* padre) : QLineEdit(padre) {
+    setMaxLength(8);
+    setPlaceholderText("dd/mm/aa");
+    setMaximumWidth(fontMetrics().horizontalAdvance("00/00/0000") + 16);
+}
+
+bool CampoFecha::formatoValido(bool vacioValido) const {
+    const auto t = text();
+    if (t.isEmpty()) return vacioValido;
+    return t.size() == 8 && t[2] == '/' && t[5] == '/';
+}
+
+void CampoFecha::keyPressEvent(QKeyEvent* e) {
+    QLineEdit::keyPressEvent(e);
+    // Al escribir al final, la barra llega sola tras el día y tras el mes.
+    if (!e->text().isEmpty() && e->text()[0].isDigit() && cursorPosition() == text().size() &&
+        (text().size() == 2 || text().size() == 5))
+        insert("/");
+}
+
+}  // namespace nomira::ventana

@@ -1,0 +1,21 @@
+#pragma once
+// Un campo de fecha "dd/mm/aa": la barra se agrega sola después del segundo y del
+// quinto carácter, y Enter comprueba la forma.
+#include <QLineEdit>
+
+namespace nomira::ventana {
+
+inline constexpr const char* kFormatoFecha = "Los campos de tipo fecha deben tener el formato: dd/mm/aa.";
+
+class CampoFecha : public QLineEdit {
+    Q_OBJECT
+public:
+    explicit CampoFecha(QWidget* padre = nullptr);
+    // Largo 8 con "/" en el tercer y el sexto carácter; vacío vale si `vacioValido`.
+    bool formatoValido(bool vacioValido = true) const;
+
+protected:
+    void keyPressEvent(QKeyEvent* e) override;
+};
+
+}  // namespace nomira::ventana

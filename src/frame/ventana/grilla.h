@@ -1,0 +1,27 @@
+#pragma once
+// Grillas de las pantallas: encabezados y filas de texto, los importes alineados a
+// la derecha.
+#include <QStandardItemModel>
+#include <QTableView>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace nomira::ventana {
+
+class Grilla : public QTableView {
+    Q_OBJECT
+public:
+    explicit Grilla(QWidget* padre = nullptr);
+    // `derecha`: índices de las columnas que se alinean a la derecha (importes).
+    void mostrar(const std::vector<std::string>& encabezados,
+                 const std::vector<std::vector<std::string>>& filas, const std::set<int>& derecha = {});
+    // Texto de la celda de la fila elegida, "" si no hay.
+    std::string elegida(int columna) const;
+    int filas() const { return modelo_->rowCount(); }
+
+private:
+    QStandardItemModel* modelo_;
+};
+
+}  // namespace nomira::ventana

@@ -1,0 +1,77 @@
+#include "frame/ventana/impresion.h"
+
+#include <QFont>
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+#include "frame/carpeta.h"
+
+namespace nomira::ventana {
+
+namespace {
+
+QString q(const std::string& s) { return QString::fromStdString(s); }
+
+QFont fuenteDe(const DestinoImpresion& d) {
+    QFont f(d.fuente.isEmpty() ? "Courier New" : d.fuente, d.tamano > 0 ? d.tamano : 10);
+    // Los informes se arman en columnas por cantidad de caracteres: hace falta letra fija.
+    f.setStyleHint(QFont::TypeWriter);
+    f.setFixedPitch(true);
+    return f;
+}
+
+void pintar(QPrinter& impresora, const std::vector<std::string>& lineas, const DestinoImpresion& d) {
+    QPainter p(&impresora);
+    p.setFont(fuenteDe(d));
+    const QFontMetrics medida(p.font(), &impresora);
+    const int alto = medida.lineSpacing();
+    const int pagina = impresora.pageLayout().paintRectPixels(impresora.resolution()).height();
+    int y = medida.ascent();
+    for (const auto& linea : lineas) {
+        if (y + medida.descent() > pagina) {
+            impresora.newPage();
+            y = medida.ascent();
+        }
+        p.drawText(0, y, q(linea));
+        y += alto;
+    }
+}
+
+}  // namespace
+
+DestinoImpresion destinoDe(const master::Configuracion& c, UsoImpresora uso) {
+    switch (uso) {
+        case UsoImpresora::Recibos: return {q(c.impresorarecibos), q(c.tiporec), q(c.tamrec).toInt()};
+        case UsoImpresora::Informes: return {q(c.impresorainformes), q(c.tipoinf), q(c.taminf).toInt()};
+        case UsoImpresora::Otros: return {q(c.impresoracomanda), q(c.tipocom), q(c.tamcom).toInt()};
+    }
+    return {};
+}
+
+void escribirPdf(const std::vector<std::string>& lineas, const DestinoImpresion& destino,
+                 const std::filesystem::path& ruta) {
+    QPrinter impresora(QPrinter::HighResolution);
+    impresora.setOutputFormat(QPrinter::PdfFormat);
+    impresora.setOutputFileName(q(ruta.string()));
+    pintar(impresora, lineas, destino);
+}
+
+std::optional<std::filesystem::path> imprimirLineas(const std::vector<std::string>& lineas,
+                                                    const DestinoImpresion& destino,
+                                                    const std::string& documento) {
+    if (QPrinterInfo::availablePrinterNames().isEmpty()) {
+        std::filesystem::create_directories(frame::rutaSoftware());
+        const auto ruta = frame::rutaSoftware(documento + ".pdf");
+        escribirPdf(lineas, destino, ruta);
+        return ruta;
+    }
+    QPrinter impresora(QPrinter::HighResolution);
+    if (!destino.impresora.isEmpty()) impresora.setPrinterName(destino.impresora);
+    impresora.setDocName(q(documento));
+    pintar(impresora, lineas, destino);
+    return std::nullopt;
+}
+
+}  // namespace nomira::ventana

@@ -1,0 +1,33 @@
+#pragma once
+// Impresión de informes de texto: líneas en la impresora, la fuente y el tamaño que
+// dice `configuracion` para cada uso. Sin impresora instalada se guarda un PDF.
+#include <QString>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "master/configuracion.h"
+
+namespace nomira::ventana {
+
+enum class UsoImpresora { Recibos, Informes, Otros };
+
+struct DestinoImpresion {
+    QString impresora;  // vacía: la predeterminada del sistema
+    QString fuente;
+    int tamano = 10;
+};
+
+DestinoImpresion destinoDe(const master::Configuracion& c, UsoImpresora uso);
+
+// Escribe las líneas en un PDF, con la fuente del destino.
+void escribirPdf(const std::vector<std::string>& lineas, const DestinoImpresion& destino,
+                 const std::filesystem::path& ruta);
+
+// Imprime; sin impresoras en el sistema guarda "<raíz>/Software/<documento>.pdf" y devuelve su ruta.
+std::optional<std::filesystem::path> imprimirLineas(const std::vector<std::string>& lineas,
+                                                    const DestinoImpresion& destino,
+                                                    const std::string& documento);
+
+}  // namespace nomira::ventana
