@@ -11,6 +11,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "common/empaquetados.h"
 #include "frame/carpeta.h"
 #include "frame/ingreso.h"
 
@@ -191,8 +192,9 @@ void PantallaConfiguracion::cargar() {
         contitulos_->ponerValor(q(c.contitulos));
         cantpers_->ponerValor(q(c.cantpers));
         autoguardado_->ponerValor(q(c.tipodepapel));
-        copiativo_->ponerValor(q(c.concopiativo.substr(0, 2)));
-        imppesos_->ponerValor(q(c.concopiativo.size() >= 4 ? c.concopiativo.substr(2, 2) : ""));
+        const auto copiativo = common::ConCopiativo::leer(c.concopiativo);
+        copiativo_->ponerValor(q(copiativo.copiativo));
+        imppesos_->ponerValor(q(copiativo.imprimePesos));
         desde_->setText(q(c.desdenrofun));
         hasta_->setText(q(c.hastanrofun));
         corte_->setText(q(c.cortehoja));
@@ -237,7 +239,7 @@ std::optional<master::Configuracion> PantallaConfiguracion::leerPantalla() {
     c.contitulos = s(contitulos_->valor());
     c.cantpers = s(cantpers_->valor());
     c.tipodepapel = s(autoguardado_->valor());
-    c.concopiativo = s(copiativo_->valor()) + s(imppesos_->valor());
+    c.concopiativo = common::ConCopiativo{s(copiativo_->valor()), s(imppesos_->valor())}.texto();
     c.desdenrofun = s(desde_->text());
     c.hastanrofun = s(hasta_->text());
     c.cortehoja = s(corte_->text());
