@@ -15,6 +15,7 @@ int main(int argc, char** argv) {
     app.add_flag("--no", no, "Responde No a las preguntas")->excludes(opcionSi);
     cli::registrarOrdenesBase(app, ctx);
     cli::registrarOrdenesFormula(app, ctx);
+    cli::registrarOrdenesMantenimiento(app, ctx);
 
     try {
         app.parse(argc, argv);

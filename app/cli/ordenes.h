@@ -24,5 +24,6 @@ struct Contexto {
 
 void registrarOrdenesBase(CLI::App& app, Contexto& ctx);
 void registrarOrdenesFormula(CLI::App& app, Contexto& ctx);
+void registrarOrdenesMantenimiento(CLI::App& app, Contexto& ctx);
 
 }  // namespace nomira::cli
