@@ -63,7 +63,7 @@ TEST_P(Maestros, PersonaYEmpresa) {
     fila("tipoaport", "04-Rural - Otros");
     const auto e = leerEmpresa(c(), "ACME");
     ASSERT_TRUE(e);
-    EXPECT_EQ(e->nroemp, 77);
+    EXPECT_EQ(e->nroemp, "77");
     EXPECT_EQ(tipoaporteDe(c(), *e), "04");
     EXPECT_EQ(tipoaporteDe(c(), *leerEmpresa(c(), "SINAPORT")), "");
     EXPECT_FALSE(leerEmpresa(c(), "NADIE"));
