@@ -1,5 +1,7 @@
 #include "frame/arranque.h"
 
+#include <filesystem>
+
 #include "frame/carpeta.h"
 #include "frame/ingreso.h"
 #include "store/crear.h"
@@ -24,6 +26,11 @@ std::unique_ptr<store::Conexion> abrirBase(const std::string& destino) {
 
 std::unique_ptr<store::Conexion> crearBaseNueva(const std::string& destino, const std::string& usuario,
                                                 const std::string& password) {
+    // Un archivo nuevo puede ir en una carpeta que todavía no existe.
+    if (!store::esDestinoPostgres(destino)) {
+        const auto carpeta = std::filesystem::path(destino).parent_path();
+        if (!carpeta.empty()) std::filesystem::create_directories(carpeta);
+    }
     auto base = store::abrir(destino);
     if (store::existeEsquema(*base))
         throw store::ErrorBase(3010, "La base de datos '" + destino + "' ya existe.");

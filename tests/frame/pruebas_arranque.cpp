@@ -112,7 +112,7 @@ TEST(Mantenimiento, RepararRevisaLaBase) {
 
 TEST(LineaDeOrdenes, InitYResumen) {
     pruebas::CarpetaTemporal tmp;
-    const auto ruta = tmp.archivo("n.db");
+    const auto ruta = tmp.archivo("carpeta/nueva/n.db");  // la carpeta todavía no existe
     auto r = cli("--base " + ruta + " init --usuario ADMIN --password clave");
     ASSERT_EQ(r.estado, 0) << r.texto;
     // Sin base.txt, la base creada pasa a ser la del programa.
