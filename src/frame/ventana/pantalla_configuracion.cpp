@@ -30,7 +30,7 @@ QLineEdit* campoNumero(const char* nombre) {
     return e;
 }
 
-const char* const kGrupos[] = {"Configuracion", "Empresas", "Personal", "Liquidaciones", "Informes",
+const char* const kGrupos[] = {"Configuración", "Empresas", "Personal", "Liquidaciones", "Informes",
                                "Utilidades"};
 const char* const kCategorias[] = {"Categoría 1 (administrador)", "Categoría 2 (supervisor)",
                                    "Categoría 3 (operador)"};
@@ -100,6 +100,7 @@ QWidget* PantallaConfiguracion::paginaPermisos() {
             checks_[n]->setObjectName(QString("check%1").arg(n + 1));
             lista->addWidget(checks_[n]);
         }
+        lista->addStretch();
         fila->addWidget(marco);
     }
     return pagina;
