@@ -4,6 +4,7 @@
 #include <array>
 
 #include "common/texto.h"
+#include "store/esquema.h"
 #include "store/like.h"
 
 namespace nomira::master {
@@ -36,6 +37,36 @@ constexpr std::array<std::string_view, 24> kReferencia = {"tipocontrib",
                                                           "categoriadeducciones",
                                                           "deptocaja"};
 
+const store::Tabla& tablaDeReferencia(std::string_view tabla) {
+    if (std::find(kReferencia.begin(), kReferencia.end(), tabla) == kReferencia.end())
+        throw common::Fallo(5, "No es una tabla de referencia: " + std::string(tabla));
+    return store::tabla(tabla);
+}
+
+// Los nombres de columna también entran al SQL: sólo los de la tabla.
+const std::string& columnaDe(const store::Tabla& t, std::string_view columna) {
+    const int i = t.posicion(columna);
+    if (i < 0) throw common::Fallo(5, "La tabla " + t.nombre + " no tiene " + std::string(columna));
+    return t.columnas[static_cast<std::size_t>(i)].nombre;
+}
+
+// El orden de carga: SELECT * sin ORDER BY devuelve las filas así en los dos
+// motores, pero sólo pidiéndolo queda asegurado.
+std::string ordenDeCarga(const store::Conexion& base) {
+    return base.motor() == store::Motor::Sqlite ? " ORDER BY rowid" : " ORDER BY ctid";
+}
+
+std::string condicionesIguales(const store::Tabla& t,
+                               const std::vector<std::pair<std::string, std::string>>& iguales,
+                               std::vector<store::Valor>& parametros) {
+    std::string sql;
+    for (const auto& [columna, valor] : iguales) {
+        sql += (sql.empty() ? " WHERE " : " AND ") + columnaDe(t, columna) + " = ?";
+        parametros.emplace_back(valor);
+    }
+    return sql;
+}
+
 }  // namespace
 
 bool esTablaDeReferencia(std::string_view tabla) {
@@ -44,12 +75,76 @@ bool esTablaDeReferencia(std::string_view tabla) {
 
 std::string codigoEnCatalogo(store::Conexion& base, std::string_view tabla,
                              std::string_view texto) {
-    if (!esTablaDeReferencia(tabla))
-        throw common::Fallo(5, "No es una tabla de referencia: " + std::string(tabla));
-    const auto r = base.consulta("SELECT nombre FROM " + std::string(tabla) + " WHERE " +
-                                     store::condicionLike(base, "nombre") + " LIMIT 1",
-                                 {store::patronLike(common::patronCatalogo(texto))});
+    const auto& t = tablaDeReferencia(tabla);
+    const auto r =
+        base.consulta("SELECT nombre FROM " + t.nombre + " WHERE " +
+                          store::condicionLike(base, "nombre") + ordenDeCarga(base) + " LIMIT 1",
+                      {store::patronLike(common::patronCatalogo(texto))});
     return r.vacio() ? std::string() : common::codigoDeCatalogo(r.primera().texto("nombre"));
+}
+
+std::vector<std::string> valoresCatalogo(store::Conexion& base, std::string_view tabla,
+                                         const FiltrosCatalogo& filtros) {
+    const auto& t = tablaDeReferencia(tabla);
+    if (filtros.size() >= t.columnas.size())
+        throw common::Fallo(5, "Demasiados filtros para " + t.nombre);
+    std::string sql = "SELECT " + t.columnas[filtros.size()].nombre + " FROM " + t.nombre;
+    std::vector<store::Valor> parametros;
+    for (const auto& [columna, texto] : filtros) {
+        sql += (parametros.empty() ? " WHERE " : " AND ") +
+               store::condicionLike(base, columnaDe(t, columna));
+        parametros.emplace_back(store::patronLike("*" + texto));
+    }
+    std::vector<std::string> valores;
+    for (const auto& f : base.consulta(sql + ordenDeCarga(base), parametros).filas)
+        valores.push_back(f.texto(std::size_t{0}));
+    return valores;
+}
+
+std::vector<std::string> textosCatalogo(store::Conexion& base, std::string_view tabla,
+                                        const FiltrosCatalogo& filtros) {
+    auto valores = valoresCatalogo(base, tabla, filtros);
+    for (auto& v : valores) v = common::textoDeCatalogo(v);
+    return valores;
+}
+
+std::vector<std::vector<std::string>> filasCatalogo(
+    store::Conexion& base, std::string_view tabla,
+    const std::vector<std::pair<std::string, std::string>>& iguales) {
+    const auto& t = tablaDeReferencia(tabla);
+    std::vector<store::Valor> parametros;
+    const std::string sql = "SELECT * FROM " + t.nombre +
+                            condicionesIguales(t, iguales, parametros) + ordenDeCarga(base);
+    std::vector<std::vector<std::string>> filas;
+    for (const auto& f : base.consulta(sql, parametros).filas) {
+        std::vector<std::string> fila;
+        for (std::size_t i = 0; i < t.columnas.size(); ++i) fila.push_back(f.texto(i));
+        filas.push_back(std::move(fila));
+    }
+    return filas;
+}
+
+void agregarACatalogo(store::Conexion& base, std::string_view tabla,
+                      const std::vector<std::string>& valores) {
+    const auto& t = tablaDeReferencia(tabla);
+    if (valores.size() != t.columnas.size())
+        throw common::Fallo(5, "Cantidad de valores distinta de las columnas de " + t.nombre);
+    std::string marcas;
+    std::vector<store::Valor> parametros;
+    for (const auto& v : valores) {
+        marcas += marcas.empty() ? "?" : ",?";
+        parametros.emplace_back(v);
+    }
+    base.ejecuta("INSERT INTO " + t.nombre + " VALUES (" + marcas + ")", parametros);
+}
+
+std::int64_t eliminarDeCatalogo(store::Conexion& base, std::string_view tabla,
+                                const std::vector<std::pair<std::string, std::string>>& iguales) {
+    const auto& t = tablaDeReferencia(tabla);
+    if (iguales.empty()) throw common::Fallo(5, "Falta la condición del borrado en " + t.nombre);
+    std::vector<store::Valor> parametros;
+    return base.ejecuta("DELETE FROM " + t.nombre + condicionesIguales(t, iguales, parametros),
+                        parametros);
 }
 
 }  // namespace nomira::master
