@@ -16,6 +16,7 @@ int main(int argc, char** argv) {
     cli::registrarOrdenesBase(app, ctx);
     cli::registrarOrdenesFormula(app, ctx);
     cli::registrarOrdenesMantenimiento(app, ctx);
+    cli::registrarOrdenesDatos(app, ctx);
 
     try {
         app.parse(argc, argv);

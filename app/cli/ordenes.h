@@ -25,5 +25,6 @@ struct Contexto {
 void registrarOrdenesBase(CLI::App& app, Contexto& ctx);
 void registrarOrdenesFormula(CLI::App& app, Contexto& ctx);
 void registrarOrdenesMantenimiento(CLI::App& app, Contexto& ctx);
+void registrarOrdenesDatos(CLI::App& app, Contexto& ctx);
 
 }  // namespace nomira::cli

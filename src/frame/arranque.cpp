@@ -4,6 +4,8 @@
 
 #include "frame/carpeta.h"
 #include "frame/ingreso.h"
+#include "common/reloj.h"
+#include "master/datos_iniciales.h"
 #include "store/crear.h"
 
 namespace nomira::frame {
@@ -36,6 +38,7 @@ std::unique_ptr<store::Conexion> crearBaseNueva(const std::string& destino, cons
         throw store::ErrorBase(3010, "La base de datos '" + destino + "' ya existe.");
     store::Transaccion t(*base);
     store::crearBase(*base);
+    master::cargarDatosIniciales(*base, carpetaDatos(), common::hoy());
     if (!usuario.empty()) agregarUsuario(*base, usuario, password, "1");
     t.confirmar();
     return base;
