@@ -1,5 +1,7 @@
 #include "master/variables.h"
 
+#include "common/dinero.h"
+
 namespace nomira::master {
 
 double LectorVariables::valor(std::string_view nombre) {
@@ -12,6 +14,62 @@ double LectorVariables::valor(std::string_view nombre) {
     const double v = r.vacio() ? 0.0 : r.primera().real("valor");
     leidas_.emplace(std::string(nombre), v);
     return v;
+}
+
+}  // namespace nomira::master
+
+namespace nomira::master {
+
+namespace {
+
+std::vector<FilaVariable> filas(const store::Resultado& r) {
+    std::vector<FilaVariable> lista;
+    for (const auto& f : r.filas) {
+        const auto fecha = common::Fecha::desdeTexto(f.texto("fecha"));
+        lista.push_back({f.texto("nombre"), fecha ? fecha->ddmmyy() : "", f.real("valor")});
+    }
+    return lista;
+}
+
+}  // namespace
+
+void agregarVariable(store::Conexion& base, const std::string& nombre, const common::Fecha& fecha,
+                     double valor) {
+    // El valor se guarda como moneda: cuatro decimales.
+    base.ejecuta("INSERT INTO definiciondevariables (nombre, fecha, valor) VALUES (?, ?, ?)",
+                 {nombre, fecha.iso(), common::Dinero::desdeDouble(valor).aDouble()});
+}
+
+std::optional<double> buscarVariable(store::Conexion& base, const std::string& nombre,
+                                     const common::Fecha& fecha) {
+    const auto r = base.consulta(
+        "SELECT valor FROM definiciondevariables WHERE nombre = ? AND fecha = ?",
+        {nombre, fecha.iso()});
+    if (r.vacio()) return std::nullopt;
+    return r.primera().real("valor");
+}
+
+std::int64_t eliminarVariable(store::Conexion& base, const std::string& nombre,
+                              const common::Fecha& fecha) {
+    return base.ejecuta("DELETE FROM definiciondevariables WHERE nombre = ? AND fecha = ?",
+                        {nombre, fecha.iso()});
+}
+
+std::vector<FilaVariable> listarVariable(store::Conexion& base, const std::string& nombre) {
+    return filas(base.consulta(
+        "SELECT nombre, fecha, valor FROM definiciondevariables WHERE nombre = ? ORDER BY fecha",
+        {nombre}));
+}
+
+std::vector<FilaVariable> listarOtrasVariables(store::Conexion& base) {
+    return filas(base.consulta(
+        "SELECT nombre, fecha, valor FROM definiciondevariables WHERE nombre NOT IN "
+        "('BPC', 'BFC', 'SALMIN', 'CUOTAMUTUALIC', 'CUOTAMUTUALCO', 'UR') ORDER BY nombre, fecha"));
+}
+
+std::vector<FilaVariable> listarTodasLasVariables(store::Conexion& base) {
+    return filas(base.consulta(
+        "SELECT nombre, fecha, valor FROM definiciondevariables ORDER BY nombre, fecha"));
 }
 
 }  // namespace nomira::master

@@ -2,10 +2,14 @@
 // Variables fechadas (definiciondevariables): BPC, SALMIN, TOPEAFAP y las que
 // defina el usuario. Siempre vale la fila más nueva, nunca la del mes que se
 // liquida.
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
+#include "common/fechas.h"
 #include "store/conexion.h"
 
 namespace nomira::master {
@@ -34,5 +38,29 @@ class LectorVariables {
     store::Conexion& base_;
     std::unordered_map<std::string, double, Hash, std::equal_to<>> leidas_;
 };
+
+// Una fila de la tabla tal como se muestra: la fecha "dd/mm/aa".
+struct FilaVariable {
+    std::string nombre, fecha;
+    double valor = 0;
+};
+
+// Siempre inserta: un segundo valor con el mismo nombre y la misma fecha es otra
+// fila, y el lector toma cualquiera de las dos.
+void agregarVariable(store::Conexion& base, const std::string& nombre, const common::Fecha& fecha,
+                     double valor);
+// El valor de la primera fila con ese nombre y esa fecha exactos.
+std::optional<double> buscarVariable(store::Conexion& base, const std::string& nombre,
+                                     const common::Fecha& fecha);
+// Borra todas las filas de ese nombre y esa fecha; devuelve cuántas.
+std::int64_t eliminarVariable(store::Conexion& base, const std::string& nombre,
+                              const common::Fecha& fecha);
+
+// Las filas de un nombre, por fecha.
+std::vector<FilaVariable> listarVariable(store::Conexion& base, const std::string& nombre);
+// Las que no tienen pantalla propia (todas menos BPC, BFC, SALMIN, CUOTAMUTUALIC,
+// CUOTAMUTUALCO y UR), por nombre y fecha. EXCLUSIONIRPF aparece aquí y en la suya.
+std::vector<FilaVariable> listarOtrasVariables(store::Conexion& base);
+std::vector<FilaVariable> listarTodasLasVariables(store::Conexion& base);
 
 }  // namespace nomira::master

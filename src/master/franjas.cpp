@@ -1,0 +1,45 @@
+#include "master/franjas.h"
+
+#include "common/dinero.h"
+
+namespace nomira::master {
+
+namespace {
+
+Franja leer(const store::Fila& f) {
+    return {static_cast<long>(f.entero("franja")), f.real("min"), f.real("max"), f.real("tasa")};
+}
+
+}  // namespace
+
+void agregarFranja(store::Conexion& base, const Franja& f) {
+    base.ejecuta("INSERT INTO franjasirp (franja, min, max, tasa) VALUES (?, ?, ?, ?)",
+                 {std::int64_t{f.franja}, f.min, f.max,
+                  common::Dinero::desdeDouble(f.tasa).aDouble()});
+}
+
+void reemplazarFranja(store::Conexion& base, const Franja& f) {
+    store::Transaccion t(base);
+    eliminarFranja(base, f.franja);
+    agregarFranja(base, f);
+    t.confirmar();
+}
+
+std::optional<Franja> buscarFranja(store::Conexion& base, long franja) {
+    const auto r = base.consulta("SELECT * FROM franjasirp WHERE franja = ?", {std::int64_t{franja}});
+    if (r.vacio()) return std::nullopt;
+    return leer(r.primera());
+}
+
+std::int64_t eliminarFranja(store::Conexion& base, long franja) {
+    return base.ejecuta("DELETE FROM franjasirp WHERE franja = ?", {std::int64_t{franja}});
+}
+
+std::vector<Franja> listarFranjas(store::Conexion& base) {
+    std::vector<Franja> lista;
+    for (const auto& f : base.consulta("SELECT * FROM franjasirp ORDER BY franja").filas)
+        lista.push_back(leer(f));
+    return lista;
+}
+
+}  // namespace nomira::master

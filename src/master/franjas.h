@@ -1,0 +1,25 @@
+#pragma once
+// Las franjas del IRPF (`franjasirp`): número, límites en BPC y tasa. Las
+// menores de 1000 son la escala mensual, las mayores de 2000 la otra; aquí
+// todas se tratan igual.
+#include <optional>
+#include <vector>
+
+#include "store/conexion.h"
+
+namespace nomira::master {
+
+struct Franja {
+    long franja = 0;
+    double min = 0, max = 0, tasa = 0;
+};
+
+// La tasa se guarda como moneda (cuatro decimales).
+void agregarFranja(store::Conexion& base, const Franja& f);
+// Borra la franja de ese número y escribe la nueva, todo o nada.
+void reemplazarFranja(store::Conexion& base, const Franja& f);
+std::optional<Franja> buscarFranja(store::Conexion& base, long franja);
+std::int64_t eliminarFranja(store::Conexion& base, long franja);
+std::vector<Franja> listarFranjas(store::Conexion& base);
+
+}  // namespace nomira::master
