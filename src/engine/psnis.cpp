@@ -28,24 +28,29 @@ double porcentajeSNIS(const DatosSNIS& d) {
     return d.tipoaporte == "04" ? p - 3 : p;
 }
 
+void conyugeEHijosSNIS(DatosSNIS& d, const master::Persona& p, const common::Mes& periodo,
+                       common::Dialogo* dialogo, bool* esmayor) {
+    d.conyuge = common::SexoCon::leer(p.sexocon).ingresa();
+    const std::array<std::pair<const std::string*, const std::string*>, 3> beneficiarios = {{
+        {&p.causaben, &p.fechanacben},
+        {&p.causaben2, &p.fechanacben2},
+        {&p.causaben3, &p.fechanacben3},
+    }};
+    for (const auto& [causa, fechanac] : beneficiarios) {
+        std::string codigo = enBlanco(*causa) ? "" : common::codigoDeCatalogo(*causa);
+        if (!enBlanco(*fechanac)) {
+            const bool mayor = common::EsMayorde18(*fechanac, periodo, dialogo);
+            if (esmayor) *esmayor = mayor;
+            if (mayor) codigo.clear();
+        }
+        if (codigo == "01" || codigo == "02") d.hijoACargo = true;
+    }
+}
+
 void calcularPSNIS(ContextoFormula& ctx, double bpc, common::Dialogo& dialogo) {
     DatosSNIS d{ctx.montograv.aDouble(), bpc, false, false, ctx.tipoaporte};
-    if (const auto& p = personaDelContexto(ctx)) {
-        d.conyuge = common::SexoCon::leer(p->sexocon).ingresa();
-        const std::array<std::pair<const std::string*, const std::string*>, 3> beneficiarios = {{
-            {&p->causaben, &p->fechanacben},
-            {&p->causaben2, &p->fechanacben2},
-            {&p->causaben3, &p->fechanacben3},
-        }};
-        for (const auto& [causa, fechanac] : beneficiarios) {
-            std::string codigo = enBlanco(*causa) ? "" : common::codigoDeCatalogo(*causa);
-            if (!enBlanco(*fechanac)) {
-                ctx.esmayor = common::EsMayorde18(*fechanac, ctx.periodo, &dialogo);
-                if (ctx.esmayor) codigo.clear();
-            }
-            if (codigo == "01" || codigo == "02") d.hijoACargo = true;
-        }
-    }
+    if (const auto& p = personaDelContexto(ctx))
+        conyugeEHijosSNIS(d, *p, ctx.periodo, &dialogo, &ctx.esmayor);
     ctx.psnis = porcentajeSNIS(d);
 }
 

@@ -1,0 +1,98 @@
+#include "engine/datos_persona.h"
+
+#include "common/edad.h"
+#include "common/numeros.h"
+#include "common/texto.h"
+#include "master/catalogos.h"
+#include "store/like.h"
+
+namespace nomira::engine {
+
+namespace {
+
+bool enBlanco(const std::string& s) {
+    return s.find_first_not_of(' ') == std::string::npos;
+}
+
+std::string sufijo(int i) {
+    return i == 0 ? "" : std::to_string(i + 1);
+}
+
+// categoriadeducciones: nombre Like '*código' y nombre2 Like '*categoría'; el
+// código es lo anterior al guion de nombre2.
+std::string codigoCategoria(store::Conexion& base, const std::string& ded,
+                            const std::string& cat) {
+    const auto r = base.consulta(
+        "SELECT nombre2 FROM categoriadeducciones WHERE " + store::condicionLike(base, "nombre") +
+            " AND " + store::condicionLike(base, "nombre2") + " LIMIT 1",
+        {store::patronLike(common::patronCatalogo(ded)),
+         store::patronLike(common::patronCatalogo(cat))});
+    const std::string c = r.vacio() ? "" : common::codigoDeCatalogo(r.primera().texto("nombre2"));
+    return c.empty() ? "00" : c;
+}
+
+}  // namespace
+
+std::optional<DatosPersona> leerDatosPersona(store::Conexion& base, const std::string& empresa,
+                                             const std::string& nombre) {
+    const auto r = base.consulta("SELECT * FROM personal WHERE empresa = ? AND nombre = ?",
+                                 {empresa, nombre});
+    if (r.vacio()) return std::nullopt;
+    const auto& f = r.primera();
+    DatosPersona p;
+    p.fila.empresa = empresa;
+    p.fila.nombre = nombre;
+    p.fila.sexocon = f.texto("sexocon");
+    p.fila.causaben = f.texto("causaben");
+    p.fila.causaben2 = f.texto("causaben2");
+    p.fila.causaben3 = f.texto("causaben3");
+    p.fila.fechanacben = f.texto("fechanacben");
+    p.fila.fechanacben2 = f.texto("fechanacben2");
+    p.fila.fechanacben3 = f.texto("fechanacben3");
+    p.tiposueldo = f.texto("tiposueldo");
+    p.vinculofun = f.texto("vinculofun");
+    p.socmedica = f.texto("socmedica");
+    p.sueldo = common::textoANumero(f.texto("sueldo"));
+    p.cantbfc = common::textoANumero(f.texto("cantbfc"));
+    for (int i = 0; i < 3; ++i) {
+        const auto s = sufijo(i);
+        p.porcentajeben[i] = f.texto("porcentajeben" + s);
+        p.montoben[i] = f.texto("montoben" + s);
+        p.fechadesdeben[i] = f.texto("fechadesdeben" + s);
+        p.codigoded[i] = f.texto("codigoded" + s);
+        p.categoriaded[i] = f.texto("categoriaded" + s);
+        p.fechadesdeded[i] = f.texto("fechadesdeded" + s);
+    }
+    return p;
+}
+
+Deducciones deduccionesDe(const DatosPersona& p, const common::Mes& periodo,
+                          master::LectorVariables& variables, common::Dialogo* dialogo) {
+    Deducciones d;
+    const std::array<const std::string*, 3> causas = {&p.fila.causaben, &p.fila.causaben2,
+                                                      &p.fila.causaben3};
+    const std::array<const std::string*, 3> nacimientos = {
+        &p.fila.fechanacben, &p.fila.fechanacben2, &p.fila.fechanacben3};
+    auto& base = variables.base();
+    for (int i = 0; i < 3; ++i) {
+        auto& dep = d.dependientes[i];
+        dep.causa = common::codigoDeCatalogo(*causas[i]);
+        dep.porcentaje = common::codigoDeCatalogo(p.porcentajeben[i]);
+        dep.multiplicador = enBlanco(p.montoben[i]) ? 1 : common::textoANumero(p.montoben[i]);
+        dep.fechadesde = p.fechadesdeben[i];
+        if (!enBlanco(*nacimientos[i])) {
+            dep.mayor = common::EsMayorde18(*nacimientos[i], periodo, dialogo);
+            if (const auto f = common::Fecha::desdeTexto(*nacimientos[i]))
+                dep.mesNacimiento = f->mes;
+        }
+        auto& c = d.casillas[i];
+        c.codigo = master::codigoEnCatalogo(base, "codigodeducciones", p.codigoded[i]);
+        if (c.codigo.empty()) c.codigo = "00";
+        c.categoria = codigoCategoria(base, p.codigoded[i], p.categoriaded[i]);
+        if (c.codigo == "03") c.valorVariable = variables.valor(p.categoriaded[i]);
+        c.fechadesde = p.fechadesdeded[i];
+    }
+    return d;
+}
+
+}  // namespace nomira::engine

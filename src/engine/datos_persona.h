@@ -1,0 +1,32 @@
+#pragma once
+// Las columnas de personal que leen los aportes y el IRPF, con una consulta
+// propia: beneficiarios, otras deducciones, socmedica y el tipo de sueldo.
+#include <optional>
+#include <string>
+
+#include "common/dialogo.h"
+#include "common/fechas.h"
+#include "engine/irpf.h"
+#include "master/personal.h"
+#include "master/variables.h"
+#include "store/conexion.h"
+
+namespace nomira::engine {
+
+struct DatosPersona {
+    master::Persona fila;  // sexocon, causaben y fechanacben (para la escalera)
+    std::string tiposueldo, vinculofun, socmedica;
+    double sueldo = 0, cantbfc = 0;
+    std::array<std::string, 3> porcentajeben, montoben, fechadesdeben;
+    std::array<std::string, 3> codigoded, categoriaded, fechadesdeded;
+};
+
+std::optional<DatosPersona> leerDatosPersona(store::Conexion& base, const std::string& empresa,
+                                             const std::string& nombre);
+
+// Beneficiarios y casillas con sus códigos de catálogo, la edad al período y
+// el valor de la variable de las casillas "03".
+Deducciones deduccionesDe(const DatosPersona& p, const common::Mes& periodo,
+                          master::LectorVariables& variables, common::Dialogo* dialogo);
+
+}  // namespace nomira::engine

@@ -1,0 +1,23 @@
+#pragma once
+// Cómo se escriben los números dentro de las explicaciones que acompañan a
+// cada importe calculado: dinero con "##,##0.00", porcentajes y factores como
+// en las fórmulas.
+#include <string>
+
+#include "common/dinero.h"
+#include "common/formato.h"
+#include "common/numeros.h"
+
+namespace nomira::engine {
+
+inline std::string pesos(common::Dinero d) {
+    return common::formatear(d.aDouble(), "##,##0.00");
+}
+inline std::string pesos(double x) {
+    return common::formatear(x, "##,##0.00");
+}
+inline std::string numero(double x) {
+    return common::numeroATexto(x);
+}
+
+}  // namespace nomira::engine

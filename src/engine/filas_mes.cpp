@@ -1,0 +1,127 @@
+#include "engine/filas_mes.h"
+
+namespace nomira::engine {
+
+namespace {
+
+const char* nombreTabla(TablaLiquidacion t) {
+    switch (t) {
+        case TablaLiquidacion::Habydesc:
+            return "habydesc";
+        case TablaLiquidacion::Aguinaldos:
+            return "aguinaldos";
+        case TablaLiquidacion::Egresos:
+            return "egresos";
+    }
+    return "";
+}
+
+std::vector<store::Valor> claves(const std::string& empresa, const std::string& nombre,
+                                 const common::Mes& desde, const common::Mes& hasta) {
+    return {empresa, nombre, desde.primerDia().iso(), hasta.primerDia().iso()};
+}
+
+}  // namespace
+
+std::vector<FilaMes> leerFilas(store::Conexion& base, TablaLiquidacion tabla,
+                               const std::string& empresa, const std::string& nombre,
+                               const common::Mes& desde, const common::Mes& hasta) {
+    const bool agui = tabla == TablaLiquidacion::Aguinaldos;
+    const std::string sql =
+        std::string("SELECT ") +
+        (agui ? "concepto, tipo, total FROM aguinaldos"
+              : std::string("codigo, concepto, tipo, gravado, ipd, total FROM ") +
+                    nombreTabla(tabla)) +
+        " WHERE empresa = ? AND nombre = ? AND fecha >= ? AND fecha <= ?" +
+        (agui ? "" : " ORDER BY codigo");
+    std::vector<FilaMes> filas;
+    for (const auto& f : base.consulta(sql, claves(empresa, nombre, desde, hasta)).filas) {
+        FilaMes m;
+        if (!agui) {
+            m.codigo = static_cast<long>(f.entero("codigo"));
+            m.gravado = f.texto("gravado");
+            m.ipd = f.texto("ipd");
+        }
+        m.concepto = f.texto("concepto");
+        m.tipo = f.texto("tipo");
+        m.total = common::Dinero::desdeDouble(f.real("total"));
+        filas.push_back(std::move(m));
+    }
+    return filas;
+}
+
+std::vector<FilaSalVac> leerSalvacacional(store::Conexion& base, const std::string& empresa,
+                                          const std::string& nombre, const common::Mes& desde,
+                                          const common::Mes& hasta) {
+    std::vector<FilaSalVac> filas;
+    for (const auto& f :
+         base.consulta("SELECT codigo, concepto, total FROM salvacacional WHERE empresa = ? AND "
+                       "nombre = ? AND fecha >= ? AND fecha <= ?",
+                       claves(empresa, nombre, desde, hasta))
+             .filas)
+        filas.push_back({static_cast<long>(f.entero("codigo")), f.texto("concepto"),
+                         common::Dinero::desdeDouble(f.real("total"))});
+    return filas;
+}
+
+bool hayEgresos(store::Conexion& base, const std::string& empresa, const std::string& nombre,
+                const common::Mes& mes) {
+    return !base.consulta("SELECT 1 FROM egresos WHERE empresa = ? AND nombre = ? AND fecha = ? "
+                          "LIMIT 1",
+                          {empresa, nombre, mes.primerDia().iso()})
+                .vacio();
+}
+
+void escribirFila(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
+                  const std::string& nombre, const common::Mes& mes, const FilaGenerada& f) {
+    if (tabla == TablaLiquidacion::Aguinaldos)
+        throw common::Fallo(5, "Las filas de aguinaldos no se escriben aquí");
+    const std::string t = nombreTabla(tabla);
+    const std::string fecha = mes.primerDia().iso();
+    const std::int64_t codigo = f.codigo;
+    const auto cambiadas = base.ejecuta(
+        "UPDATE " + t +
+            " SET concepto = ?, unidad = ?, cant = ?, total = ? WHERE empresa = ? AND nombre = ? "
+            "AND fecha = ? AND codigo = ?",
+        {f.concepto, f.unidad, f.cant, f.total.aDouble(), empresa, nombre, fecha, codigo});
+    if (cambiadas > 0) return;
+    base.ejecuta("INSERT INTO " + t +
+                     " (empresa, nombre, fecha, codigo, concepto, tipo, unidad, permanente, "
+                     "gravado, aguinaldo, cant, total, lic, ipd) VALUES (?, ?, ?, ?, ?, ?, ?, ?, "
+                     "?, ?, ?, ?, ?, ?)",
+                 {empresa, nombre, fecha, codigo, f.concepto, f.tipo, f.unidad, f.permanente,
+                  f.gravado, f.aguinaldo, f.cant, f.total.aDouble(), f.lic, f.ipd});
+}
+
+bool empiezaCon(const std::string& texto, const char* prefijo) {
+    return texto.rfind(prefijo, 0) == 0;
+}
+
+bool esAporteLegal(const std::string& concepto) {
+    return empiezaCon(concepto, "MONTEPIO") || empiezaCon(concepto, "SNIS") ||
+           empiezaCon(concepto, "FRL");
+}
+
+common::Dinero sumaHab(const std::vector<FilaMes>& filas) {
+    common::Dinero s;
+    for (const auto& f : filas)
+        if (f.tipo == "Hab") s += f.total;
+    return s;
+}
+
+common::Dinero sumaPrefijo(const std::vector<FilaMes>& filas, const char* tipo,
+                           const char* prefijo) {
+    common::Dinero s;
+    for (const auto& f : filas)
+        if (f.tipo == tipo && empiezaCon(f.concepto, prefijo)) s += f.total;
+    return s;
+}
+
+common::Dinero sumaAportes(const std::vector<FilaMes>& filas) {
+    common::Dinero s;
+    for (const auto& f : filas)
+        if (f.tipo == "Des" && esAporteLegal(f.concepto)) s += f.total;
+    return s;
+}
+
+}  // namespace nomira::engine
