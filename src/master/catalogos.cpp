@@ -50,12 +50,6 @@ const std::string& columnaDe(const store::Tabla& t, std::string_view columna) {
     return t.columnas[static_cast<std::size_t>(i)].nombre;
 }
 
-// El orden de carga: SELECT * sin ORDER BY devuelve las filas así en los dos
-// motores, pero sólo pidiéndolo queda asegurado.
-std::string ordenDeCarga(const store::Conexion& base) {
-    return base.motor() == store::Motor::Sqlite ? " ORDER BY rowid" : " ORDER BY ctid";
-}
-
 std::string condicionesIguales(const store::Tabla& t,
                                const std::vector<std::pair<std::string, std::string>>& iguales,
                                std::vector<store::Valor>& parametros) {
@@ -68,6 +62,10 @@ std::string condicionesIguales(const store::Tabla& t,
 }
 
 }  // namespace
+
+std::string ordenDeCarga(const store::Conexion& base) {
+    return base.motor() == store::Motor::Sqlite ? " ORDER BY rowid" : " ORDER BY ctid";
+}
 
 bool esTablaDeReferencia(std::string_view tabla) {
     return std::find(kReferencia.begin(), kReferencia.end(), tabla) != kReferencia.end();

@@ -19,6 +19,10 @@ bool esTablaDeReferencia(std::string_view tabla);
 // la fila no tiene guion. Una tabla que no es de referencia lanza Fallo.
 std::string codigoEnCatalogo(store::Conexion& base, std::string_view tabla, std::string_view texto);
 
+// " ORDER BY ..." del orden en que se cargaron las filas: SELECT * sin orden
+// las devuelve así en los dos motores, pero sólo pidiéndolo queda asegurado.
+std::string ordenDeCarga(const store::Conexion& base);
+
 // Filtro de una lista dependiente: (columna, texto). Los registros guardan el
 // texto sin código, por eso cada filtro es `columna Like '*texto'`.
 using FiltrosCatalogo = std::vector<std::pair<std::string, std::string>>;
