@@ -40,8 +40,7 @@ bool mesConComplementoSNIS(const common::Mes& mes, const std::string& tipoaporte
     return tipoaporte != "04" && (mes.mes == 6 || mes.mes == 12) && psnis > 3 && !excepcion;
 }
 
-std::string textoFilaAporte(const std::string& concepto, bool hayag, double psnisag,
-                            double psnis) {
+std::string textoFilaAporte(const std::string& concepto, bool hayag, double psnisag, double psnis) {
     // Los porcentajes de MONTEPIO y FRL son palabras fijas: no siguen la fórmula.
     if (concepto == "MONTEPIO") return "MONTEPIO 15%";
     if (concepto == "FRL") return "FRL 0.10%";
@@ -113,8 +112,8 @@ TasasDes tasasDes(const EntradaTasas& e) {
     t.pirpf = e.montoirpf == common::Dinero() ? 0 : e.irpf.aDouble() / e.montoirpf.aDouble();
     t.explicacion = "SNIS " + numero(t.psnis) + "% sobre " + pesos(e.snis.montograv) +
                     (t.hayag ? " (aguinaldo " + numero(t.psnisag) + "%)" : "") + ", MONTEPIO " +
-                    numero(t.pmontepio) + "%, FRL " + numero(t.pfrl) + "%, IRPF " +
-                    pesos(e.irpf) + " / " + pesos(e.montoirpf);
+                    numero(t.pmontepio) + "%, FRL " + numero(t.pfrl) + "%, IRPF " + pesos(e.irpf) +
+                    " / " + pesos(e.montoirpf);
     return t;
 }
 

@@ -41,7 +41,7 @@ struct EntradaAporte {
     common::Dinero aguinaldosHab;  // filas Hab de aguinaldos del mes
     common::Dinero snisAguinaldo;  // la fila SNIS de aguinaldos del mes
     common::Dinero montograv;
-    bool tafap = false;  // socmedica: "T.Afap/Perm." en "Si"
+    bool tafap = false;                 // socmedica: "T.Afap/Perm." en "Si"
     double tope = kTopeAfapPorDefecto;  // TOPEAFAP, o TOPEAFAPA con la letra "A"
 };
 
@@ -58,8 +58,7 @@ FilaAporte ajustarAporte(const EntradaAporte& e);
 
 // "SNIS AG. 1.5% + MG. 4.5%" o "SNIS 4.5%"; "MONTEPIO 15%"; "FRL 0.10%"; los
 // demás quedan como están.
-std::string textoFilaAporte(const std::string& concepto, bool hayag, double psnisag,
-                            double psnis);
+std::string textoFilaAporte(const std::string& concepto, bool hayag, double psnisag, double psnis);
 
 // El porcentaje escrito en la fórmula: lo que hay entre el primer "*" y el
 // primer ")", leído con Val. Un ")" antes del "*" lanza Fallo(5).

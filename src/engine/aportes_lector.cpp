@@ -128,8 +128,8 @@ DescuentoGenerado generarDescuento(ContextoFormula& ctx, const ConceptoDescuento
     if (op.tabla == TablaLiquidacion::Habydesc && hayEgresos(base, ctx.empresa, ctx.nombre, mes))
         return r;
     escribirFila(base, op.tabla, ctx.empresa, ctx.nombre, mes,
-                 {c.codigo, r.fila.concepto, "Des", c.unidad, c.permanente, c.gravado,
-                  c.aguinaldo, c.lic, c.ipd, ctx.cant, r.fila.total});
+                 {c.codigo, r.fila.concepto, "Des", c.unidad, c.permanente, c.gravado, c.aguinaldo,
+                  c.lic, c.ipd, ctx.cant, r.fila.total});
     r.escrita = true;
     return r;
 }

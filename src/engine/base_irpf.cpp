@@ -32,8 +32,8 @@ BaseMes Desglose(const EntradaDesglose& e) {
                     " (vacacional " + pesos(b.parteVacacional) + ")";
     if (e.tipoaporte != "04" && (e.sueldo != 0 || !vinculoSinAdicion(e.vinculofun)) &&
         b.montoirpf.aDouble() > 10 * e.bpc) {
-        b.montoirpf = common::Dinero::desdeDouble(b.montoirpf.aDouble() +
-                                                  b.montograv.aDouble() * 6 / 100);
+        b.montoirpf =
+            common::Dinero::desdeDouble(b.montoirpf.aDouble() + b.montograv.aDouble() * 6 / 100);
         b.conAdicion = true;
         b.explicacion += "; más de 10 BPC: + 6% del gravado = " + pesos(b.montoirpf);
     }

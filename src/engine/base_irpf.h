@@ -13,16 +13,16 @@
 namespace nomira::engine {
 
 struct EntradaDesglose {
-    std::vector<FilaMes> filas;     // habydesc del mes, haberes y descuentos
-    common::Dinero aguinaldosHab;   // filas Hab de aguinaldos del mes
-    common::Dinero salvacacional;   // salvacacional del mes, códigos 606 y 636
+    std::vector<FilaMes> filas;    // habydesc del mes, haberes y descuentos
+    common::Dinero aguinaldosHab;  // filas Hab de aguinaldos del mes
+    common::Dinero salvacacional;  // salvacacional del mes, códigos 606 y 636
     std::string tipoaporte, vinculofun;
     double sueldo = 0, bpc = 0;
 };
 
 struct BaseMes {
     common::Dinero montogravag, montosv, montograv, totalhab;
-    common::Dinero parteVacacional;  // salvacacional más las reliquidaciones de vacacional
+    common::Dinero parteVacacional;          // salvacacional más las reliquidaciones de vacacional
     common::Dinero montoirpf, montonominal;  // montonominal es también "M.Dedu."
     bool conAdicion = false;                 // se sumó el 6% del gravado
     LiquidoNeto liquido;

@@ -20,13 +20,12 @@ std::string sufijo(int i) {
 
 // categoriadeducciones: nombre Like '*código' y nombre2 Like '*categoría'; el
 // código es lo anterior al guion de nombre2.
-std::string codigoCategoria(store::Conexion& base, const std::string& ded,
-                            const std::string& cat) {
-    const auto r = base.consulta(
-        "SELECT nombre2 FROM categoriadeducciones WHERE " + store::condicionLike(base, "nombre") +
-            " AND " + store::condicionLike(base, "nombre2") + " LIMIT 1",
-        {store::patronLike(common::patronCatalogo(ded)),
-         store::patronLike(common::patronCatalogo(cat))});
+std::string codigoCategoria(store::Conexion& base, const std::string& ded, const std::string& cat) {
+    const auto r = base.consulta("SELECT nombre2 FROM categoriadeducciones WHERE " +
+                                     store::condicionLike(base, "nombre") + " AND " +
+                                     store::condicionLike(base, "nombre2") + " LIMIT 1",
+                                 {store::patronLike(common::patronCatalogo(ded)),
+                                  store::patronLike(common::patronCatalogo(cat))});
     const std::string c = r.vacio() ? "" : common::codigoDeCatalogo(r.primera().texto("nombre2"));
     return c.empty() ? "00" : c;
 }
@@ -35,8 +34,8 @@ std::string codigoCategoria(store::Conexion& base, const std::string& ded,
 
 std::optional<DatosPersona> leerDatosPersona(store::Conexion& base, const std::string& empresa,
                                              const std::string& nombre) {
-    const auto r = base.consulta("SELECT * FROM personal WHERE empresa = ? AND nombre = ?",
-                                 {empresa, nombre});
+    const auto r =
+        base.consulta("SELECT * FROM personal WHERE empresa = ? AND nombre = ?", {empresa, nombre});
     if (r.vacio()) return std::nullopt;
     const auto& f = r.primera();
     DatosPersona p;

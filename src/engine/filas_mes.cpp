@@ -66,9 +66,10 @@ std::vector<FilaSalVac> leerSalvacacional(store::Conexion& base, const std::stri
 
 bool hayEgresos(store::Conexion& base, const std::string& empresa, const std::string& nombre,
                 const common::Mes& mes) {
-    return !base.consulta("SELECT 1 FROM egresos WHERE empresa = ? AND nombre = ? AND fecha = ? "
-                          "LIMIT 1",
-                          {empresa, nombre, mes.primerDia().iso()})
+    return !base.consulta(
+                    "SELECT 1 FROM egresos WHERE empresa = ? AND nombre = ? AND fecha = ? "
+                    "LIMIT 1",
+                    {empresa, nombre, mes.primerDia().iso()})
                 .vacio();
 }
 

@@ -139,8 +139,7 @@ ResultadoIRPF calcularIRPF(const EntradaIRPF& e, const OpcionesIRPF& op) {
 
     // El crédito mira el nominal (o el primer argumento), no el monto con el 6%.
     if (r.totalmontoded != Dinero() && op.credito != CreditoIRPF::Ninguno) {
-        const Dinero base =
-            op.credito == CreditoIRPF::PorNominal ? e.montonominal : e.montoirpf;
+        const Dinero base = op.credito == CreditoIRPF::PorNominal ? e.montonominal : e.montoirpf;
         const double tasa = base.aDouble() > 15 * e.bpc ? 8 : 14;
         r.credito = Dinero::desdeDouble(r.totalmontoded.aDouble() * tasa / 100);
         exp += "; crédito " + numero(tasa) + "% = " + pesos(r.credito);
@@ -177,8 +176,7 @@ ResultadoIRPF calcularIRPF(const EntradaIRPF& e, const OpcionesIRPF& op) {
     return r;
 }
 
-std::string textoFilaIRPF(const std::string& concepto, const ResultadoIRPF& r,
-                          Dinero montoirpf) {
+std::string textoFilaIRPF(const std::string& concepto, const ResultadoIRPF& r, Dinero montoirpf) {
     using common::alinearDerecha;
     using common::formatear;
     if (r.total == Dinero())

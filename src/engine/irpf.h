@@ -24,16 +24,16 @@ struct OpcionesIRPF {
     // De dónde salen los aportes que se deducen; sin tabla no hay aportes (Form44).
     bool conAportes = true;
     TablaLiquidacion tablaAportes = TablaLiquidacion::Habydesc;
-    bool aguinaldoDeEgreso = false;    // Form45: menos la fila AGUINALDO x tasas
+    bool aguinaldoDeEgreso = false;       // Form45: menos la fila AGUINALDO x tasas
     bool escalaAguinaldoEnJunio = false;  // Form43: franjas > 2000 en junio
     bool saltaMultiEmpEnJunio = true;     // Form43 no salta la primera franja en junio
     double factorSlot08 = 1.0 / 12;       // casilla "08": BPC / 12 o la BPC entera
     CreditoIRPF credito = CreditoIRPF::PorNominal;
-    bool filasLicencia = true;         // contribuciones de una licencia que se teclea
-    bool restaAguinaldos = true;       // el IRPF de aguinaldos (salvo en junio)
+    bool filasLicencia = true;    // contribuciones de una licencia que se teclea
+    bool restaAguinaldos = true;  // el IRPF de aguinaldos (salvo en junio)
     bool restaSalvacacional = true;
     bool restaSalvacEnJunio = true;
-    bool resultadoCero = false;        // Form43: siempre 0
+    bool resultadoCero = false;  // Form43: siempre 0
 };
 OpcionesIRPF opcionesIRPFForm42();
 OpcionesIRPF opcionesIRPFForm43();
@@ -46,7 +46,7 @@ struct Dependiente {
     double multiplicador = 1;  // montoben; 1 si está vacío
     bool mayor = false;        // EsMayorde18 con fecha de nacimiento cargada
     int mesNacimiento = 0;
-    std::string fechadesde;    // fechadesdeben
+    std::string fechadesde;  // fechadesdeben
 };
 
 // Una casilla de otras deducciones: código de codigodeducciones ("00" si no
@@ -89,9 +89,9 @@ struct EntradaIRPF {
     Deducciones deducciones;
     std::vector<FilaEscala> escala;  // ya elegida (< 1000 o > 2000)
     bool multiEmp = false, nfam = false, l19321 = false;
-    common::Dinero aportes;           // los deducibles, ya con sus ajustes
-    common::Dinero irpfAguinaldo;     // fila IRPF de aguinaldos del mes
-    common::Dinero irpfSalvacacional; // filas IRPF de salvacacional del mes
+    common::Dinero aportes;            // los deducibles, ya con sus ajustes
+    common::Dinero irpfAguinaldo;      // fila IRPF de aguinaldos del mes
+    common::Dinero irpfSalvacacional;  // filas IRPF de salvacacional del mes
 };
 
 struct ResultadoIRPF {

@@ -61,8 +61,8 @@ ResultadoIRPFDic calcularIRPFDic(const EntradaIRPFDic& e) {
     r.escala = escala.impuesto;
     r.irpfag = Dinero::desdeDouble((r.inggrav - r.ingbase).aDouble() * escala.tasaAlcanzada / 100);
     exp += "; escala anual:" + escala.detalle + " = " + pesos(r.escala) +
-           "; aguinaldo y vacacional a la tasa " + numero(escala.tasaAlcanzada) + "% = " +
-           pesos(r.irpfag);
+           "; aguinaldo y vacacional a la tasa " + numero(escala.tasaAlcanzada) +
+           "% = " + pesos(r.irpfag);
 
     Dinero ingbase = r.ingbase;
     if (r.totalmontoded != Dinero()) {

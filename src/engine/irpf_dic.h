@@ -20,12 +20,12 @@ struct EntradaIRPFDic {
     Deducciones deducciones;
     std::vector<FilaEscala> escala;  // franjas < 1000
     bool multiEmp = false, nfam = false, l19321 = false;
-    std::string fechaMultiEmp;       // socmedica desde el carácter 10
+    std::string fechaMultiEmp;                     // socmedica desde el carácter 10
     std::array<common::Dinero, 12> aguinaldosHab;  // por mes, se toma su doceavo
-    common::Dinero salvacacional;    // 606 y 636 del año
-    std::vector<FilaMes> ingresos;   // Hab del año (habydesc; egresos en Form45)
-    common::Dinero aportesDelAnio;   // MONTEPIO, SNIS y FRL del año
-    common::Dinero retenidoDelAnio;  // filas IRPF del año
+    common::Dinero salvacacional;                  // 606 y 636 del año
+    std::vector<FilaMes> ingresos;                 // Hab del año (habydesc; egresos en Form45)
+    common::Dinero aportesDelAnio;                 // MONTEPIO, SNIS y FRL del año
+    common::Dinero retenidoDelAnio;                // filas IRPF del año
 };
 
 struct ResultadoIRPFDic {

@@ -63,8 +63,8 @@ std::vector<FilaEscala> leerEscala(store::Conexion& base, bool delAguinaldo) {
     const std::string donde = delAguinaldo ? "franja > 2000" : "franja < 1000";
     for (const auto& f :
          base.consulta("SELECT * FROM franjasirp WHERE " + donde + " ORDER BY franja").filas)
-        escala.push_back({static_cast<long>(f.entero("franja")), f.real("min"), f.real("max"),
-                          f.real("tasa")});
+        escala.push_back(
+            {static_cast<long>(f.entero("franja")), f.real("min"), f.real("max"), f.real("tasa")});
     return escala;
 }
 
@@ -92,10 +92,10 @@ ResultadoIRPF CalculoIRPF(ContextoFormula& ctx, Dinero montoirpf, Dinero montono
         leerFilasDelMes(base, TablaLiquidacion::Habydesc, ctx.empresa, ctx.nombre, mes);
     if (op.conAportes) {
         const Dinero ajuste = ajusteJunio(ctx, habydesc, persona, dialogo);
-        const auto filas = op.tablaAportes == TablaLiquidacion::Habydesc
-                               ? habydesc
-                               : leerFilasDelMes(base, op.tablaAportes, ctx.empresa, ctx.nombre,
-                                                 mes);
+        const auto filas =
+            op.tablaAportes == TablaLiquidacion::Habydesc
+                ? habydesc
+                : leerFilasDelMes(base, op.tablaAportes, ctx.empresa, ctx.nombre, mes);
         e.aportes = aportesDeducibles(filas, ajuste);
         if (op.aguinaldoDeEgreso) {
             Dinero aguinaldo;
@@ -146,8 +146,8 @@ ResultadoIRPFDic CalculoIRPFDic(ContextoFormula& ctx, bool conEgresos, common::D
         e.aportesDelAnio += sumaAportes(egresos);
     }
     for (int m = 1; m <= 12; ++m)
-        e.aguinaldosHab[m - 1] = sumaHab(leerFilasDelMes(base, TablaLiquidacion::Aguinaldos,
-                                                         empresa, nombre, {enero.anio, m}));
+        e.aguinaldosHab[m - 1] = sumaHab(
+            leerFilasDelMes(base, TablaLiquidacion::Aguinaldos, empresa, nombre, {enero.anio, m}));
     for (const auto& s : salvac)
         if (s.codigo == 606 || s.codigo == 636) e.salvacacional += s.total;
     // Lo ya retenido: una fila de diciembre ya guardada también cuenta.

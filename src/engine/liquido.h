@@ -14,8 +14,8 @@ namespace nomira::engine {
 
 struct OpcionesLiquido {
     TablaLiquidacion tabla = TablaLiquidacion::Habydesc;
-    bool soloLiquidoNeto = false;     // Form43: sólo LIQUIDONETO
-    bool adelantosEnLegales = true;   // ADELANTOS LICENCIA y QUINCENA entran
+    bool soloLiquidoNeto = false;    // Form43: sólo LIQUIDONETO
+    bool adelantosEnLegales = true;  // ADELANTOS LICENCIA y QUINCENA entran
 };
 OpcionesLiquido opcionesLiquidoForm42();
 OpcionesLiquido opcionesLiquidoForm43();
@@ -40,8 +40,8 @@ struct AntAlim {
     common::Dinero antiguedad, total;
 };
 AntAlim antAlim(const std::vector<FilaMes>& filas);
-AntAlim CalculoAntAlim(store::Conexion& base, const std::string& empresa,
-                       const std::string& nombre, const common::Mes& mes);
+AntAlim CalculoAntAlim(store::Conexion& base, const std::string& empresa, const std::string& nombre,
+                       const common::Mes& mes);
 
 // Todas las filas de egresos del mes, haberes y descuentos.
 common::Dinero CalculoTotalHaberesEgresos(store::Conexion& base, const std::string& empresa,

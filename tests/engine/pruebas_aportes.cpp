@@ -112,13 +112,12 @@ class AportesMes : public pruebas::BaseFormula {
         const auto b = leerDesglose(*base, "ACME", c.nombre, c.periodo, c.tipoaporte, "", 1, 6864);
         volcarEnContexto(b, c);
         return generarDescuento(c, {codigo, concepto, formula, "%", "Si", "", "", "", ""},
-                                opcionesAportesForm42(),
-                                dialogo);
+                                opcionesAportesForm42(), dialogo);
     }
     double totalFila(long codigo, std::string* texto = nullptr) {
-        const auto r = base->consulta(
-            "SELECT concepto, total FROM habydesc WHERE nombre = ? AND codigo = ?",
-            {c.nombre, std::int64_t{codigo}});
+        const auto r =
+            base->consulta("SELECT concepto, total FROM habydesc WHERE nombre = ? AND codigo = ?",
+                           {c.nombre, std::int64_t{codigo}});
         EXPECT_EQ(r.filas.size(), 1u);
         if (r.vacio()) return -1;
         if (texto) *texto = r.primera().texto("concepto");
@@ -131,9 +130,10 @@ class AportesMes : public pruebas::BaseFormula {
 NOMIRA_PARA_CADA_MOTOR(AportesMes);
 
 TEST_P(AportesMes, SobreDosYMedioBPCConConyugeEHijo) {
-    persona("PEREZ, JUAN",
-            {{"sexocon", "MSi"}, {"causaben", "01-Hijo"}, {"fechanacben", "2015-04-02"},
-             {"socmedica", "NoCNoNoNo"}});
+    persona("PEREZ, JUAN", {{"sexocon", "MSi"},
+                            {"causaben", "01-Hijo"},
+                            {"fechanacben", "2015-04-02"},
+                            {"socmedica", "NoCNoNoNo"}});
     haber(1, "SUELDO", 30000);
     std::string texto;
     generar(501, "MONTEPIO", kMontepio);
