@@ -1,9 +1,13 @@
 #include "screens/registro.h"
 
 #include "frame/ventana/registro_pantallas.h"
+#include "screens/personal/pantalla_personal.h"
 
 namespace nomira::pantallas {
 
-void registrarTodas() { ventana::registrarPantallasDelMarco(); }
+void registrarTodas() {
+    ventana::registrarPantallasDelMarco();
+    registrarPantallasPersonal();
+}
 
 }  // namespace nomira::pantallas
