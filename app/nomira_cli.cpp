@@ -17,6 +17,7 @@ int main(int argc, char** argv) {
     cli::registrarOrdenesFormula(app, ctx);
     cli::registrarOrdenesMantenimiento(app, ctx);
     cli::registrarOrdenesDatos(app, ctx);
+    cli::registrarOrdenesVariables(app, ctx);
 
     try {
         app.parse(argc, argv);

@@ -26,5 +26,6 @@ void registrarOrdenesBase(CLI::App& app, Contexto& ctx);
 void registrarOrdenesFormula(CLI::App& app, Contexto& ctx);
 void registrarOrdenesMantenimiento(CLI::App& app, Contexto& ctx);
 void registrarOrdenesDatos(CLI::App& app, Contexto& ctx);
+void registrarOrdenesVariables(CLI::App& app, Contexto& ctx);
 
 }  // namespace nomira::cli

@@ -162,6 +162,22 @@ std::optional<std::string> agregarConceptoPersona(store::Conexion& base, const s
     return std::nullopt;
 }
 
+std::vector<Concepto> listarConceptosPersona(store::Conexion& base, const std::string& empresa,
+                                             const std::string& nombre) {
+    std::vector<Concepto> lista;
+    for (const auto& f : base.consulta("SELECT codigo, concepto, tipo FROM concpermxpers WHERE "
+                                       "empresa = ? AND nombre = ? ORDER BY codigo",
+                                       {empresa, nombre})
+                             .filas) {
+        Concepto c;
+        c.codigo = f.texto("codigo");
+        c.concepto = f.texto("concepto");
+        c.tipo = f.texto("tipo");
+        lista.push_back(std::move(c));
+    }
+    return lista;
+}
+
 void eliminarConceptoPersona(store::Conexion& base, const std::string& empresa,
                              const std::string& nombre, long codigo) {
     base.ejecuta("DELETE FROM concpermxpers WHERE empresa = ? AND nombre = ? AND codigo = ?",

@@ -60,6 +60,9 @@ bool existeConceptoPersona(store::Conexion& base, const std::string& empresa,
 // Devuelve el mensaje que lo impide (código inexistente, ya permanente), o nada.
 std::optional<std::string> agregarConceptoPersona(store::Conexion& base, const std::string& empresa,
                                                   const std::string& nombre, long codigo);
+// Los permanentes de la persona, por código.
+std::vector<Concepto> listarConceptosPersona(store::Conexion& base, const std::string& empresa,
+                                             const std::string& nombre);
 void eliminarConceptoPersona(store::Conexion& base, const std::string& empresa,
                              const std::string& nombre, long codigo);
 

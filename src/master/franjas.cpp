@@ -1,6 +1,7 @@
 #include "master/franjas.h"
 
 #include "common/dinero.h"
+#include "common/formato.h"
 
 namespace nomira::master {
 
@@ -40,6 +41,18 @@ std::vector<Franja> listarFranjas(store::Conexion& base) {
     for (const auto& f : base.consulta("SELECT * FROM franjasirp ORDER BY franja").filas)
         lista.push_back(leer(f));
     return lista;
+}
+
+std::vector<std::string> lineasListaFranjas(const std::vector<Franja>& franjas) {
+    std::vector<std::string> lineas = {"", "Franjas IRP", "",
+                                       "    Franja         Min         Max        Tasa"};
+    for (const auto& f : franjas) {
+        std::string linea = common::alinearDerecha(std::to_string(f.franja), 10);
+        for (double v : {f.min, f.max, f.tasa})
+            linea += common::alinearDerecha(common::formatear(v, "##,##0.00"), 12);
+        lineas.push_back(linea);
+    }
+    return lineas;
 }
 
 }  // namespace nomira::master

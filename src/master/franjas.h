@@ -3,6 +3,7 @@
 // menores de 1000 son la escala mensual, las mayores de 2000 la otra; aquí
 // todas se tratan igual.
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "store/conexion.h"
@@ -21,5 +22,8 @@ void reemplazarFranja(store::Conexion& base, const Franja& f);
 std::optional<Franja> buscarFranja(store::Conexion& base, long franja);
 std::int64_t eliminarFranja(store::Conexion& base, long franja);
 std::vector<Franja> listarFranjas(store::Conexion& base);
+
+// El listado impreso "Franjas IRP".
+std::vector<std::string> lineasListaFranjas(const std::vector<Franja>& franjas);
 
 }  // namespace nomira::master

@@ -1,6 +1,7 @@
 #include "master/variables.h"
 
 #include "common/dinero.h"
+#include "common/formato.h"
 
 namespace nomira::master {
 
@@ -70,6 +71,17 @@ std::vector<FilaVariable> listarOtrasVariables(store::Conexion& base) {
 std::vector<FilaVariable> listarTodasLasVariables(store::Conexion& base) {
     return filas(base.consulta(
         "SELECT nombre, fecha, valor FROM definiciondevariables ORDER BY nombre, fecha"));
+}
+
+std::vector<std::string> lineasListaVariables(const std::vector<FilaVariable>& filas) {
+    // Cada columna del ancho de su encabezado; el valor alineado a la derecha.
+    std::vector<std::string> lineas = {"", "Definición de Variables", "",
+                                       "              Nombre    Fecha      Valor"};
+    for (const auto& f : filas)
+        lineas.push_back(common::alinearIzquierda(common::cortar(f.nombre, 20), 20) + " " +
+                         common::alinearIzquierda(f.fecha, 8) + " " +
+                         common::alinearDerecha(common::formatear(f.valor, "##,##0.00"), 10));
+    return lineas;
 }
 
 }  // namespace nomira::master

@@ -63,4 +63,7 @@ std::vector<FilaVariable> listarVariable(store::Conexion& base, const std::strin
 std::vector<FilaVariable> listarOtrasVariables(store::Conexion& base);
 std::vector<FilaVariable> listarTodasLasVariables(store::Conexion& base);
 
+// El listado impreso "Definición de Variables".
+std::vector<std::string> lineasListaVariables(const std::vector<FilaVariable>& filas);
+
 }  // namespace nomira::master

@@ -1,6 +1,7 @@
 #include "screens/registro.h"
 
 #include "frame/ventana/registro_pantallas.h"
+#include "screens/conceptos/registro_conceptos.h"
 #include "screens/personal/pantalla_personal.h"
 
 namespace nomira::pantallas {

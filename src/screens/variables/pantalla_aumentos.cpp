@@ -1,0 +1,143 @@
+#include "screens/variables/pantalla_aumentos.h"
+
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "common/formato.h"
+#include "common/numeros.h"
+#include "common/reloj.h"
+#include "common/texto.h"
+#include "master/aumentos.h"
+#include "master/catalogos.h"
+#include "master/empresas.h"
+
+namespace nomira::pantallas {
+
+namespace {
+
+std::string s(const QLineEdit* c) { return c->text().trimmed().toStdString(); }
+std::string s(const QComboBox* c) { return c->currentText().trimmed().toStdString(); }
+
+// El porcentaje se muestra con miles agrupados: la coma no es decimal.
+double porcentajeDe(const QLineEdit* c) {
+    auto texto = s(c);
+    std::erase(texto, ',');
+    return common::textoANumero(texto);
+}
+
+QPushButton* nuevoBoton(const char* texto, const char* nombre) {
+    auto* b = new QPushButton(texto);
+    b->setObjectName(nombre);
+    b->setAutoDefault(false);
+    return b;
+}
+
+}  // namespace
+
+PantallaAumentos::PantallaAumentos(frame::Sesion& sesion, master::CategoriaLaboral sector,
+                                   QWidget* padre)
+    : PantallaAbm(sesion, "Form408", "Actualizar Sueldos", padre), sector_(std::move(sector)) {
+    categoria = new ventana::ComboCatalogo(sesion, "Form390", [this] {
+        return master::valoresCatalogo(base(), "categorias",
+                                       {{"nombre", sector_.grupo},
+                                        {"nombre2", sector_.subgrupo},
+                                        {"nombre3", sector_.sector}});
+    });
+    empresa->setEditable(true);
+    empresa->addItem("");
+    intentar("Form_Load", [this] {
+        for (const auto& e : master::nombresDeEmpresas(base())) empresa->addItem(QString::fromStdString(e));
+    });
+
+    auto* campos = new QFormLayout;
+    const std::tuple<const char*, const char*, QWidget*> filas[] = {
+        {"Recuperación", "recuperacion", recuperacion}, {"Inflación", "inflacion", inflacion},
+        {"Porcentaje", "porcentaje", porcentaje},       {"Empresa", "empresa", empresa},
+        {"Categoría", "categoria", categoria},          {"FSueVig.", "fsuevig", fsuevig}};
+    for (const auto& [etiqueta, nombre, campo] : filas) {
+        campo->setObjectName(nombre);
+        campos->addRow(etiqueta, campo);
+    }
+    for (auto* c : {recuperacion, inflacion, porcentaje}) c->setMaximumWidth(120);
+    auto* sectorElegido = new QLabel(QString::fromStdString(sector_.grupo + " / " + sector_.subgrupo +
+                                                             " / " + sector_.sector));
+    sectorElegido->setObjectName("sectorElegido");
+    sectorElegido->setVisible(!sector_.grupo.empty());
+
+    auto* cat = new QGroupBox("Sueldos mínimos por categoría");
+    auto* filaCat = new QHBoxLayout(cat);
+    auto* aumCat = nuevoBoton("Aum.Sueldos x Categorías", "AumentarSueldosCategorias");
+    auto* elimCat = nuevoBoton("Elim.Ult.Aum. x Categorías", "Eliminar");
+    filaCat->addWidget(aumCat);
+    filaCat->addWidget(elimCat);
+    auto* emp = new QGroupBox("Sueldos del personal");
+    auto* filaEmp = new QHBoxLayout(emp);
+    auto* aumEmp = nuevoBoton("Aum.Sueldos x Empresa", "AumentarSueldosEmpresa");
+    auto* bajar = nuevoBoton("Bajar Sueldos x Empresa", "Bajar");
+    filaEmp->addWidget(aumEmp);
+    filaEmp->addWidget(bajar);
+    connect(aumCat, &QPushButton::clicked, this, [this] { AumentarSueldosCategorias_Click(); });
+    connect(elimCat, &QPushButton::clicked, this, [this] { Eliminar_Click(); });
+    connect(aumEmp, &QPushButton::clicked, this, [this] { AumentarSueldosEmpresa_Click(false); });
+    connect(bajar, &QPushButton::clicked, this, [this] { AumentarSueldosEmpresa_Click(true); });
+
+    auto* todo = new QVBoxLayout(this);
+    todo->addWidget(sectorElegido);
+    todo->addLayout(campos);
+    todo->addWidget(cat);
+    todo->addWidget(emp);
+    todo->addStretch();
+    resize(480, 360);
+    tecla(QKeySequence(Qt::Key_F1), [this] { ayuda(); });
+
+    for (auto* c : {recuperacion, inflacion}) alPulsarEnter(c, [this] { return calcularPorcentaje(); });
+    recuperacion->setFocus();
+}
+
+// Recuperación e inflación se componen; la vacía vale 0.
+bool PantallaAumentos::calcularPorcentaje() {
+    for (auto* c : {recuperacion, inflacion})
+        if (s(c).empty()) c->setText("0");
+    const double p = master::porcentajeCompuesto(common::textoANumero(s(recuperacion)),
+                                                 common::textoANumero(s(inflacion)));
+    porcentaje->setText(QString::fromStdString(common::formatear(p, "##,##0.00")));
+    return true;
+}
+
+void PantallaAumentos::finalizado(const char* texto) {
+    dialogo().avisar(common::TipoAviso::Informacion, "Mensaje de confirmación", texto);
+}
+
+void PantallaAumentos::AumentarSueldosCategorias_Click() {
+    intentar("AumentarSueldosCategorias_Click", [this] {
+        if (s(porcentaje).empty()) return advertir("Debe completar el campo Porcentaje.");
+        master::aumentarSueldosMinimos(base(), sector_.grupo, sector_.subgrupo, sector_.sector,
+                                       porcentajeDe(porcentaje));
+        finalizado("Aumento de Sueldos Mínimos x Categorías finalizado.");
+    });
+}
+
+void PantallaAumentos::Eliminar_Click() {
+    intentar("Eliminar_Click", [this] {
+        master::eliminarUltimoAumento(base(), sector_.grupo, sector_.subgrupo, sector_.sector);
+        finalizado("Elimino Ult. Aum. x Categorías finalizado.");
+    });
+}
+
+void PantallaAumentos::AumentarSueldosEmpresa_Click(bool bajar) {
+    intentar(bajar ? "Bajar_Click" : "AumentarSueldosEmpresa_Click", [this, bajar] {
+        if (s(porcentaje).empty() || s(empresa).empty() || s(fsuevig).empty())
+            return advertir("Debe completar los campos Porcentaje, Empresa y FSueVig.");
+        const auto fecha = common::Fecha::desdeTexto(s(fsuevig));
+        if (!fecha) throw common::Fallo(13, "No coinciden los tipos");
+        master::PedidoAumento pedido{s(empresa), porcentajeDe(porcentaje), *fecha,
+                                     common::textoDeCatalogo(s(categoria)), bajar};
+        master::aumentarSueldosEmpresa(base(), pedido, common::hoy());
+        finalizado(bajar ? "Decremento de Sueldos x Empresas finalizado."
+                         : "Aumento de Sueldos x Empresas finalizado.");
+    });
+}
+
+}  // namespace nomira::pantallas

@@ -1,0 +1,39 @@
+#pragma once
+// Form408, "Actualizar Sueldos": el porcentaje de recuperación e inflación, el
+// aumento de los mínimos de las categorías de un sector (y su deshacer), y el
+// aumento o la baja de los sueldos de una empresa.
+#include <QComboBox>
+#include <QLineEdit>
+
+#include "frame/ventana/campo_fecha.h"
+#include "frame/ventana/combo_catalogo.h"
+#include "master/sueldos_minimos.h"
+#include "screens/variables/pantalla_abm.h"
+
+namespace nomira::pantallas {
+
+class PantallaAumentos : public PantallaAbm {
+    Q_OBJECT
+public:
+    // `sector`: grupo, subgrupo y sector elegidos en Form407 (la categoría no cuenta).
+    PantallaAumentos(frame::Sesion& sesion, master::CategoriaLaboral sector,
+                     QWidget* padre = nullptr);
+
+    QLineEdit* recuperacion = new QLineEdit;
+    QLineEdit* inflacion = new QLineEdit;
+    QLineEdit* porcentaje = new QLineEdit;
+    QComboBox* empresa = new QComboBox;
+    ventana::ComboCatalogo* categoria;
+    ventana::CampoFecha* fsuevig = new ventana::CampoFecha;
+
+private:
+    bool calcularPorcentaje();
+    void AumentarSueldosCategorias_Click();
+    void Eliminar_Click();
+    void AumentarSueldosEmpresa_Click(bool bajar);
+    void finalizado(const char* texto);
+
+    master::CategoriaLaboral sector_;
+};
+
+}  // namespace nomira::pantallas

@@ -1,0 +1,30 @@
+#pragma once
+// Form406, "Franjas IRPF": alta, búsqueda y baja de las franjas por su número.
+#include <QLineEdit>
+
+#include "frame/ventana/grilla.h"
+#include "screens/variables/pantalla_abm.h"
+
+namespace nomira::pantallas {
+
+class PantallaFranjas : public PantallaAbm {
+    Q_OBJECT
+public:
+    PantallaFranjas(frame::Sesion& sesion, QWidget* padre = nullptr);
+
+    QLineEdit* franja = new QLineEdit;
+    QLineEdit* min = new QLineEdit;
+    QLineEdit* max = new QLineEdit;
+    QLineEdit* tasa = new QLineEdit;
+    ventana::Grilla* grilla = new ventana::Grilla;
+
+private:
+    void Buscar_Click();
+    void Consultar_Click();
+    void Agregar_Click();
+    void Eliminar_Click();
+    void Imprimir_Click();
+    void limpiar();
+};
+
+}  // namespace nomira::pantallas
