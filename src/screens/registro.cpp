@@ -8,6 +8,7 @@ namespace nomira::pantallas {
 
 void registrarTodas() {
     ventana::registrarPantallasDelMarco();
+    registrarPantallasConceptos();
     registrarPantallasPersonal();
 }
 
