@@ -122,6 +122,19 @@ std::vector<std::vector<std::string>> filasCatalogo(
     return filas;
 }
 
+// La localidad llega sin código: se busca entera después de un guion, así
+// "Centro" no encuentra "01-Barrio Centro".
+std::optional<std::string> codigoPostal(store::Conexion& base, std::string_view depto,
+                                        std::string_view localidad) {
+    const auto r = base.consulta(
+        "SELECT nombre3 FROM local WHERE " + store::condicionLike(base, "nombre") + " AND (" +
+            store::condicionLike(base, "nombre2") + " OR nombre2 = ?)" + ordenDeCarga(base),
+        {store::patronLike("*" + std::string(depto)),
+         store::patronLike("*-" + std::string(localidad)), std::string(localidad)});
+    if (r.vacio()) return std::nullopt;
+    return r.primera().texto("nombre3");
+}
+
 void agregarACatalogo(store::Conexion& base, std::string_view tabla,
                       const std::vector<std::string>& valores) {
     const auto& t = tablaDeReferencia(tabla);

@@ -2,6 +2,7 @@
 // Las tablas de referencia guardan "código-texto" y los registros sólo el texto:
 // el código se vuelve a encontrar buscando el texto al final del valor.
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -44,6 +45,11 @@ std::vector<std::string> textosCatalogo(store::Conexion& base, std::string_view 
 std::vector<std::vector<std::string>> filasCatalogo(
     store::Conexion& base, std::string_view tabla,
     const std::vector<std::pair<std::string, std::string>>& iguales = {});
+
+// El código postal de la localidad del departamento, los dos como los guarda
+// la empresa (sin código); nada si `local` no la tiene.
+std::optional<std::string> codigoPostal(store::Conexion& base, std::string_view depto,
+                                        std::string_view localidad);
 
 // Una fila nueva con todas las columnas de la tabla en su orden (madres y
 // luego el valor). No se controla duplicado.

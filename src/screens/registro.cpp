@@ -2,6 +2,7 @@
 
 #include "frame/ventana/registro_pantallas.h"
 #include "screens/conceptos/registro_conceptos.h"
+#include "screens/empresas/registro_empresas.h"
 #include "screens/personal/pantalla_personal.h"
 
 namespace nomira::pantallas {
@@ -9,6 +10,7 @@ namespace nomira::pantallas {
 void registrarTodas() {
     ventana::registrarPantallasDelMarco();
     registrarPantallasConceptos();
+    registrarPantallasEmpresas();
     registrarPantallasPersonal();
 }
 

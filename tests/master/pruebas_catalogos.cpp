@@ -69,5 +69,15 @@ TEST_P(Catalogos, BajasYCodigos) {
     EXPECT_THROW(eliminarDeCatalogo(c(), "subgrupoact", {}), common::Fallo);
 }
 
+TEST_P(Catalogos, CodigoPostalDeLaLocalidad) {
+    agregarACatalogo(c(), "local", {"10-Montevideo", "01-Barrio Centro", "11000"});
+    agregarACatalogo(c(), "local", {"10-Montevideo", "02-Centro", "11100"});
+    agregarACatalogo(c(), "local", {"03-Canelones", "07-Centro", "91000"});
+    EXPECT_EQ(codigoPostal(c(), "Montevideo", "Centro"), "11100");
+    EXPECT_EQ(codigoPostal(c(), "Canelones", "centro"), "91000");
+    EXPECT_EQ(codigoPostal(c(), "Montevideo", "Barrio Centro"), "11000");
+    EXPECT_FALSE(codigoPostal(c(), "Salto", "Centro"));
+}
+
 }  // namespace
 }  // namespace nomira::master

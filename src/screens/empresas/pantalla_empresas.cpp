@@ -1,0 +1,198 @@
+#include "screens/empresas/pantalla_empresas.h"
+
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include "frame/carpeta.h"
+#include "frame/ventana/impresion.h"
+#include "master/archivo_texto.h"
+#include "master/configuracion.h"
+#include "master/informe_empresas.h"
+#include "screens/empresas/ficha_empresa.h"
+
+namespace nomira::pantallas {
+
+namespace {
+
+std::string s(const QString& q) {
+    return q.trimmed().toStdString();
+}
+
+}  // namespace
+
+PantallaEmpresas::PantallaEmpresas(frame::Sesion& sesion, QWidget* padre)
+    : Pantalla(sesion, "Form2", "Empresas", padre) {
+    empresa_ = new ventana::ComboCatalogo(sesion_, "",
+                                          [this] { return master::nombresDeEmpresas(base()); });
+    empresa_->setObjectName("Empresa");
+    empresa_->setMinimumWidth(320);
+    buscarPor_ = new QLineEdit;
+    buscarPor_->setObjectName("BuscarPor");
+    grilla_ = new ventana::Grilla;
+    elegirCarpeta_ = [this] {
+        return QFileDialog::getExistingDirectory(this, "Copiar empresas.txt a la carpeta");
+    };
+
+    auto* barra = new QToolBar;
+    barra->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    const std::tuple<const char*, Qt::Key, void (PantallaEmpresas::*)()> acciones[] = {
+        {"Buscar", Qt::Key_F2, &PantallaEmpresas::buscar},
+        {"Consultar", Qt::Key_F3, &PantallaEmpresas::consultar},
+        {"Agregar", Qt::Key_F5, &PantallaEmpresas::agregar},
+        {"Modificar", Qt::Key_F6, &PantallaEmpresas::modificar},
+        {"Eliminar", Qt::Key_F7, &PantallaEmpresas::eliminar},
+        {"Imprimir", Qt::Key_F8, &PantallaEmpresas::imprimir},
+        {"Copiar", Qt::Key_F9, &PantallaEmpresas::copiar},
+    };
+    for (const auto& [nombre, f, metodo] : acciones) {
+        auto* a = barra->addAction(QString("%1 (F%2)").arg(nombre).arg(f - Qt::Key_F1 + 1));
+        a->setObjectName(nombre);
+        connect(a, &QAction::triggered, this, metodo);
+        tecla(QKeySequence(f), [this, metodo] { (this->*metodo)(); });
+    }
+
+    // Las claves de orden de la grilla.
+    auto* claves = new QGroupBox("Ordenar por");
+    auto* fila = new QGridLayout(claves);
+    using O = master::OrdenEmpresas;
+    const std::pair<const char*, O> ordenes[] = {
+        {"Dirección", O::Direccion}, {"Teléfono", O::Telefono}, {"Actividad", O::Actividad},
+        {"R.U.T.", O::Ruc},          {"B.P.S.", O::Bps},        {"TipoContrib", O::TipoContrib},
+        {"TipoAport", O::TipoAport}, {"GrupoAct", O::GrupoAct}, {"SubGrupoAct", O::SubGrupoAct},
+    };
+    int i = 0;
+    for (const auto& [texto, orden] : ordenes) {
+        auto* b = new QPushButton(texto);
+        b->setAutoDefault(false);
+        b->setFocusPolicy(Qt::NoFocus);
+        connect(b, &QPushButton::clicked, this, [this, orden] { ordenar(orden); });
+        fila->addWidget(b, 0, i++);
+    }
+
+    auto* arriba = new QGridLayout;
+    arriba->addWidget(new QLabel("Empresa"), 0, 0);
+    arriba->addWidget(empresa_, 0, 1);
+    arriba->addWidget(new QLabel("Buscar por"), 0, 2);
+    arriba->addWidget(buscarPor_, 0, 3);
+    arriba->setColumnStretch(1, 2);
+    arriba->setColumnStretch(3, 1);
+    alPulsarEnter(buscarPor_, [this] {
+        if (s(buscarPor_->text()).empty()) {
+            advertir("Debe completar el campo Buscar por.");
+            return false;
+        }
+        ordenar(orden_);
+        return false;
+    });
+    // Elegir una fila de la grilla elige la empresa.
+    connect(grilla_, &QAbstractItemView::clicked, this,
+            [this] { empresa_->setCurrentText(QString::fromStdString(grilla_->elegida(1))); });
+
+    auto* todo = new QVBoxLayout(this);
+    todo->addWidget(barra);
+    todo->addLayout(arriba);
+    todo->addWidget(claves);
+    todo->addWidget(grilla_, 1);
+    resize(1000, 560);
+    intentar("Form_Load", [this] { desplegar(master::consultarEmpresas(base())); });
+}
+
+std::string PantallaEmpresas::nombre() const {
+    return s(empresa_->currentText());
+}
+
+void PantallaEmpresas::desplegar(std::vector<master::Empresa> empresas) {
+    mostradas_ = std::move(empresas);
+    grilla_->mostrar(master::encabezadosGrillaEmpresas(), master::filasGrillaEmpresas(mostradas_),
+                     {0, 2});
+}
+
+void PantallaEmpresas::consultar() {
+    intentar("Consultar_Click", [this] { desplegar(master::consultarEmpresas(base())); });
+}
+
+void PantallaEmpresas::ordenar(master::OrdenEmpresas orden) {
+    orden_ = orden;
+    intentar("Buscar_Click", [this] {
+        desplegar(master::consultarEmpresas(base(), orden_, s(buscarPor_->text())));
+    });
+}
+
+void PantallaEmpresas::abrirFicha(const std::function<void(FichaEmpresa&)>& preparar) {
+    if (ficha_) ficha_->close();
+    ficha_ = new FichaEmpresa(sesion_, this);
+    ficha_->setAttribute(Qt::WA_DeleteOnClose);
+    connect(ficha_, &QObject::destroyed, this, [this] { ficha_ = nullptr; });
+    // Después de guardar, la lista y la grilla muestran lo nuevo.
+    connect(ficha_, &FichaEmpresa::guardada, this, [this] {
+        empresa_->recargar();
+        consultar();
+    });
+    preparar(*ficha_);
+    ficha_->show();
+}
+
+void PantallaEmpresas::buscar() {
+    intentar("Buscar_Click", [this] {
+        const auto n = nombre();
+        if (n.empty()) return advertir("Debe completar el campo Empresa.");
+        if (auto e = master::leerEmpresa(base(), n))
+            abrirFicha([&](FichaEmpresa& f) { f.cargar(*e, true, true); });
+        else
+            abrirFicha([&](FichaEmpresa& f) { f.nueva(n); });
+    });
+}
+
+void PantallaEmpresas::agregar() {
+    intentar("Agregar_Click", [this] {
+        const auto n = nombre();
+        if (n.empty()) return advertir("Debe completar el campo Empresa.");
+        abrirFicha([&](FichaEmpresa& f) { f.nueva(n); });
+    });
+}
+
+void PantallaEmpresas::modificar() {
+    intentar("Modificar_Click", [this] {
+        const auto e = master::leerEmpresa(base(), nombre());
+        if (!e) return advertir("Debe seleccionar el campo Empresa.");
+        abrirFicha([&](FichaEmpresa& f) { f.cargar(*e, true, false); });
+    });
+}
+
+void PantallaEmpresas::eliminar() {
+    intentar("Eliminar_Click", [this] {
+        const auto e = master::leerEmpresa(base(), nombre());
+        if (!e) return advertir("Debe seleccionar el campo Empresa.");
+        abrirFicha([&](FichaEmpresa& f) { f.cargar(*e, false, true); });
+    });
+}
+
+void PantallaEmpresas::imprimir() {
+    intentar("Imprimir_Click", [this] {
+        const auto destino =
+            ventana::destinoDe(master::leerConfiguracion(base()), ventana::UsoImpresora::Informes);
+        ventana::imprimirLineas(master::lineasListadoEmpresas(mostradas_), destino, "empresas");
+    });
+}
+
+void PantallaEmpresas::copiar() {
+    intentar("Copiar_Click", [this] {
+        // GuardarOficial: la grilla en "<raíz>/Software/empresas.txt".
+        const auto archivo = frame::rutaSoftware("empresas.txt");
+        master::guardarLineas(archivo, master::lineasListadoEmpresas(mostradas_, ""));
+        const QString carpeta = elegirCarpeta_();
+        if (carpeta.isEmpty()) {
+            std::filesystem::remove(archivo);
+            return;
+        }
+        master::llevarACarpeta(archivo, carpeta.toStdString());
+    });
+}
+
+}  // namespace nomira::pantallas
