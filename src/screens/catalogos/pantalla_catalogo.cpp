@@ -9,27 +9,10 @@
 
 #include "common/texto.h"
 #include "master/catalogos.h"
+#include "screens/empresas/piezas.h"
 #include "store/esquema.h"
 
 namespace nomira::pantallas {
-
-namespace {
-
-QString q(const std::string& s) {
-    return QString::fromStdString(s);
-}
-std::string s(const QString& q) {
-    return q.trimmed().toStdString();
-}
-
-QPushButton* boton(const QString& texto, const QString& tecla, const QString& nombre) {
-    auto* b = new QPushButton(tecla.isEmpty() ? texto : texto + " (" + tecla + ")");
-    b->setObjectName(nombre);
-    b->setAutoDefault(false);
-    return b;
-}
-
-}  // namespace
 
 PantallaCatalogo::PantallaCatalogo(frame::Sesion& sesion,
                                    const ConfiguracionCatalogo& configuracion, QWidget* padre)
@@ -61,12 +44,12 @@ PantallaCatalogo::PantallaCatalogo(frame::Sesion& sesion,
     }
     abajo->addStretch();
     if (configuracion_.devuelve) {
-        auto* elegir = boton("Seleccionar", "F9", "Seleccionar");
+        auto* elegir = botonConTecla("Seleccionar", Qt::Key_F9);
         connect(elegir, &QPushButton::clicked, this, &PantallaCatalogo::seleccionar);
         tecla(QKeySequence(Qt::Key_F9), [this] { seleccionar(); });
         abajo->addWidget(elegir);
     }
-    auto* salir = boton("Salir", "", "Salir");
+    auto* salir = botonConTecla("Salir");
     connect(salir, &QPushButton::clicked, this, &QWidget::close);
     tecla(QKeySequence(Qt::Key_Escape), [this] { close(); });
     abajo->addWidget(salir);
@@ -120,10 +103,11 @@ QWidget* PantallaCatalogo::armarLista(int indice) {
         connect(madre, &QComboBox::activated, this,
                 [this, indice, k] { intentar("Combo1_KeyPress", [&] { llenar(indice, k + 1); }); });
     }
-    auto* agregar =
-        boton("Agregar", indice == 0 ? "F5" : "", "Agregar" + QString::number(indice + 1));
-    auto* eliminar =
-        boton("Eliminar", indice == 0 ? "F7" : "", "Eliminar" + QString::number(indice + 1));
+    // F5 y F7 sirven en las dos listas; el rótulo las muestra en la primera.
+    auto* agregar = botonConTecla("Agregar", indice == 0 ? Qt::Key_F5 : Qt::Key_unknown);
+    auto* eliminar = botonConTecla("Eliminar", indice == 0 ? Qt::Key_F7 : Qt::Key_unknown);
+    agregar->setObjectName("Agregar" + QString::number(indice + 1));
+    eliminar->setObjectName("Eliminar" + QString::number(indice + 1));
     connect(agregar, &QPushButton::clicked, this, [this, indice] { this->agregar(indice); });
     connect(eliminar, &QPushButton::clicked, this, [this, indice] { this->eliminar(indice); });
     auto* botones = new QHBoxLayout;
@@ -153,11 +137,11 @@ void PantallaCatalogo::llenar(int lista, int columna) {
     std::vector<std::pair<std::string, std::string>> iguales;
     for (int k = 0; k < columna; ++k)
         iguales.emplace_back(tabla.columnas[static_cast<std::size_t>(k)].nombre,
-                             s(c.combos[static_cast<std::size_t>(k)]->currentText()));
+                             deQt(c.combos[static_cast<std::size_t>(k)]->currentText()));
     const auto escrito = combo->currentText();
     combo->clear();
     for (const auto& fila : master::filasCatalogo(base(), origen, iguales))
-        combo->addItem(q(fila.at(static_cast<std::size_t>(columna))));
+        combo->addItem(aQt(fila.at(static_cast<std::size_t>(columna))));
     combo->setCurrentText(columna == 0 ? escrito : QString());
 }
 
@@ -195,7 +179,7 @@ void PantallaCatalogo::agregar(int lista) {
         bool vacio = false, sinGuion = false;
         for (std::size_t k = 0; k < l.columnas.size(); ++k) {
             const std::string v =
-                c.combos[k] ? s(c.combos[k]->currentText()) : s(c.libres[k]->text());
+                c.combos[k] ? deQt(c.combos[k]->currentText()) : deQt(c.libres[k]->text());
             if (c.combos[k]) {
                 vacio = vacio || v.empty();
                 sinGuion = sinGuion || v.find('-') == std::string::npos;
@@ -206,7 +190,7 @@ void PantallaCatalogo::agregar(int lista) {
         if (sinGuion) return advertir(l.mensajeSinGuion);
         master::agregarACatalogo(base(), l.tabla, valores);
         auto* combo = c.combos[static_cast<std::size_t>(valor(lista))];
-        combo->addItem(q(valores[static_cast<std::size_t>(valor(lista))]));
+        combo->addItem(aQt(valores[static_cast<std::size_t>(valor(lista))]));
         combo->setCurrentText("");
         for (auto* e : c.libres)
             if (e) e->clear();
@@ -220,13 +204,13 @@ void PantallaCatalogo::eliminar(int lista) {
         const auto& c = campos_[static_cast<std::size_t>(lista)];
         const int v = valor(lista);
         auto* combo = c.combos[static_cast<std::size_t>(v)];
-        if (s(combo->currentText()).empty()) return advertir(l.mensajeVacio);
+        if (deQt(combo->currentText()).empty()) return advertir(l.mensajeVacio);
         const auto& tabla = store::tabla(l.tabla);
         std::vector<std::pair<std::string, std::string>> iguales;
         for (int k = 0; k <= v; ++k)
             if (c.combos[static_cast<std::size_t>(k)])
                 iguales.emplace_back(tabla.columnas[static_cast<std::size_t>(k)].nombre,
-                                     s(c.combos[static_cast<std::size_t>(k)]->currentText()));
+                                     deQt(c.combos[static_cast<std::size_t>(k)]->currentText()));
         master::eliminarDeCatalogo(base(), l.tabla, iguales);
         const int i = combo->findText(combo->currentText().trimmed());
         if (i >= 0) combo->removeItem(i);
@@ -236,9 +220,9 @@ void PantallaCatalogo::eliminar(int lista) {
 
 void PantallaCatalogo::seleccionar() {
     intentar("CargarCombo", [&] {
-        const std::string v = s(combo(0, valor(0))->currentText());
+        const std::string v = deQt(combo(0, valor(0))->currentText());
         if (v.find('-') != std::string::npos) {
-            const QString texto = q(common::textoDeCatalogo(v));
+            const QString texto = aQt(common::textoDeCatalogo(v));
             emit elegido(texto, actividad());
             QWidget* llamadora = parentWidget();
             const bool propia = llamadora && QMetaObject::invokeMethod(llamadora, "recibirCatalogo",

@@ -6,31 +6,23 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "frame/ventana/impresion.h"
 #include "master/catalogos.h"
-#include "master/configuracion.h"
 #include "master/informe_empresas.h"
+#include "screens/empresas/piezas.h"
 
 namespace nomira::pantallas {
 
 namespace {
 
-QString q(const std::string& s) {
-    return QString::fromStdString(s);
-}
-std::string s(const QString& q) {
-    return q.trimmed().toStdString();
-}
-
 std::string textoDe(const QWidget* w) {
-    if (auto* e = qobject_cast<const QLineEdit*>(w)) return s(e->text());
-    if (auto* c = qobject_cast<const QComboBox*>(w)) return s(c->currentText());
+    if (auto* e = qobject_cast<const QLineEdit*>(w)) return deQt(e->text());
+    if (auto* c = qobject_cast<const QComboBox*>(w)) return deQt(c->currentText());
     return "";
 }
 
 void ponerTexto(QWidget* w, const std::string& texto) {
-    if (auto* e = qobject_cast<QLineEdit*>(w)) e->setText(q(texto));
-    if (auto* c = qobject_cast<QComboBox*>(w)) c->setCurrentText(q(texto));
+    if (auto* e = qobject_cast<QLineEdit*>(w)) e->setText(aQt(texto));
+    if (auto* c = qobject_cast<QComboBox*>(w)) c->setCurrentText(aQt(texto));
 }
 
 }  // namespace
@@ -163,9 +155,7 @@ void FichaEmpresa::armar() {
                                                         {"Eliminar", Qt::Key_F7},
                                                         {"Imprimir", Qt::Key_F8}};
     for (const auto& [nombre, f] : acciones) {
-        auto* b = new QPushButton(QString("%1 (F%2)").arg(nombre).arg(f - Qt::Key_F1 + 1));
-        b->setObjectName(nombre);
-        b->setAutoDefault(false);
+        auto* b = botonConTecla(nombre, f);
         botones_[nombre] = b;
         botones->addWidget(b);
         tecla(QKeySequence(f), [b] {
@@ -176,8 +166,7 @@ void FichaEmpresa::armar() {
     connect(botones_["Modificar"], &QPushButton::clicked, this, &FichaEmpresa::modificar);
     connect(botones_["Eliminar"], &QPushButton::clicked, this, &FichaEmpresa::eliminar);
     connect(botones_["Imprimir"], &QPushButton::clicked, this, &FichaEmpresa::imprimir);
-    auto* salir = new QPushButton("Salir");
-    salir->setAutoDefault(false);
+    auto* salir = botonConTecla("Salir");
     connect(salir, &QPushButton::clicked, this, &QWidget::close);
     tecla(QKeySequence(Qt::Key_Escape), [this] { close(); });
     botones->addWidget(salir);
@@ -217,7 +206,7 @@ master::Empresa FichaEmpresa::leerCampos() const {
     for (const auto& c : master::camposEmpresa())
         if (auto it = campos_.find(c.columna); it != campos_.end())
             e.*c.miembro = textoDe(it->second);
-    e.centralplanilla = s(central_->valor());
+    e.centralplanilla = deQt(central_->valor());
     return e;
 }
 
@@ -229,7 +218,7 @@ void FichaEmpresa::ponerCampos(const master::Empresa& e) {
         ponerTexto(it->second,
                    std::string(c.columna).starts_with("fecha") ? master::fechaDeEmpresa(v) : v);
     }
-    central_->ponerValor(q(e.centralplanilla));
+    central_->ponerValor(aQt(e.centralplanilla));
     // Las listas que dependen de otra siguen a la madre recién puesta.
     for (const char* hija :
          {"localidad", "subgrupoact", "subgrupoconsal", "locsuc2", "locsuc3", "persrep"})
@@ -300,9 +289,7 @@ void FichaEmpresa::eliminar() {
 
 void FichaEmpresa::imprimir() {
     intentar("Imprimir_Click", [this] {
-        const auto destino =
-            ventana::destinoDe(master::leerConfiguracion(base()), ventana::UsoImpresora::Informes);
-        ventana::imprimirLineas(master::lineasFichaEmpresa(leerCampos()), destino, "empresa");
+        imprimirInforme(base(), master::lineasFichaEmpresa(leerCampos()), "empresa");
     });
 }
 

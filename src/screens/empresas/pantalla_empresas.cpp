@@ -9,22 +9,11 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
-#include "frame/carpeta.h"
-#include "frame/ventana/impresion.h"
-#include "master/archivo_texto.h"
-#include "master/configuracion.h"
 #include "master/informe_empresas.h"
 #include "screens/empresas/ficha_empresa.h"
+#include "screens/empresas/piezas.h"
 
 namespace nomira::pantallas {
-
-namespace {
-
-std::string s(const QString& q) {
-    return q.trimmed().toStdString();
-}
-
-}  // namespace
 
 PantallaEmpresas::PantallaEmpresas(frame::Sesion& sesion, QWidget* padre)
     : Pantalla(sesion, "Form2", "Empresas", padre) {
@@ -51,8 +40,7 @@ PantallaEmpresas::PantallaEmpresas(frame::Sesion& sesion, QWidget* padre)
         {"Copiar", Qt::Key_F9, &PantallaEmpresas::copiar},
     };
     for (const auto& [nombre, f, metodo] : acciones) {
-        auto* a = barra->addAction(QString("%1 (F%2)").arg(nombre).arg(f - Qt::Key_F1 + 1));
-        a->setObjectName(nombre);
+        auto* a = accionConTecla(barra, nombre, f);
         connect(a, &QAction::triggered, this, metodo);
         tecla(QKeySequence(f), [this, metodo] { (this->*metodo)(); });
     }
@@ -83,7 +71,7 @@ PantallaEmpresas::PantallaEmpresas(frame::Sesion& sesion, QWidget* padre)
     arriba->setColumnStretch(1, 2);
     arriba->setColumnStretch(3, 1);
     alPulsarEnter(buscarPor_, [this] {
-        if (s(buscarPor_->text()).empty()) {
+        if (deQt(buscarPor_->text()).empty()) {
             advertir("Debe completar el campo Buscar por.");
             return false;
         }
@@ -104,7 +92,7 @@ PantallaEmpresas::PantallaEmpresas(frame::Sesion& sesion, QWidget* padre)
 }
 
 std::string PantallaEmpresas::nombre() const {
-    return s(empresa_->currentText());
+    return deQt(empresa_->currentText());
 }
 
 void PantallaEmpresas::desplegar(std::vector<master::Empresa> empresas) {
@@ -120,7 +108,7 @@ void PantallaEmpresas::consultar() {
 void PantallaEmpresas::ordenar(master::OrdenEmpresas orden) {
     orden_ = orden;
     intentar("Buscar_Click", [this] {
-        desplegar(master::consultarEmpresas(base(), orden_, s(buscarPor_->text())));
+        desplegar(master::consultarEmpresas(base(), orden_, deQt(buscarPor_->text())));
     });
 }
 
@@ -175,23 +163,15 @@ void PantallaEmpresas::eliminar() {
 
 void PantallaEmpresas::imprimir() {
     intentar("Imprimir_Click", [this] {
-        const auto destino =
-            ventana::destinoDe(master::leerConfiguracion(base()), ventana::UsoImpresora::Informes);
-        ventana::imprimirLineas(master::lineasListadoEmpresas(mostradas_), destino, "empresas");
+        imprimirInforme(base(), master::lineasListadoEmpresas(mostradas_), "empresas");
     });
 }
 
 void PantallaEmpresas::copiar() {
     intentar("Copiar_Click", [this] {
         // GuardarOficial: la grilla en "<raíz>/Software/empresas.txt".
-        const auto archivo = frame::rutaSoftware("empresas.txt");
-        master::guardarLineas(archivo, master::lineasListadoEmpresas(mostradas_, ""));
-        const QString carpeta = elegirCarpeta_();
-        if (carpeta.isEmpty()) {
-            std::filesystem::remove(archivo);
-            return;
-        }
-        master::llevarACarpeta(archivo, carpeta.toStdString());
+        llevarListado(master::lineasListadoEmpresas(mostradas_, ""), "empresas.txt",
+                      elegirCarpeta_);
     });
 }
 

@@ -6,22 +6,10 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "frame/ventana/impresion.h"
 #include "master/catalogos.h"
-#include "master/configuracion.h"
+#include "screens/empresas/piezas.h"
 
 namespace nomira::pantallas {
-
-namespace {
-
-QString q(const std::string& s) {
-    return QString::fromStdString(s);
-}
-std::string s(const QString& q) {
-    return q.trimmed().toStdString();
-}
-
-}  // namespace
 
 FichaObra::FichaObra(frame::Sesion& sesion, QWidget* padre)
     : Pantalla(sesion, "Form292", "Obra", padre) {
@@ -53,7 +41,7 @@ FichaObra::FichaObra(frame::Sesion& sesion, QWidget* padre)
     formas_ = new QButtonGroup(this);
     int valor = 1;
     for (const auto& forma : master::formasDeRealizacion()) {
-        auto* r = new QRadioButton(q(forma));
+        auto* r = new QRadioButton(aQt(forma));
         r->setObjectName(QString("Forma%1").arg(valor));
         formas_->addButton(r, valor++);
         opciones->addWidget(r);
@@ -68,9 +56,7 @@ FichaObra::FichaObra(frame::Sesion& sesion, QWidget* padre)
         {"Imprimir", Qt::Key_F8, &FichaObra::imprimir},
     };
     for (const auto& [nombre, f, metodo] : acciones) {
-        auto* b = new QPushButton(QString("%1 (F%2)").arg(nombre).arg(f - Qt::Key_F1 + 1));
-        b->setObjectName(nombre);
-        b->setAutoDefault(false);
+        auto* b = botonConTecla(nombre, f);
         botones_[nombre] = b;
         botones->addWidget(b);
         connect(b, &QPushButton::clicked, this, metodo);
@@ -78,8 +64,7 @@ FichaObra::FichaObra(frame::Sesion& sesion, QWidget* padre)
             if (b->isEnabled()) b->click();
         });
     }
-    auto* salir = new QPushButton("Salir");
-    salir->setAutoDefault(false);
+    auto* salir = botonConTecla("Salir");
     connect(salir, &QPushButton::clicked, this, &QWidget::close);
     tecla(QKeySequence(Qt::Key_Escape), [this] { close(); });
     botones->addWidget(salir);
@@ -113,8 +98,8 @@ master::Obra FichaObra::leerCampos() const {
     master::Obra o;
     for (const auto& c : master::camposObra())
         if (auto it = campos_.find(c.columna); it != campos_.end())
-            o.*c.miembro = s(it->second->text());
-    o.actprincipal = s(actividad_->currentText());
+            o.*c.miembro = deQt(it->second->text());
+    o.actprincipal = deQt(actividad_->currentText());
     o.formarealizacion = formas_->checkedId() > 0 ? std::to_string(formas_->checkedId()) : "0";
     return o;
 }
@@ -122,8 +107,8 @@ master::Obra FichaObra::leerCampos() const {
 void FichaObra::ponerCampos(const master::Obra& o) {
     for (const auto& c : master::camposObra())
         if (auto it = campos_.find(c.columna); it != campos_.end())
-            it->second->setText(q(o.*c.miembro));
-    actividad_->setCurrentText(q(o.actprincipal));
+            it->second->setText(aQt(o.*c.miembro));
+    actividad_->setCurrentText(aQt(o.actprincipal));
     const int forma = o.formarealizacion.size() == 1 ? o.formarealizacion[0] - '0' : 0;
     // Un grupo exclusivo no deja desmarcar: se suelta, se limpia y se vuelve a atar.
     formas_->setExclusive(false);
@@ -141,7 +126,7 @@ void FichaObra::agregar() {
         limpia.empresa = o.empresa;
         ponerCampos(limpia);
         campos_.at("empresatitular")->setFocus();
-        emit agregada(q(o.nroobra));
+        emit agregada(aQt(o.nroobra));
         close();
     });
 }
@@ -159,17 +144,14 @@ void FichaObra::eliminar() {
         if (!confirmar("Eliminar Obra", false)) return;
         const auto o = leerCampos();
         master::eliminarObra(base(), o.empresa, o.nroobra);
-        emit eliminada(q(o.nroobra));
+        emit eliminada(aQt(o.nroobra));
         close();
     });
 }
 
 void FichaObra::imprimir() {
-    intentar("Imprimir_Click", [this] {
-        const auto destino =
-            ventana::destinoDe(master::leerConfiguracion(base()), ventana::UsoImpresora::Informes);
-        ventana::imprimirLineas(master::lineasFichaObra(leerCampos()), destino, "obra");
-    });
+    intentar("Imprimir_Click",
+             [this] { imprimirInforme(base(), master::lineasFichaObra(leerCampos()), "obra"); });
 }
 
 }  // namespace nomira::pantallas

@@ -6,23 +6,12 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
-#include "frame/carpeta.h"
-#include "frame/ventana/impresion.h"
-#include "master/archivo_texto.h"
-#include "master/configuracion.h"
 #include "master/empresas.h"
 #include "master/obras.h"
+#include "screens/empresas/piezas.h"
 #include "screens/obras/ficha_obra.h"
 
 namespace nomira::pantallas {
-
-namespace {
-
-std::string s(const QString& q) {
-    return q.trimmed().toStdString();
-}
-
-}  // namespace
 
 PantallaObras::PantallaObras(frame::Sesion& sesion, QWidget* padre)
     : Pantalla(sesion, "Form291", "Obras", padre) {
@@ -52,8 +41,7 @@ PantallaObras::PantallaObras(frame::Sesion& sesion, QWidget* padre)
         {"Copiar", Qt::Key_F9, &PantallaObras::copiar},
     };
     for (const auto& [nombre, f, metodo] : acciones) {
-        auto* a = barra->addAction(QString("%1 (F%2)").arg(nombre).arg(f - Qt::Key_F1 + 1));
-        a->setObjectName(nombre);
+        auto* a = accionConTecla(barra, nombre, f);
         connect(a, &QAction::triggered, this, metodo);
         tecla(QKeySequence(f), [this, metodo] { (this->*metodo)(); });
     }
@@ -85,10 +73,10 @@ PantallaObras::PantallaObras(frame::Sesion& sesion, QWidget* padre)
 }
 
 std::string PantallaObras::textoEmpresa() const {
-    return s(empresa_->currentText());
+    return deQt(empresa_->currentText());
 }
 std::string PantallaObras::textoObra() const {
-    return s(nroObra_->currentText());
+    return deQt(nroObra_->currentText());
 }
 
 void PantallaObras::cargarNroObra() {
@@ -199,29 +187,20 @@ void PantallaObras::buscar() {
 void PantallaObras::imprimir() {
     intentar("Imprimir_Click", [this] {
         if (textoEmpresa().empty()) return advertir("Debe completar el campo Empresa.");
-        const auto destino =
-            ventana::destinoDe(master::leerConfiguracion(base()), ventana::UsoImpresora::Informes);
-        ventana::imprimirLineas(master::lineasListadoObras(
-                                    textoEmpresa(), master::obrasDeEmpresa(base(), textoEmpresa())),
-                                destino, "obras");
+        imprimirInforme(base(),
+                        master::lineasListadoObras(textoEmpresa(),
+                                                   master::obrasDeEmpresa(base(), textoEmpresa())),
+                        "obras");
     });
 }
 
 void PantallaObras::copiar() {
     intentar("Copiar_Click", [this] {
         if (textoEmpresa().empty()) return advertir("Debe completar el campo Empresa.");
-        // GuardarOficial: la lista en "<raíz>/Software/obras.txt", que luego se lleva a la carpeta
-        // elegida.
-        const auto archivo = frame::rutaSoftware("obras.txt");
-        master::guardarLineas(
-            archivo, master::lineasListadoObras(textoEmpresa(),
-                                                master::obrasDeEmpresa(base(), textoEmpresa())));
-        const QString carpeta = elegirCarpeta_();
-        if (carpeta.isEmpty()) {
-            std::filesystem::remove(archivo);
-            return;
-        }
-        master::llevarACarpeta(archivo, carpeta.toStdString());
+        // GuardarOficial: la lista en "<raíz>/Software/obras.txt", luego a la carpeta elegida.
+        llevarListado(master::lineasListadoObras(textoEmpresa(),
+                                                 master::obrasDeEmpresa(base(), textoEmpresa())),
+                      "obras.txt", elegirCarpeta_);
     });
 }
 
