@@ -55,8 +55,8 @@ int divisorLicencia(int grupo, int subgrupo) {
     return 30;
 }
 
-common::Dinero sueldoConLicencia(double total, const std::vector<double>& cantLicencias,
-                                 int grupo, int subgrupo, std::string* explicacion) {
+common::Dinero sueldoConLicencia(double total, const std::vector<double>& cantLicencias, int grupo,
+                                 int subgrupo, std::string* explicacion) {
     const int d = divisorLicencia(grupo, subgrupo);
     std::string texto = "SUELDO " + pesos(total);
     for (const double cant : cantLicencias) {
@@ -85,10 +85,9 @@ TramoLicencia tramoLicencia(const common::Mes& periodo, const common::Mes& ingre
 }
 
 bool cuentaEnDiasmes(const std::string& c, const std::string& tiposueldo) {
-    if (tiposueldo == "H" ? en(c, {"JORNADAS EN EL MES", "JORNADAS EN EL MES 2DA ACT",
-                                   "JORNADAS EN SUBSIDIO"})
-                          : en(c, {"JORNALES", "JORNALES 2DA ACT", "JORNALES A DISPOSICION",
-                                   "MINIMO ASEGURADO"}))
+    if (tiposueldo == "H"
+            ? en(c, {"JORNADAS EN EL MES", "JORNADAS EN EL MES 2DA ACT", "JORNADAS EN SUBSIDIO"})
+            : en(c, {"JORNALES", "JORNALES 2DA ACT", "JORNALES A DISPOSICION", "MINIMO ASEGURADO"}))
         return true;
     return en(c, {"LICENCIA", "FERIADO PAGO", "FERIADO PAGO 2DA ACT", "FERIADO PAGO TRABAJADO",
                   "FERIADO PAGO TRABAJADO 2DA ACT"});
@@ -164,8 +163,8 @@ ImporteLicencia CalculoLicencia(store::Conexion& base, const ContextoFormula& ct
     }
     for (auto& [codigo, inc] : porCodigo) {
         if (e.incidencias.size() == kMaxIncidenciasLicencia) break;
-        const auto r = base.consulta("SELECT formula FROM conceptos WHERE codigo = ?",
-                                     {std::int64_t{codigo}});
+        const auto r =
+            base.consulta("SELECT formula FROM conceptos WHERE codigo = ?", {std::int64_t{codigo}});
         if (!r.vacio()) inc.formula = r.primera().texto("formula");
         e.incidencias.push_back(inc);
     }

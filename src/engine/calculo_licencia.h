@@ -30,8 +30,8 @@ int divisorLicencia(int grupo, int subgrupo);
 
 // SUELDO de un mes con filas LICENCIA: cada una lo reduce a total / D x (D - cant),
 // una tras otra sobre lo que va quedando.
-common::Dinero sueldoConLicencia(double total, const std::vector<double>& cantLicencias,
-                                 int grupo, int subgrupo, std::string* explicacion = nullptr);
+common::Dinero sueldoConLicencia(double total, const std::vector<double>& cantLicencias, int grupo,
+                                 int subgrupo, std::string* explicacion = nullptr);
 
 // El jornal de un día de licencia, con sueldos = SUELDO + SUELDO2 + SUELDO3 y
 // ant = ANTIGUEDAD y ALIMENTACION del mes. Las precedencias de "J" y "H" son

@@ -70,18 +70,16 @@ int CantidadDiasTrabEg(int dd, int mm, int /*yy*/) {
 }
 
 double CantidadDiasExtras(int dd1, int mm1, int yy1, int dd2, int mm2, int yy2) {
-    if (std::tuple(anioPivote50(yy1), mm1, dd1) > std::tuple(anioPivote50(yy2), mm2, dd2))
-        return 0;
+    if (std::tuple(anioPivote50(yy1), mm1, dd1) > std::tuple(anioPivote50(yy2), mm2, dd2)) return 0;
     return static_cast<double>(common::CantidadDias2(dd1, mm1, yy1, dd2, mm2, yy2)) / 365.0;
 }
 
 int diasExtrasPorAntiguedad(double antiguedad) {
     // Desde cuántos años corresponde cada día extra; el primero a los 5, después
     // uno cada cuatro años hasta 12.
-    static constexpr std::array<double, 12> kDesde = {5,  8,  12, 16, 20, 24,
-                                                      28, 32, 36, 40, 44, 48};
-    return static_cast<int>(std::count_if(kDesde.begin(), kDesde.end(),
-                                          [&](double d) { return antiguedad >= d; }));
+    static constexpr std::array<double, 12> kDesde = {5, 8, 12, 16, 20, 24, 28, 32, 36, 40, 44, 48};
+    return static_cast<int>(
+        std::count_if(kDesde.begin(), kDesde.end(), [&](double d) { return antiguedad >= d; }));
 }
 
 ActividadLicencia actividadDeLicencia(const master::Persona& p) {
@@ -110,19 +108,19 @@ bool esDiaTrabajado(const std::string& c, const std::string& tiposueldo) {
     if (tiposueldo == "H") {
         if (en(c, {"JORNADAS EN EL MES", "JORNADAS EN EL MES 2DA ACT", "JORNADAS EN SUBSIDIO"}))
             return true;
-    } else if (en(c, {"JORNALES", "JORNALES 2DA ACT", "JORNALES A DISPOSICION",
-                      "MINIMO ASEGURADO"})) {
+    } else if (en(c,
+                  {"JORNALES", "JORNALES 2DA ACT", "JORNALES A DISPOSICION", "MINIMO ASEGURADO"})) {
         return true;
     }
     if (c.starts_with("DOMINGO") || c == "LICENCIA") return true;
-    return enConSegunda(c, {"LICENCIA MATERNAL", "LICENCIA PATERNAL", "LICENCIA MEDICA",
-                            "SEGURO DE ENFERMEDAD", "SEGURO DE ACCIDENTE", "FERIADO PAGO",
-                            "FERIADO PAGO TRABAJADO"});
+    return enConSegunda(
+        c, {"LICENCIA MATERNAL", "LICENCIA PATERNAL", "LICENCIA MEDICA", "SEGURO DE ENFERMEDAD",
+            "SEGURO DE ACCIDENTE", "FERIADO PAGO", "FERIADO PAGO TRABAJADO"});
 }
 
 bool esLicenciaGozada(const std::string& c) {
-    return en(c, {"SALARIO VACACIONAL", "SALARIO VACACIONAL 2DA ACT",
-                  "SALARIO VACACIONAL 3RA ACT"});
+    return en(c,
+              {"SALARIO VACACIONAL", "SALARIO VACACIONAL 2DA ACT", "SALARIO VACACIONAL 3RA ACT"});
 }
 
 bool esLicenciaNoGozadaEgreso(const std::string& c) {
@@ -154,18 +152,17 @@ DiasLicencia calcularDiasLicencia(const EntradaDiasLicencia& e) {
                       "((20 días generados año ant. / 12) / 30) * " + n(r.cantdiastrab) +
                       " días trab." + extras + faltas + n(r.cantdiasgenerados) + linea;
         } else {
-            r.traza = "El año de ingreso > año anterior" + linea + "0 días generados año ant." +
-                      linea;
+            r.traza =
+                "El año de ingreso > año anterior" + linea + "0 días generados año ant." + linea;
         }
     } else if (anioIngreso <= anterior) {
         // Jornaleros y por hora: sin faltas, por los días trabajados.
         r.cantdiasgenerados = (e.diasTrabajados / 300) * 20 + r.diasextras;
         r.traza = "El año de ingreso <= año anterior" + linea + "(" + n(e.diasTrabajados) +
-                  " días generados año ant. / 300) * 20" + extras + " = " +
-                  n(r.cantdiasgenerados) + linea;
+                  " días generados año ant. / 300) * 20" + extras + " = " + n(r.cantdiasgenerados) +
+                  linea;
     } else {
-        r.traza =
-            "El año de ingreso > año anterior" + linea + "0 días generados año ant." + linea;
+        r.traza = "El año de ingreso > año anterior" + linea + "0 días generados año ant." + linea;
     }
 
     double gozados = 0;
@@ -179,7 +176,8 @@ DiasLicencia calcularDiasLicencia(const EntradaDiasLicencia& e) {
     const double resto = r.cantdiasgenerados - gozados;
     r.gozadosDeMas = resto < 0;
     r.cantdiaspendientes = std::max(0.0, resto);
-    if (!goce.empty()) r.traza += n(r.cantdiasgenerados) + goce + " = " + n(r.cantdiaspendientes) + linea;
+    if (!goce.empty())
+        r.traza += n(r.cantdiasgenerados) + goce + " = " + n(r.cantdiaspendientes) + linea;
 
     r.explicacion = "Licencia " + std::to_string(anterior) + ": " + n(r.cantdiasgenerados) +
                     " días generados (" + n(r.diasextras) + " extras por " +

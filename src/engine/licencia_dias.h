@@ -51,15 +51,15 @@ bool correspondeLicencia(const ActividadLicencia& a, int anio);
 // Los nombres de fila que cuentan en el año anterior (en mayúsculas).
 bool esAusencia(const std::string& concepto);
 bool esDiaTrabajado(const std::string& concepto, const std::string& tiposueldo);
-bool esLicenciaGozada(const std::string& concepto);       // salvacacional
+bool esLicenciaGozada(const std::string& concepto);          // salvacacional
 bool esLicenciaNoGozadaEgreso(const std::string& concepto);  // egresos
 
 struct EntradaDiasLicencia {
     std::string tiposueldo;  // "S", "J" o "H"
     FechaCorta ingreso;
-    int anio = 0;             // el año en curso, de cuatro cifras
-    double ausencias = 0;     // mensuales: cant de faltas, suspensiones...
-    double diasTrabajados = 0;  // jornaleros y por hora
+    int anio = 0;                         // el año en curso, de cuatro cifras
+    double ausencias = 0;                 // mensuales: cant de faltas, suspensiones...
+    double diasTrabajados = 0;            // jornaleros y por hora
     std::vector<double> periodosGozados;  // a lo sumo cuatro, en orden
 };
 

@@ -8,8 +8,7 @@ namespace nomira::engine {
 
 namespace {
 
-std::vector<store::Valor> delAnio(const std::string& empresa, const std::string& nombre,
-                                  int anio) {
+std::vector<store::Valor> delAnio(const std::string& empresa, const std::string& nombre, int anio) {
     return {empresa, nombre, common::Fecha{anio, 1, 1}.iso(), common::Fecha{anio, 12, 31}.iso()};
 }
 
@@ -53,8 +52,7 @@ std::vector<double> periodosGozados(store::Conexion& base, const std::string& em
 
 std::optional<DiasLicencia> CalculoDiasaGozar(store::Conexion& base, const std::string& empresa,
                                               const std::string& nombre, int anio,
-                                              common::Dialogo& dialogo,
-                                              PantallaLicencia pantalla) {
+                                              common::Dialogo& dialogo, PantallaLicencia pantalla) {
     const auto persona = master::leerPersona(base, empresa, nombre);
     if (!persona) return std::nullopt;
     const auto actividad = actividadDeLicencia(*persona);

@@ -32,7 +32,9 @@ int anioDe(const FechaLeida& f) {
 // Las fechas de ingreso y egreso de la actividad 1, 2 o 3; las referencias
 // con una fecha entre corchetes reemplazan el ingreso de las tres.
 std::pair<FechaLeida, FechaLeida> fechasDe(const master::Persona& p, int actividad) {
-    const std::string& ing = actividad == 2 ? p.fechaing2 : actividad == 3 ? p.fechaing3 : p.fechaing;
+    const std::string& ing = actividad == 2   ? p.fechaing2
+                             : actividad == 3 ? p.fechaing3
+                                              : p.fechaing;
     const std::string& eg = actividad == 2 ? p.fechaeg2 : actividad == 3 ? p.fechaeg3 : p.fechaeg;
     return {leer(common::inicioDeAntiguedad(ing, p.referencias)), leer(eg)};
 }
@@ -43,10 +45,14 @@ int actividadDe(const master::Persona& p) {
 
 const char* nombreBase(const MiembroAntiguedad& m) {
     switch (m.base) {
-        case BaseAntiguedad::Sueldo: return "sueldo";
-        case BaseAntiguedad::BPC: return "BPC";
-        case BaseAntiguedad::SALMIN: return "SALMIN";
-        case BaseAntiguedad::SueldoMinimo: return "sueldo mínimo";
+        case BaseAntiguedad::Sueldo:
+            return "sueldo";
+        case BaseAntiguedad::BPC:
+            return "BPC";
+        case BaseAntiguedad::SALMIN:
+            return "SALMIN";
+        case BaseAntiguedad::SueldoMinimo:
+            return "sueldo mínimo";
     }
     return "";
 }
@@ -107,9 +113,8 @@ std::optional<PrimaAntiguedad> calcularPrimaAntiguedad(const master::Persona& p,
     const auto& m = miembroAntiguedad(*cual);
     PrimaAntiguedad r;
     r.miembro = m.numero;
-    r.cant = textoCant.find_first_not_of(' ') == std::string::npos
-                 ? 1
-                 : common::textoANumero(textoCant);
+    r.cant =
+        textoCant.find_first_not_of(' ') == std::string::npos ? 1 : common::textoANumero(textoCant);
     const auto a = actividadDeAntiguedad(p);
     r.anios = aniosDeAntiguedad(a, periodo, m);
     r.porcentaje = porcentajeAntiguedad(m, r.anios);
@@ -118,9 +123,9 @@ std::optional<PrimaAntiguedad> calcularPrimaAntiguedad(const master::Persona& p,
     if (!m.sinCantidad) total *= r.cant;
     r.total = common::Dinero::desdeDouble(total);
     r.explicacion = "Antigüedad grupo " + std::to_string(grupo) + " subgrupo " +
-                    std::to_string(subgrupo) + " (miembro " + std::to_string(m.numero) + "): " +
-                    numero(std::floor(r.anios)) + " años → " + numero(r.porcentaje) + "% de " +
-                    pesos(r.base) + " (" + nombreBase(m) + ")" +
+                    std::to_string(subgrupo) + " (miembro " + std::to_string(m.numero) +
+                    "): " + numero(std::floor(r.anios)) + " años → " + numero(r.porcentaje) +
+                    "% de " + pesos(r.base) + " (" + nombreBase(m) + ")" +
                     (m.sinCantidad ? "" : " x " + numero(r.cant)) + " = " + pesos(r.total);
     return r;
 }

@@ -19,14 +19,10 @@ double sueldoMinimo(store::Conexion& base, const ConsejoSalarios& c, const std::
 
 }  // namespace
 
-std::optional<PrimaAntiguedad> CalculoAntiguedad(store::Conexion& base,
-                                                 master::LectorVariables& variables,
-                                                 const std::string& empresa,
-                                                 const std::string& nombre,
-                                                 const std::string& textoCant,
-                                                 const common::Mes& periodo,
-                                                 common::Dialogo& dialogo,
-                                                 const std::string& pantalla) {
+std::optional<PrimaAntiguedad> CalculoAntiguedad(
+    store::Conexion& base, master::LectorVariables& variables, const std::string& empresa,
+    const std::string& nombre, const std::string& textoCant, const common::Mes& periodo,
+    common::Dialogo& dialogo, const std::string& pantalla) {
     int miembro = 0;
     try {
         const auto persona = master::leerPersona(base, empresa, nombre);
@@ -35,9 +31,12 @@ std::optional<PrimaAntiguedad> CalculoAntiguedad(store::Conexion& base,
         miembro = miembroPorConsejo(consejo.grupo, consejo.subgrupo).value_or(0);
         const auto baseDe = [&](const MiembroAntiguedad& m, const ActividadAntiguedad& a) {
             switch (m.base) {
-                case BaseAntiguedad::Sueldo: return a.sueldo;
-                case BaseAntiguedad::BPC: return variables.valor("BPC");
-                case BaseAntiguedad::SALMIN: return variables.valor("SALMIN");
+                case BaseAntiguedad::Sueldo:
+                    return a.sueldo;
+                case BaseAntiguedad::BPC:
+                    return variables.valor("BPC");
+                case BaseAntiguedad::SALMIN:
+                    return variables.valor("SALMIN");
                 case BaseAntiguedad::SueldoMinimo:
                     return sueldoMinimo(base, consejo, m.sector ? m.sector : a.sector,
                                         m.categoria ? m.categoria : a.categoria);

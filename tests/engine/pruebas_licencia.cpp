@@ -28,8 +28,8 @@ TEST(Licencia, Decrementa1diaEnFinesDeMesYDeAnio) {
 TEST(Licencia, DiasTrabajadosEnElAnioDeIngresoYDeEgreso) {
     // 1 de julio: agosto a diciembre 5 x 30 = 150, más 31 - 1 = 30.
     EXPECT_EQ(CantidadDiasTrab(1, 7, 25), 180);
-    EXPECT_EQ(CantidadDiasTrab(1, 1, 25), 360);   // 11 x 30 + 30
-    EXPECT_EQ(CantidadDiasTrab(31, 12, 25), 1);   // el 31 cuenta como el 30
+    EXPECT_EQ(CantidadDiasTrab(1, 1, 25), 360);  // 11 x 30 + 30
+    EXPECT_EQ(CantidadDiasTrab(31, 12, 25), 1);  // el 31 cuenta como el 30
     EXPECT_EQ(CantidadDiasTrab(30, 12, 25), 1);
     EXPECT_EQ(CantidadDiasTrab(31, 7, 25), CantidadDiasTrab(30, 7, 25));
     // Febrero guarda su 31 - dd: 10 x 30 + 31 - 28 = 303.
