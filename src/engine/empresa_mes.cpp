@@ -1,0 +1,52 @@
+#include "engine/empresa_mes.h"
+
+#include <algorithm>
+
+#include "common/numeros.h"
+#include "master/registro.h"
+
+namespace nomira::engine {
+
+std::vector<master::Persona> personasPorCantbfc(store::Conexion& base, const std::string& empresa) {
+    std::vector<master::Persona> personas;
+    for (const auto& f : base.consulta("SELECT * FROM personal WHERE empresa = ?", {empresa}).filas)
+        personas.push_back(master::leerRegistro(f, master::camposPersona()));
+    // cantbfc es texto en la tabla: se ordena por su valor, así un vacío o un
+    // Null cuenta 0 igual en los dos motores.
+    std::stable_sort(personas.begin(), personas.end(), [](const auto& a, const auto& b) {
+        return common::textoANumero(a.cantbfc) < common::textoANumero(b.cantbfc);
+    });
+    return personas;
+}
+
+ResultadoEmpresa recorrerEmpresa(store::Conexion& base, const std::string& empresa,
+                                 const common::Mes& mes, const PorPersona& porPersona,
+                                 const ProgresoEmpresa& progreso, const CancelarEmpresa& cancelar) {
+    ResultadoEmpresa r;
+    const auto personas = personasPorCantbfc(base, empresa);
+    for (std::size_t i = 0; i < personas.size(); ++i) {
+        if (cancelar && cancelar()) {
+            r.cancelado = true;
+            break;
+        }
+        const auto& p = personas[i];
+        if (progreso) progreso(i + 1, personas.size(), p.nombre);
+        if (!activaEnElMes(p, mes)) {
+            r.inactivas.push_back(p.nombre);
+            continue;
+        }
+        try {
+            store::Transaccion t(base);
+            auto hecho = porPersona(p);
+            t.confirmar();
+            r.personas.push_back(std::move(hecho));
+        } catch (...) {
+            r.fallo = std::current_exception();
+            r.personaFallida = p.nombre;
+            break;
+        }
+    }
+    return r;
+}
+
+}  // namespace nomira::engine
