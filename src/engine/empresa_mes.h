@@ -24,7 +24,8 @@ std::vector<master::Persona> personasPorCantbfc(store::Conexion& base, const std
 // La generación de una persona, dentro de la transacción de esa persona.
 using PorPersona = std::function<ResultadoPersona(const master::Persona&)>;
 // Antes de cada persona: i de n (desde 1) y su nombre.
-using ProgresoEmpresa = std::function<void(std::size_t i, std::size_t n, const std::string& nombre)>;
+using ProgresoEmpresa =
+    std::function<void(std::size_t i, std::size_t n, const std::string& nombre)>;
 // Se consulta entre personas; verdadero detiene el recorrido.
 using CancelarEmpresa = std::function<bool()>;
 

@@ -1,0 +1,312 @@
+#include "engine/haberes.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <set>
+
+#include "common/numeros.h"
+#include "common/texto.h"
+#include "engine/explicacion.h"
+#include "engine/primas_antiguedad.h"
+#include "master/registro.h"
+
+namespace nomira::engine {
+
+namespace {
+
+// Vínculos que no cobran un sueldo real: no sirven de referencia al ficto.
+constexpr std::array<const char*, 7> kVinculosSinSueldo = {"Patron Unipersonal",
+                                                           "Socio con actividad",
+                                                           "Socio sin actividad",
+                                                           "Socio cooperativista",
+                                                           "Conyuge colaborador con actividad",
+                                                           "Director con remuneración",
+                                                           "Director sin remuneración"};
+
+bool terminaEn(const std::string& s, const std::string& fin) {
+    return s.size() >= fin.size() && s.compare(s.size() - fin.size(), fin.size(), fin) == 0;
+}
+
+std::string fecha(const common::Mes& mes) {
+    return mes.primerDia().iso();
+}
+
+std::optional<master::Concepto> conceptoPorNombre(store::Conexion& base,
+                                                  const std::string& nombre) {
+    const auto r =
+        base.consulta("SELECT * FROM conceptos WHERE concepto = ? ORDER BY codigo", {nombre});
+    if (r.vacio()) return std::nullopt;
+    return master::leerRegistro(r.primera(), master::camposConcepto());
+}
+
+// cant de las filas del mes con ese texto (las licencias de un SUELDO).
+std::vector<double> cantidadesDe(store::Conexion& base, const MesPersona& mp,
+                                 const std::string& concepto) {
+    std::vector<double> cants;
+    for (const auto& f : base.consulta("SELECT cant FROM habydesc WHERE empresa = ? AND nombre = ? "
+                                       "AND fecha = ? AND concepto = ? ORDER BY codigo",
+                                       {mp.empresa, mp.nombre, fecha(mp.mes), concepto})
+                             .filas)
+        cants.push_back(f.real("cant"));
+    return cants;
+}
+
+std::string explicarFormula(const ContextoFormula& ctx) {
+    return "Fórmula " + ctx.formula + " con cantidad " + numero(ctx.cant) + ": " +
+           pesos(ctx.total) + ".";
+}
+
+// La fila de DIASNOTRABAJADOS de un ingreso a mitad de mes.
+void escribirDiasNoTrabajados(store::Conexion& base, const MesPersona& mp, double sueldo, int dias,
+                              ResultadoPersona& r) {
+    const auto c = conceptoPorNombre(base, "DIASNOTRABAJADOS");
+    if (!c) return;
+    FilaLiquidada fl{filaDeConcepto(*c, "Hab"), ""};
+    fl.fila.cant = dias;
+    fl.fila.total = common::Dinero::desdeDouble(-(sueldo / 30 * dias));
+    fl.explicacion = "Ingreso el " + mp.persona.fechaing + ": " + std::to_string(dias) +
+                     " días sin trabajar, -(" + pesos(sueldo) + " / 30 x " + std::to_string(dias) +
+                     ") = " + pesos(fl.fila.total) + ".";
+    escribirFila(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, fl.fila);
+    r.filas.push_back(std::move(fl));
+}
+
+}  // namespace
+
+std::vector<master::Concepto> conceptosPermanentes(store::Conexion& base, const MesPersona& mp,
+                                                   double cantbfc) {
+    std::vector<master::Concepto> lista;
+    if (cantbfc != 0) {
+        if (auto c = conceptoPorNombre(base, "SUELDO FICTO")) lista.push_back(std::move(*c));
+        return lista;
+    }
+    // El LEFT JOIN repite un concepto por cada fila de concpermxpers que lo
+    // nombra (de cualquier persona): se toma una vez, la primera.
+    const auto r = base.consulta(
+        "SELECT conceptos.* FROM conceptos LEFT JOIN concpermxpers ON conceptos.codigo = "
+        "concpermxpers.codigo WHERE (concpermxpers.empresa = ? AND concpermxpers.nombre = ? AND "
+        "concpermxpers.tipo = 'Hab') OR ((conceptos.especificode = ? OR conceptos.especificode = "
+        "'G') AND conceptos.tipo = 'Hab' AND conceptos.permanente = 'Si') ORDER BY "
+        "conceptos.codigo",
+        {mp.empresa, mp.nombre, mp.tiposueldo});
+    std::set<std::string> vistos;
+    for (const auto& f : r.filas) {
+        auto c = master::leerRegistro(f, master::camposConcepto());
+        if (vistos.insert(c.codigo).second) lista.push_back(std::move(c));
+    }
+    return lista;
+}
+
+int diasNoTrabajados(const std::string& fechaing, const common::Mes& mes) {
+    const auto ing = common::Fecha::desdeTexto(fechaing);
+    if (!ing || ing->anio != mes.anio || ing->mes != mes.mes || ing->dia == 1) return 0;
+    int dia = ing->dia;
+    if (dia == 31) dia = 30;
+    // Bisiesto como lo cuenta la planilla: año divisible por 4.
+    const bool bisiesto = ing->anio % 4 == 0;
+    if (ing->mes == 2 && ((dia == 28 && !bisiesto) || (dia == 29 && bisiesto))) dia = 30;
+    return dia - 1;
+}
+
+MayorSueldo mayorSueldoDeLaEmpresa(store::Conexion& base, const std::string& empresa,
+                                   const common::Mes& mes) {
+    MayorSueldo mayor;
+    bool hay = false;
+    const auto r = base.consulta(
+        "SELECT personal.nombre AS nombre, personal.vinculofun AS vinculofun, SUM(habydesc.total) "
+        "AS suma FROM personal JOIN habydesc ON habydesc.empresa = personal.empresa AND "
+        "habydesc.nombre = personal.nombre WHERE personal.empresa = ? AND habydesc.fecha = ? AND "
+        "habydesc.tipo = 'Hab' AND habydesc.gravado = 'Si' GROUP BY personal.nombre, "
+        "personal.vinculofun ORDER BY personal.nombre",
+        {empresa, fecha(mes)});
+    for (const auto& f : r.filas) {
+        const std::string v = f.texto("vinculofun");
+        if (terminaEn(v, "SAS") || std::find(kVinculosSinSueldo.begin(), kVinculosSinSueldo.end(),
+                                             v) != kVinculosSinSueldo.end())
+            continue;
+        const auto suma = common::Dinero::desdeDouble(f.real("suma"));
+        if (!hay || mayor.total < suma) {
+            mayor = {f.texto("nombre"), suma};
+            hay = true;
+        }
+    }
+    return mayor;
+}
+
+ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula& ctx,
+                         common::Dialogo& dialogo, const OpcionesHaberes& opciones) {
+    ResultadoPersona r{mp.empresa, mp.nombre, mp.mes, false, "", {}};
+    if (hayEgresos(base, mp.empresa, mp.nombre, mp.mes)) {
+        dialogo.avisar(common::TipoAviso::Advertencia, kYaEnEgresos);
+        r.aviso = kYaEnEgresos;
+        return r;
+    }
+    base.ejecuta(
+        "DELETE FROM habydesc WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
+        "tipo = 'Des'",
+        {mp.empresa, mp.nombre, fecha(mp.mes)});
+    if (opciones.calculoCant) opciones.calculoCant(ctx, dialogo);
+    refrescarDesglose(base, mp, ctx);
+
+    const auto& cs = mp.consejo;
+    for (const auto& c : conceptosPermanentes(base, mp, ctx.cantbfc)) {
+        ctx.cantarchivo = 0;
+        ctx.importearchivo = {};
+        ctx.formula = c.formula;
+        ctx.textoCant.clear();
+        FilaLiquidada fl{filaDeConcepto(c, "Hab"), ""};
+        CalculoFormula(ctx, dialogo);
+        std::string expl = explicarFormula(ctx);
+        const std::string nombre = common::mayusculas(c.concepto);
+        double cant = ctx.cant;
+        common::Dinero total = common::Dinero::desdeDouble(ctx.total);
+
+        if (nombre == "ALIMENTACION") {
+            total = common::Dinero::desdeDouble(std::floor(ctx.total));
+            expl += " Sin decimales: " + pesos(total) + ".";
+        } else if (esConceptoAntiguedad(nombre)) {
+            if (auto prima = CalculoAntiguedad(base, *ctx.variables, mp.empresa, mp.nombre,
+                                               ctx.textoCant, mp.mes, dialogo)) {
+                cant = prima->cant;
+                total = prima->total;
+                expl = prima->explicacion;
+            }
+        } else if (nombre == "SUELDO" || nombre == "SUELDO 2DA ACT") {
+            const auto licencias =
+                cantidadesDe(base, mp, nombre == "SUELDO" ? "LICENCIA" : "LICENCIA 2DA ACT");
+            if (!licencias.empty()) {
+                std::string detalle;
+                total = sueldoConLicencia(ctx.total, licencias, cs.grupo, cs.subgrupo, &detalle);
+                expl += " Con licencia: " + detalle;
+            } else if (nombre == "SUELDO") {
+                if (const int dias = diasNoTrabajados(mp.persona.fechaing, mp.mes); dias > 0)
+                    escribirDiasNoTrabajados(base, mp, ctx.total, dias, r);
+            }
+        } else if (nombre == "SUELDO FICTO" && ctx.cantbfc != 30) {
+            const auto mayor = mayorSueldoDeLaEmpresa(base, mp.empresa, mp.mes);
+            if (!mayor.nombre.empty() && total < mayor.total) {
+                dialogo.avisar(common::TipoAviso::Informacion,
+                               "El SUELDO FICTO de " + mp.nombre + " corresponde a " +
+                                   mayor.nombre + " que es el mayor sueldo.");
+                expl += " Menor que el mayor sueldo de la empresa (" + mayor.nombre + ", " +
+                        pesos(mayor.total) + "): se toma ese.";
+                total = mayor.total;
+            }
+        }
+        fl.fila.cant = cant;
+        fl.fila.total = total;
+        fl.explicacion = std::move(expl);
+        escribirFila(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, fl.fila);
+        r.filas.push_back(std::move(fl));
+    }
+    r.hecho = true;
+    return r;
+}
+
+ResultadoPersona generarHaberesPermanentes(store::Conexion& base, const std::string& empresa,
+                                           const std::string& nombre, const common::Mes& mes,
+                                           common::Dialogo& dialogo,
+                                           const OpcionesHaberes& opciones) {
+    master::LectorVariables variables(base);
+    ContextoFormula ctx;
+    auto mp = BuscarVerif(base, variables, empresa, nombre, mes, ctx, dialogo);
+    if (!mp) return ResultadoPersona{empresa, nombre, mes, false, "", {}};
+    store::Transaccion t(base);
+    auto r = HabPerm(base, *mp, ctx, dialogo, opciones);
+    t.confirmar();
+    return r;
+}
+
+ResultadoEmpresa ActHamPermxEmpresa(store::Conexion& base, const std::string& empresa,
+                                    const common::Mes& mes, common::Dialogo& dialogo,
+                                    const OpcionesHaberes& opciones,
+                                    const ProgresoEmpresa& progreso,
+                                    const CancelarEmpresa& cancelar) {
+    {
+        store::Transaccion t(base);
+        base.ejecuta("DELETE FROM habydesc WHERE empresa = ? AND fecha = ? AND tipo = 'Des'",
+                     {empresa, fecha(mes)});
+        t.confirmar();
+    }
+    // Una lectura de las variables para toda la corrida.
+    master::LectorVariables variables(base);
+    const auto porPersona = [&](const master::Persona& p) {
+        ContextoFormula ctx;
+        auto mp = BuscarVerif(base, variables, empresa, p.nombre, mes, ctx, dialogo);
+        if (!mp) return ResultadoPersona{empresa, p.nombre, mes, false, "", {}};
+        return HabPerm(base, *mp, ctx, dialogo, opciones);
+    };
+    return recorrerEmpresa(base, empresa, mes, porPersona, progreso, cancelar);
+}
+
+bool borrarPermanentes(store::Conexion& base, const std::string& empresa, const std::string& nombre,
+                       const common::Mes& mes, const std::string& tipo, common::Dialogo& dialogo) {
+    const bool haberes = tipo == "Hab";
+    if (!dialogo.confirmar(haberes ? "Eliminar Hab.Perm." : "Eliminar Desc.Perm.",
+                           "¿Desea continuar?"))
+        return false;
+    store::Transaccion t(base);
+    const std::vector<store::Valor> clave = {empresa, nombre, fecha(mes)};
+    if (haberes && !base.consulta("SELECT 1 FROM habydesc WHERE empresa = ? AND nombre = ? AND "
+                                  "fecha = ? AND tipo = 'Hab' LIMIT 1",
+                                  clave)
+                        .vacio())
+        base.ejecuta("DELETE FROM salvacacional WHERE empresa = ? AND nombre = ? AND fecha = ?",
+                     clave);
+    base.ejecuta("DELETE FROM habydesc WHERE empresa = ? AND nombre = ? AND fecha = ? AND tipo = ?",
+                 {empresa, nombre, fecha(mes), tipo});
+    t.confirmar();
+    return true;
+}
+
+std::optional<std::string> borrarCodigo(store::Conexion& base, const std::string& empresa,
+                                        const std::string& nombre, const common::Mes& mes,
+                                        long codigo, common::Dialogo& dialogo) {
+    const std::vector<store::Valor> clave = {empresa, nombre, fecha(mes)};
+    const auto fila = base.consulta(
+        "SELECT concepto, tipo FROM habydesc WHERE empresa = ? AND "
+        "nombre = ? AND fecha = ? AND codigo = ?",
+        {empresa, nombre, fecha(mes), static_cast<std::int64_t>(codigo)});
+    if (fila.vacio()) return std::nullopt;
+    const bool hayDes = !base.consulta(
+                                 "SELECT 1 FROM habydesc WHERE empresa = ? AND nombre = ? "
+                                 "AND fecha = ? AND tipo = 'Des' LIMIT 1",
+                                 clave)
+                             .vacio();
+    if (fila.primera().texto("tipo") == "Hab" && hayDes) {
+        const std::string aviso =
+            "Ya hay Descuentos ingresados, para Eliminar un Haber deberá eliminar todos los "
+            "Descuentos o usar el botón Reliq. por retro.";
+        dialogo.avisar(common::TipoAviso::Advertencia, aviso);
+        return aviso;
+    }
+    if (!dialogo.confirmar("Eliminar Concepto", "¿Desea continuar?")) return std::nullopt;
+
+    const std::string concepto = common::mayusculas(fila.primera().texto("concepto"));
+    store::Transaccion t(base);
+    if (concepto == "LICENCIA" || concepto == "LICENCIA 2DA ACT")
+        base.ejecuta("DELETE FROM salvacacional WHERE empresa = ? AND nombre = ? AND fecha = ?",
+                     clave);
+    if (concepto == "LICENCIA") {
+        const auto p = master::leerPersona(base, empresa, nombre);
+        if (p && p->tiposueldo == "S")
+            base.ejecuta(
+                "UPDATE habydesc SET total = ? WHERE empresa = ? AND nombre = ? AND "
+                "fecha = ? AND concepto = 'SUELDO'",
+                {common::textoANumero(p->sueldo), empresa, nombre, fecha(mes)});
+    }
+    if (concepto == "RET. JUD. S/VAC")
+        base.ejecuta(
+            "DELETE FROM salvacacional WHERE empresa = ? AND nombre = ? AND fecha = ? "
+            "AND codigo = ?",
+            {empresa, nombre, fecha(mes), static_cast<std::int64_t>(codigo)});
+    base.ejecuta(
+        "DELETE FROM habydesc WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
+        "codigo = ?",
+        {empresa, nombre, fecha(mes), static_cast<std::int64_t>(codigo)});
+    t.confirmar();
+    return std::nullopt;
+}
+
+}  // namespace nomira::engine

@@ -1,0 +1,83 @@
+#pragma once
+// La generación de los haberes permanentes de Form42 (HabPerm_Click) para una
+// persona, y la de toda la empresa (ActHamPermxEmpresa_Click) sobre el
+// recorrido común. Regenerar los haberes siempre tira los descuentos del mes.
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "common/dialogo.h"
+#include "common/fechas.h"
+#include "engine/empresa_mes.h"
+#include "engine/mes_persona.h"
+#include "master/variables.h"
+#include "store/conexion.h"
+
+namespace nomira::engine {
+
+// La importación del archivo de horas de la persona (CalculoCant). Sin ella,
+// como cuando no hay archivo del mes, el paso no hace nada.
+using ImportarHoras = std::function<void(ContextoFormula&, common::Dialogo&)>;
+
+struct OpcionesHaberes {
+    ImportarHoras calculoCant;
+};
+
+// Los conceptos que se generan para la persona: "SUELDO FICTO" si tiene
+// cantbfc, si no los permanentes generales o de su tipo de sueldo más los de
+// concpermxpers, por código y sin repetir.
+std::vector<master::Concepto> conceptosPermanentes(store::Conexion& base, const MesPersona& mp,
+                                                   double cantbfc);
+
+// Los días que no trabajó quien ingresó en el mes después del primero: el
+// día 31, y el 28 o 29 de un febrero común o bisiesto, cuentan como 30; se
+// pierden día - 1. 0 si ingresó otro mes o el día 1.
+int diasNoTrabajados(const std::string& fechaing, const common::Mes& mes);
+
+// El mayor total gravado del mes entre el personal de la empresa con un vínculo
+// que cobra sueldo real, y de quién es (vacío si no hay ninguno).
+struct MayorSueldo {
+    std::string nombre;
+    common::Dinero total;
+};
+MayorSueldo mayorSueldoDeLaEmpresa(store::Conexion& base, const std::string& empresa,
+                                   const common::Mes& mes);
+
+// Pasos 3 a 8 de HabPerm_Click sobre la persona ya leída por BuscarVerif: sin
+// transacción propia (la pone quien llama).
+ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula& ctx,
+                         common::Dialogo& dialogo, const OpcionesHaberes& opciones = {});
+
+// HabPerm_Click: una persona en una transacción. Sin empresa o persona, el
+// mensaje de BuscarVerif y nada escrito.
+ResultadoPersona generarHaberesPermanentes(store::Conexion& base, const std::string& empresa,
+                                           const std::string& nombre, const common::Mes& mes,
+                                           common::Dialogo& dialogo,
+                                           const OpcionesHaberes& opciones = {});
+
+// ActHamPermxEmpresa_Click: borra los descuentos del mes de toda la empresa y
+// genera los haberes de cada persona activa, confirmando persona por persona.
+ResultadoEmpresa ActHamPermxEmpresa(store::Conexion& base, const std::string& empresa,
+                                    const common::Mes& mes, common::Dialogo& dialogo,
+                                    const OpcionesHaberes& opciones = {},
+                                    const ProgresoEmpresa& progreso = {},
+                                    const CancelarEmpresa& cancelar = {});
+
+// HabPerm2_Click y DescPerm2_Click: preguntan y borran los haberes ("Hab") o
+// los descuentos ("Des") del mes; con los haberes, también el salvacacional del
+// mes. Falso si la respuesta fue No.
+bool borrarPermanentes(store::Conexion& base, const std::string& empresa, const std::string& nombre,
+                       const common::Mes& mes, const std::string& tipo, common::Dialogo& dialogo);
+
+// Eliminar_Click: la fila del código, con lo que arrastra una licencia o una
+// retención sobre el vacacional. Un haber no se borra si el mes ya tiene
+// descuentos: devuelve ese mensaje (ya avisado).
+std::optional<std::string> borrarCodigo(store::Conexion& base, const std::string& empresa,
+                                        const std::string& nombre, const common::Mes& mes,
+                                        long codigo, common::Dialogo& dialogo);
+
+inline constexpr const char* kYaEnEgresos =
+    "El funcionario ya tiene liquidado conceptos en Egresos.";
+
+}  // namespace nomira::engine
