@@ -2,6 +2,7 @@
 
 #include "common/fallo.h"
 #include "common/numeros.h"
+#include "engine/mes_persona.h"
 
 namespace nomira::engine {
 
@@ -45,21 +46,6 @@ std::optional<master::Concepto> conceptoPorNombre(store::Conexion& base,
     return master::leerConcepto(base, static_cast<long>(r.primera().entero("codigo")));
 }
 
-FilaGenerada filaDeConcepto(const master::Concepto& c, const std::string& tipo, double cant,
-                            common::Dinero total) {
-    return {static_cast<long>(common::textoANumero(c.codigo)),
-            c.concepto,
-            tipo,
-            c.unidad,
-            c.permanente,
-            c.gravado,
-            c.aguinaldo,
-            c.lic,
-            c.ipd,
-            cant,
-            total};
-}
-
 bool esConceptoHoras(const std::string& concepto) {
     return concepto == "HORAS" || concepto == "HORAS NOCTURNAS";
 }
@@ -73,7 +59,8 @@ std::optional<FilaGenerada> actualizarJornadas(store::Conexion& base, const std:
     const auto jornadas = conceptoPorNombre(base, "JORNADAS EN EL MES");
     if (!jornadas) return std::nullopt;
     if (htrab == 0) throw common::Fallo(11, "División por cero");
-    auto fila = filaDeConcepto(*jornadas, jornadas->tipo, cant / htrab, common::Dinero());
+    auto fila = filaDeConcepto(*jornadas, jornadas->tipo);
+    fila.cant = cant / htrab;
     escribirFila(base, TablaLiquidacion::Habydesc, empresa, nombre, mes, fila);
     return fila;
 }

@@ -31,10 +31,6 @@ std::optional<FilaGuardada> filaPorConcepto(store::Conexion& base, const std::st
 std::optional<master::Concepto> conceptoPorNombre(store::Conexion& base,
                                                   const std::string& concepto);
 
-// La fila de un concepto con sus banderas; tipo, cant y total los pone quien llama.
-FilaGenerada filaDeConcepto(const master::Concepto& c, const std::string& tipo, double cant,
-                            common::Dinero total);
-
 // ¿Es "HORAS" o "HORAS NOCTURNAS" (en mayúsculas)?
 bool esConceptoHoras(const std::string& concepto);
 

@@ -10,6 +10,7 @@
 #include "common/texto.h"
 #include "engine/explicacion.h"
 #include "engine/filas_persona.h"
+#include "engine/mes_persona.h"
 #include "master/empresas.h"
 #include "master/personal.h"
 
@@ -181,8 +182,9 @@ ImportacionHoras importarHoras(ContextoFormula& ctx, const fs::path& archivo, bo
         }
         ctx.cant = cant;
         ctx.total = total;
-        auto fila = filaDeConcepto(*concepto, descuentos ? "Des" : "Hab", cant,
-                                   Dinero::desdeDouble(total));
+        auto fila = filaDeConcepto(*concepto, descuentos ? "Des" : "Hab");
+        fila.cant = cant;
+        fila.total = Dinero::desdeDouble(total);
         escribirFila(base, TablaLiquidacion::Habydesc, ctx.empresa, ctx.nombre, mes, fila);
         r.filas.push_back(fila);
         r.explicacion += exp + "\n";

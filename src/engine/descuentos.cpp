@@ -1,0 +1,292 @@
+#include "engine/descuentos.h"
+
+#include <algorithm>
+
+#include "common/numeros.h"
+#include "common/texto.h"
+#include "engine/aportes.h"
+#include "engine/aportes_lector.h"
+#include "engine/explicacion.h"
+#include "engine/filas_persona.h"
+#include "engine/horas.h"
+#include "engine/irp.h"
+#include "engine/irpf_lector.h"
+#include "engine/irpf_licencia.h"
+#include "engine/liquido.h"
+
+namespace nomira::engine {
+
+using common::Dinero;
+
+namespace {
+
+bool jornaleroOPorHora(const std::string& tiposueldo) {
+    return tiposueldo == "H" || tiposueldo == "J";
+}
+
+FilaLiquidada escribir(store::Conexion& base, const MesPersona& mp, FilaGenerada fila,
+                       std::string explicacion) {
+    escribirFila(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, fila);
+    return {std::move(fila), std::move(explicacion)};
+}
+
+// Paso 3: lo que se adelanta de la licencia a jornaleros y por hora, el
+// salario vacacional del mes menos su IRPF.
+std::optional<FilaLiquidada> adelantoLicencia(store::Conexion& base, const MesPersona& mp,
+                                              ContextoFormula& ctx, double licencia,
+                                              common::Dialogo& dialogo) {
+    Dinero salvac;
+    for (const auto& s : leerSalvacacional(base, mp.empresa, mp.nombre, mp.mes, mp.mes))
+        if (s.concepto == "SALARIO VACACIONAL" || s.concepto == "SALARIO VACACIONAL 2DA ACT")
+            salvac += s.total;
+    std::string exp = "salario vacacional del mes " + pesos(salvac);
+    Dinero irpf;
+    if (mp.mes.mes != 12) {
+        if (mp.tipoaporte != "04" && !vinculoSinAdicion(mp.vinculofun) &&
+            licencia + salvac.aDouble() > 10 * mp.bpc) {
+            licencia *= 1.06;
+            exp += "; licencia más 6% " + pesos(licencia);
+        }
+        const auto guardado = ctx.montograv;
+        const auto filaLic = filaPorConcepto(base, mp.empresa, mp.nombre, mp.mes, "LICENCIA");
+        const auto r = irpfConAportesDeLicencia(
+            ctx, Dinero::desdeDouble(licencia) + salvac, Dinero::desdeDouble(licencia),
+            filaLic ? filaLic->total : Dinero(), dialogo);
+        ctx.montograv = guardado;
+        irpf = r.irpf.total;
+        exp += "; " + r.explicacion + "IRPF de licencia y vacacional " + pesos(irpf);
+    }
+    salvac -= irpf;
+    const auto c = conceptoPorNombre(base, "ADELANTOS LICENCIA");
+    if (!c) return std::nullopt;
+    auto fila = filaDeConcepto(*c, "Des");
+    fila.cant = 1;
+    fila.total = salvac;
+    return escribir(base, mp, fila, exp + "; adelanto " + pesos(salvac));
+}
+
+// Paso 4: un mes anterior con más descuentos que haberes pasa como ADELANTOS.
+std::optional<FilaLiquidada> arrastreNegativo(store::Conexion& base, const MesPersona& mp) {
+    const auto anterior = mp.mes.anterior();
+    Dinero neto;
+    for (const auto& f :
+         leerFilasDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, anterior)) {
+        if (f.tipo == "Hab") neto += f.total;
+        if (f.tipo == "Des") neto -= f.total;
+    }
+    if (!(neto < Dinero())) return std::nullopt;
+    const auto c = conceptoPorNombre(base, "ADELANTOS");
+    if (!c) return std::nullopt;
+    auto fila = filaDeConcepto(*c, "Des");
+    fila.cant = 1;
+    fila.total = Dinero() - neto;
+    std::string exp = "el " + anterior.texto() + " cerró en " + pesos(neto);
+    // Sobre una fila que ya está se acumula.
+    if (const auto previa = filaPorCodigo(base, mp.empresa, mp.nombre, mp.mes, fila.codigo)) {
+        fila.total += previa->total;
+        exp += "; más lo que ya había " + pesos(previa->total);
+    }
+    return escribir(base, mp, fila, exp);
+}
+
+// Paso 5: los permanentes de todos y los de la persona, con la exclusión que
+// corresponde a su aportación y vínculo.
+std::vector<long> codigosDescuento(store::Conexion& base, const MesPersona& mp, double cantbfc) {
+    const auto excluido = conceptoExcluido(cantbfc, mp.tipoaporte, mp.vinculofun);
+    std::string sql =
+        "SELECT DISTINCT conceptos.codigo FROM conceptos LEFT JOIN concpermxpers ON "
+        "conceptos.codigo = concpermxpers.codigo WHERE (concpermxpers.empresa = ? AND "
+        "concpermxpers.nombre = ? AND concpermxpers.tipo = 'Des') OR (conceptos.tipo = 'Des' AND "
+        "conceptos.permanente = 'Si'";
+    std::vector<store::Valor> p = {mp.empresa, mp.nombre};
+    if (!excluido.empty()) {
+        sql += " AND conceptos.concepto <> ?";
+        p.push_back(excluido);
+    }
+    sql += ") ORDER BY conceptos.codigo";
+    std::vector<long> codigos;
+    for (const auto& f : base.consulta(sql, p).filas)
+        codigos.push_back(static_cast<long>(f.entero("codigo")));
+    return codigos;
+}
+
+}  // namespace
+
+ImporteImpuesto calcularImpuesto(store::Conexion& base, const MesPersona& mp, ContextoFormula& ctx,
+                                 const std::string& concepto, common::Dialogo& dialogo) {
+    ImporteImpuesto r;
+    r.concepto = concepto;
+    if (concepto == "IRP") {
+        const auto irp = CalculoIRP(ctx);
+        r.cant = irp.cant;
+        r.total = Dinero::desdeDouble(irp.total);
+        r.explicacion = "IRP sobre " + pesos(ctx.montograv) + " = " + pesos(r.total);
+        return r;
+    }
+    r.cant = ctx.textoCant.empty() ? 1 : common::textoANumero(ctx.textoCant);
+    const auto filas = leerFilasDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes);
+    if (mp.mes.mes == 12) {
+        if (excepcionLicencia(mp.tiposueldo, filas)) {
+            r.explicacion = "diciembre: su único haber es una licencia, sin IRPF";
+            return r;
+        }
+        const auto dic = CalculoIRPFDic(ctx, false, dialogo);
+        r.total = dic.total;
+        r.explicacion = dic.explicacion;
+        return r;
+    }
+    const auto irpf = CalculoIRPF(ctx, mp.desglose.montoirpf, mp.desglose.montonominal,
+                                  opcionesIRPFForm42(), dialogo);
+    r.total = irpf.total;
+    r.concepto = textoFilaIRPF(concepto, irpf, mp.desglose.montoirpf);
+    r.explicacion = irpf.explicacion;
+    return r;
+}
+
+std::vector<FilaLiquidada> generarDescuentos(store::Conexion& base, MesPersona& mp,
+                                             ContextoFormula& ctx, common::Dialogo& dialogo) {
+    std::vector<FilaLiquidada> hechas;
+    std::vector<FilaMes> haberes;
+    for (auto& f : leerFilasDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes))
+        if (f.tipo == "Hab") haberes.push_back(std::move(f));
+    double licencia = 0;
+    for (const auto& f : haberes)
+        if (f.concepto == "LICENCIA" || f.concepto == "LICENCIA 2DA ACT")
+            licencia = f.total.aDouble();
+    const bool unicoHaber = jornaleroOPorHora(mp.tiposueldo) && haberes.size() == 1;
+
+    if (jornaleroOPorHora(mp.tiposueldo) && haberes.size() > 1)
+        if (auto f = adelantoLicencia(base, mp, ctx, licencia, dialogo))
+            hechas.push_back(std::move(*f));
+    if (!unicoHaber)
+        if (auto f = arrastreNegativo(base, mp)) hechas.push_back(std::move(*f));
+
+    const auto opciones = opcionesAportesForm42();
+    for (const long codigo : codigosDescuento(base, mp, ctx.cantbfc)) {
+        const auto c = master::leerConcepto(base, codigo);
+        if (!c) continue;
+        const auto nombre = common::mayusculas(c->concepto);
+        ctx.textoCant.clear();
+        if (nombre == "IRP" || nombre == "IRPF") {
+            const auto liquido = CalculoLiquidoNeto(base, mp.empresa, mp.nombre, mp.mes,
+                                                    opcionesLiquidoForm42());
+            ctx.liquidoneto = liquido.liquidoneto;
+            ctx.liquidonetograv = liquido.liquidonetograv;
+            ctx.montogravalim = liquido.montogravalim;
+            const auto imp = calcularImpuesto(base, mp, ctx, nombre, dialogo);
+            auto fila = filaDeConcepto(*c, "Des");
+            fila.concepto = imp.concepto;
+            fila.cant = imp.cant;
+            fila.total = imp.total;
+            hechas.push_back(escribir(base, mp, fila, imp.explicacion));
+            continue;
+        }
+        ConceptoDescuento d{codigo,     c->concepto, c->formula, c->unidad, c->permanente,
+                            c->gravado, c->aguinaldo, c->lic,    c->ipd};
+        const auto g = generarDescuento(ctx, d, opciones, dialogo);
+        auto fila = filaDeConcepto(*c, "Des");
+        fila.concepto = g.fila.concepto;
+        fila.cant = ctx.cant;
+        fila.total = g.fila.total;
+        hechas.push_back({fila, g.fila.explicacion});
+    }
+    return hechas;
+}
+
+ResultadoPersona DescPerm(store::Conexion& base, master::LectorVariables& variables,
+                          const std::string& empresa, const std::string& nombre,
+                          const common::Mes& mes, common::Dialogo& dialogo) {
+    ResultadoPersona r;
+    r.empresa = empresa;
+    r.nombre = nombre;
+    r.mes = mes;
+    if (empresa.empty() || nombre.empty()) {
+        r.aviso = kFaltanCamposMes;
+        dialogo.avisar(common::TipoAviso::Advertencia, r.aviso);
+        return r;
+    }
+    if (hayEgresos(base, empresa, nombre, mes)) {
+        r.aviso = kConEgresos;
+        dialogo.avisar(common::TipoAviso::Advertencia, r.aviso);
+        return r;
+    }
+    ContextoFormula ctx;
+    auto mp = BuscarVerif(base, variables, empresa, nombre, mes, ctx, dialogo);
+    if (!mp) {
+        r.aviso = "sin empresa o persona";
+        return r;
+    }
+    store::Transaccion t(base);
+    r.filas = generarDescuentos(base, *mp, ctx, dialogo);
+    t.confirmar();
+    r.hecho = true;
+    return r;
+}
+
+ResultadoEmpresa ActDesPermxEmpresa(store::Conexion& base, master::LectorVariables& variables,
+                                    const std::string& empresa, const common::Mes& mes,
+                                    common::Dialogo& dialogo, const ProgresoEmpresa& progreso,
+                                    const CancelarEmpresa& cancelar) {
+    auto porPersona = [&](const master::Persona& p) {
+        ResultadoPersona r;
+        r.empresa = empresa;
+        r.nombre = p.nombre;
+        r.mes = mes;
+        if (hayEgresos(base, empresa, p.nombre, mes)) {
+            r.aviso = kConEgresos;
+            return r;
+        }
+        ContextoFormula ctx;
+        auto mp = BuscarVerif(base, variables, empresa, p.nombre, mes, ctx, dialogo);
+        if (!mp) return r;
+        // Sin haberes no hay descuentos.
+        const auto filas = leerFilasDelMes(base, TablaLiquidacion::Habydesc, empresa, p.nombre, mes);
+        if (std::none_of(filas.begin(), filas.end(), [](auto& f) { return f.tipo == "Hab"; }))
+            return r;
+        const auto horas = CalculoCant2(ctx, dialogo);
+        for (const auto& f : horas.filas) r.filas.push_back({f, "archivo de horas"});
+        auto hechas = generarDescuentos(base, *mp, ctx, dialogo);
+        r.filas.insert(r.filas.end(), hechas.begin(), hechas.end());
+        r.hecho = true;
+        return r;
+    };
+    auto r = recorrerEmpresa(base, empresa, mes, porPersona, progreso, cancelar);
+    if (!r.cancelado && !r.fallo)
+        dialogo.avisar(common::TipoAviso::Informacion, kActualizacionFinalizada);
+    return r;
+}
+
+namespace {
+
+long eliminarDelMes(store::Conexion& base, const std::string& empresa, const std::string& nombre,
+                    const common::Mes& mes, const char* tipo, const char* titulo,
+                    common::Dialogo& dialogo) {
+    if (!dialogo.confirmar(titulo, "¿Desea continuar?")) return -1;
+    store::Transaccion t(base);
+    const std::vector<store::Valor> claves = {empresa, nombre, mes.primerDia().iso()};
+    const auto borradas = base.ejecuta(
+        std::string("DELETE FROM habydesc WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
+                    "tipo = '") + tipo + "'",
+        claves);
+    if (std::string(tipo) == "Hab" && borradas > 0)
+        base.ejecuta("DELETE FROM salvacacional WHERE empresa = ? AND nombre = ? AND fecha = ?",
+                     claves);
+    t.confirmar();
+    return static_cast<long>(borradas);
+}
+
+}  // namespace
+
+long eliminarDescuentosDelMes(store::Conexion& base, const std::string& empresa,
+                              const std::string& nombre, const common::Mes& mes,
+                              common::Dialogo& dialogo) {
+    return eliminarDelMes(base, empresa, nombre, mes, "Des", "Eliminar Desc.Perm.", dialogo);
+}
+
+long eliminarHaberesDelMes(store::Conexion& base, const std::string& empresa,
+                           const std::string& nombre, const common::Mes& mes,
+                           common::Dialogo& dialogo) {
+    return eliminarDelMes(base, empresa, nombre, mes, "Hab", "Eliminar Hab.Perm.", dialogo);
+}
+
+}  // namespace nomira::engine
