@@ -54,8 +54,10 @@ std::optional<FilaGenerada> actualizarJornadas(store::Conexion& base, const std:
                                                const std::string& nombre, const common::Mes& mes,
                                                const std::string& concepto, double cant,
                                                double htrab) {
-    const std::string otra = concepto == "HORAS" ? "HORAS NOCTURNAS" : "HORAS";
-    if (const auto f = filaPorConcepto(base, empresa, nombre, mes, otra)) cant += f->cant;
+    if (esConceptoHoras(concepto)) {
+        const std::string otra = concepto == "HORAS" ? "HORAS NOCTURNAS" : "HORAS";
+        if (const auto f = filaPorConcepto(base, empresa, nombre, mes, otra)) cant += f->cant;
+    }
     const auto jornadas = conceptoPorNombre(base, "JORNADAS EN EL MES");
     if (!jornadas) return std::nullopt;
     if (htrab == 0) throw common::Fallo(11, "División por cero");

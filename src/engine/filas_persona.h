@@ -35,7 +35,8 @@ std::optional<master::Concepto> conceptoPorNombre(store::Conexion& base,
 bool esConceptoHoras(const std::string& concepto);
 
 // Las jornadas siguen a la suma de horas comunes y nocturnas: `cant` es la de
-// la fila recién escrita de `concepto` y se le suma la de la otra del par.
+// la fila recién escrita de `concepto` y, si es una del par, se le suma la de
+// la otra.
 // Sin concepto "JORNADAS EN EL MES" no hace nada; htrab 0 es división por cero.
 // Devuelve la fila escrita.
 std::optional<FilaGenerada> actualizarJornadas(store::Conexion& base, const std::string& empresa,
