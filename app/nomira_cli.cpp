@@ -18,6 +18,7 @@ int main(int argc, char** argv) {
     cli::registrarOrdenesMantenimiento(app, ctx);
     cli::registrarOrdenesDatos(app, ctx);
     cli::registrarOrdenesVariables(app, ctx);
+    cli::registrarOrdenesDescuentos(app, ctx);
 
     try {
         app.parse(argc, argv);

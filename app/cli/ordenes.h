@@ -27,5 +27,6 @@ void registrarOrdenesFormula(CLI::App& app, Contexto& ctx);
 void registrarOrdenesMantenimiento(CLI::App& app, Contexto& ctx);
 void registrarOrdenesDatos(CLI::App& app, Contexto& ctx);
 void registrarOrdenesVariables(CLI::App& app, Contexto& ctx);
+void registrarOrdenesDescuentos(CLI::App& app, Contexto& ctx);
 
 }  // namespace nomira::cli

@@ -12,8 +12,13 @@ bool DialogoConsola::confirmar(const std::string& titulo, const std::string& tex
 
 std::optional<std::string> DialogoConsola::pedirTexto(const std::string& titulo, const std::string& texto,
                                                       const std::string& inicial) {
-    salida_ << titulo << ": " << texto << ' ' << inicial << '\n';
-    return inicial;
+    std::string respuesta = inicial;
+    if (!textos_.empty()) {
+        respuesta = std::move(textos_.front());
+        textos_.pop_front();
+    }
+    salida_ << titulo << ": " << texto << ' ' << respuesta << '\n';
+    return respuesta;
 }
 
 void DialogoConsola::avisar(common::TipoAviso tipo, const std::string&, const std::string& texto) {

@@ -1,6 +1,7 @@
 #pragma once
 // El Dialogo de nomira-cli: las preguntas se responden con --si o --no (o con su
 // respuesta por defecto) y los mensajes van a stderr tal como los muestran las pantallas.
+#include <deque>
 #include <iosfwd>
 #include <optional>
 
@@ -19,6 +20,10 @@ public:
     void avisar(common::TipoAviso tipo, const std::string& titulo, const std::string& texto) override;
     using common::Dialogo::avisar;
 
+    // Respuestas a los próximos pedidos de texto, en orden (el período de una
+    // licencia, --periodo); sin ellas se responde lo propuesto.
+    void responderTexto(std::string texto) { textos_.push_back(std::move(texto)); }
+
     // Hubo un aviso de advertencia o de error: la orden fue rechazada.
     bool rechazada() const { return rechazada_; }
 
@@ -26,6 +31,7 @@ private:
     std::ostream& salida_;
     std::optional<bool> respuesta_;
     bool rechazada_ = false;
+    std::deque<std::string> textos_;
 };
 
 }  // namespace nomira::frame
