@@ -74,4 +74,9 @@ std::optional<std::filesystem::path> imprimirLineas(const std::vector<std::strin
     return std::nullopt;
 }
 
+void imprimirInforme(store::Conexion& base, const std::vector<std::string>& lineas,
+                     const std::string& documento) {
+    imprimirLineas(lineas, destinoDe(master::leerConfiguracion(base), UsoImpresora::Informes), documento);
+}
+
 }  // namespace nomira::ventana

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "master/configuracion.h"
+#include "store/conexion.h"
 
 namespace nomira::ventana {
 
@@ -29,5 +30,9 @@ void escribirPdf(const std::vector<std::string>& lineas, const DestinoImpresion&
 std::optional<std::filesystem::path> imprimirLineas(const std::vector<std::string>& lineas,
                                                     const DestinoImpresion& destino,
                                                     const std::string& documento);
+
+// Las líneas a la impresora de informes que dice la configuración de la base.
+void imprimirInforme(store::Conexion& base, const std::vector<std::string>& lineas,
+                     const std::string& documento);
 
 }  // namespace nomira::ventana

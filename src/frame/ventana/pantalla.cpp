@@ -7,6 +7,9 @@
 #include <QLineEdit>
 #include <QShortcut>
 
+#include "frame/ventana/impresion.h"
+#include "frame/ventana/ventana_ayuda.h"
+
 namespace nomira::ventana {
 
 Pantalla::Pantalla(frame::Sesion& sesion, const QString& formulario, const QString& titulo,
@@ -16,6 +19,55 @@ Pantalla::Pantalla(frame::Sesion& sesion, const QString& formulario, const QStri
     setWindowTitle(titulo);
     // Enter en un campo pasa al siguiente, como en todas las pantallas del sistema.
     qApp->installEventFilter(this);
+}
+
+Pantalla::~Pantalla() {
+    for (const auto& c : hijas_) disconnect(c);
+}
+
+QString rotuloTecla(const QString& nombre, Qt::Key tecla) {
+    if (tecla < Qt::Key_F1 || tecla > Qt::Key_F12) return nombre;
+    return QString("F%1 %2").arg(tecla - Qt::Key_F1 + 1).arg(nombre);
+}
+
+QHBoxLayout* Pantalla::botonera(const std::vector<AccionTecla>& acciones) {
+    auto* fila = new QHBoxLayout;
+    for (const auto& a : acciones) {
+        auto* b = new QPushButton(a.texto);
+        b->setObjectName(QString(a.texto).section(' ', 1));
+        b->setAutoDefault(false);
+        connect(b, &QPushButton::clicked, this, a.hacer);
+        fila->addWidget(b);
+        tecla(QKeySequence(a.tecla), [b] {
+            if (b->isEnabled()) b->click();
+        });
+    }
+    fila->addStretch();
+    return fila;
+}
+
+QPushButton* Pantalla::boton(const QString& nombre) const { return findChild<QPushButton*>(nombre); }
+
+void Pantalla::habilitarSegunHallado(bool hallado) {
+    if (auto* b = boton("Agregar")) b->setEnabled(!hallado);
+    if (auto* b = boton("Modificar")) b->setEnabled(hallado);
+    if (auto* b = boton("Eliminar")) b->setEnabled(hallado);
+}
+
+void Pantalla::abrirHija(QWidget* hija, std::function<void()> alCerrar) {
+    hija->setAttribute(Qt::WA_DeleteOnClose);
+    hijas_.push_back(connect(hija, &QObject::destroyed, this, std::move(alCerrar)));
+    hija->show();
+}
+
+void Pantalla::ayuda() {
+    auto* v = new VentanaAyuda(this);
+    v->setAttribute(Qt::WA_DeleteOnClose);
+    v->show();
+}
+
+void Pantalla::imprimirInforme(const std::vector<std::string>& lineas, const std::string& documento) {
+    ventana::imprimirInforme(base(), lineas, documento);
 }
 
 void Pantalla::alPulsarEnter(QWidget* campo, std::function<bool()> validar) {

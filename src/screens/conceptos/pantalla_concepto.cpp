@@ -24,7 +24,7 @@ std::string s(const QLineEdit* c) { return c->text().trimmed().toStdString(); }
 
 PantallaConcepto::PantallaConcepto(frame::Sesion& sesion, long numero, ModoConcepto modo,
                                    QWidget* padre)
-    : PantallaAbm(sesion, "Form41", titulo(modo), padre) {
+    : Pantalla(sesion, "Form41", titulo(modo), padre) {
     using ventana::GrupoOpciones;
     especificode = new GrupoOpciones(
         "Específico de", {{"S", "Sueldo"}, {"J", "Jornales"}, {"H", "Horas"}, {"G", "General"}});

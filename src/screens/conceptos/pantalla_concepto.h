@@ -5,13 +5,13 @@
 
 #include "frame/ventana/grupo_opciones.h"
 #include "master/conceptos.h"
-#include "screens/variables/pantalla_abm.h"
+#include "frame/ventana/pantalla.h"
 
 namespace nomira::pantallas {
 
 enum class ModoConcepto { Agregar, Modificar, Eliminar };
 
-class PantallaConcepto : public PantallaAbm {
+class PantallaConcepto : public ventana::Pantalla {
     Q_OBJECT
 public:
     PantallaConcepto(frame::Sesion& sesion, long codigo, ModoConcepto modo,

@@ -18,7 +18,7 @@ std::string s(const QLineEdit* c) { return c->text().trimmed().toStdString(); }
 }  // namespace
 
 PantallaConceptos::PantallaConceptos(frame::Sesion& sesion, QWidget* padre)
-    : PantallaAbm(sesion, "Form4", "Conceptos y Fórmulas", padre) {
+    : Pantalla(sesion, "Form4", "Conceptos y Fórmulas", padre) {
     textoCodigo->setObjectName("codigo");
     textoCodigo->setMaximumWidth(100);
     buscarPor->setObjectName("buscarPor");

@@ -7,11 +7,11 @@
 
 #include "frame/ventana/grilla.h"
 #include "master/conceptos.h"
-#include "screens/variables/pantalla_abm.h"
+#include "frame/ventana/pantalla.h"
 
 namespace nomira::pantallas {
 
-class PantallaConceptos : public PantallaAbm {
+class PantallaConceptos : public ventana::Pantalla {
     Q_OBJECT
 public:
     explicit PantallaConceptos(frame::Sesion& sesion, QWidget* padre = nullptr);

@@ -18,7 +18,7 @@ std::string s(const QLineEdit* c) { return c->text().trimmed().toStdString(); }
 }  // namespace
 
 PantallaConceptosPersona::PantallaConceptosPersona(frame::Sesion& sesion, QWidget* padre)
-    : PantallaAbm(sesion, "Form40", "Conceptos Permanentes x Personal", padre) {
+    : Pantalla(sesion, "Form40", "Conceptos Permanentes x Personal", padre) {
     empresa->setObjectName("empresa");
     nombre->setObjectName("nombre");
     codigo->setObjectName("codigo");

@@ -6,11 +6,11 @@
 #include <QLineEdit>
 
 #include "frame/ventana/grilla.h"
-#include "screens/variables/pantalla_abm.h"
+#include "frame/ventana/pantalla.h"
 
 namespace nomira::pantallas {
 
-class PantallaConceptosPersona : public PantallaAbm {
+class PantallaConceptosPersona : public ventana::Pantalla {
     Q_OBJECT
 public:
     explicit PantallaConceptosPersona(frame::Sesion& sesion, QWidget* padre = nullptr);

@@ -289,7 +289,7 @@ void FichaEmpresa::eliminar() {
 
 void FichaEmpresa::imprimir() {
     intentar("Imprimir_Click", [this] {
-        imprimirInforme(base(), master::lineasFichaEmpresa(leerCampos()), "empresa");
+        imprimirInforme(master::lineasFichaEmpresa(leerCampos()), "empresa");
     });
 }
 

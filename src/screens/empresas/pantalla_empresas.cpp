@@ -163,7 +163,7 @@ void PantallaEmpresas::eliminar() {
 
 void PantallaEmpresas::imprimir() {
     intentar("Imprimir_Click", [this] {
-        imprimirInforme(base(), master::lineasListadoEmpresas(mostradas_), "empresas");
+        imprimirInforme(master::lineasListadoEmpresas(mostradas_), "empresas");
     });
 }
 

@@ -21,13 +21,9 @@ inline std::string deQt(const QString& q) {
     return q.trimmed().toStdString();
 }
 
-// "Agregar (F5)", con objectName "Agregar"; sin tecla, sólo el nombre.
+// "F5 Agregar", con objectName "Agregar"; sin tecla, sólo el nombre.
 QPushButton* botonConTecla(const QString& nombre, Qt::Key tecla = Qt::Key_unknown);
 QAction* accionConTecla(QToolBar* barra, const QString& nombre, Qt::Key tecla);
-
-// Las líneas a la impresora de informes que dice la configuración.
-void imprimirInforme(store::Conexion& base, const std::vector<std::string>& lineas,
-                     const std::string& documento);
 
 // GuardarOficial y su copia: las líneas en "<raíz>/Software/<archivo>", que se
 // llevan a la carpeta elegida; si no se elige ninguna, no queda nada.

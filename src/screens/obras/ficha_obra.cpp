@@ -151,7 +151,7 @@ void FichaObra::eliminar() {
 
 void FichaObra::imprimir() {
     intentar("Imprimir_Click",
-             [this] { imprimirInforme(base(), master::lineasFichaObra(leerCampos()), "obra"); });
+             [this] { imprimirInforme(master::lineasFichaObra(leerCampos()), "obra"); });
 }
 
 }  // namespace nomira::pantallas

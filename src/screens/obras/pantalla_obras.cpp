@@ -187,7 +187,7 @@ void PantallaObras::buscar() {
 void PantallaObras::imprimir() {
     intentar("Imprimir_Click", [this] {
         if (textoEmpresa().empty()) return advertir("Debe completar el campo Empresa.");
-        imprimirInforme(base(),
+        imprimirInforme(
                         master::lineasListadoObras(textoEmpresa(),
                                                    master::obrasDeEmpresa(base(), textoEmpresa())),
                         "obras");

@@ -21,37 +21,23 @@ FichaPersonal::FichaPersonal(frame::Sesion& sesion, QWidget* padre)
     paginas_->addTab(paginaDeducciones(), "Otras Deducciones");
     alPulsarEnter(nombre_, [this] { return enterNombre(nombre_, "Personal"); });
 
-    auto boton = [this](const char* nombre, const char* texto, void (FichaPersonal::*accion)()) {
-        auto* b = new QPushButton(texto);
-        b->setObjectName(nombre);
-        b->setAutoDefault(false);
-        connect(b, &QPushButton::clicked, this, accion);
-        return b;
-    };
-    agregar_ = boton("Agregar", "F5 Agregar", &FichaPersonal::agregar);
-    modificar_ = boton("Modificar", "F6 Modificar", &FichaPersonal::modificar);
-    eliminar_ = boton("Eliminar", "F7 Eliminar", &FichaPersonal::eliminar);
-    imprimir_ = boton("Imprimir", "F8 Imprimir", &FichaPersonal::imprimir);
+    auto* botones = botonera({{Qt::Key_F5, "F5 Agregar", [this] { agregar(); }},
+                              {Qt::Key_F6, "F6 Modificar", [this] { modificar(); }},
+                              {Qt::Key_F7, "F7 Eliminar", [this] { eliminar(); }},
+                              {Qt::Key_F8, "F8 Imprimir", [this] { imprimir(); }}});
+    tecla(QKeySequence(Qt::Key_F1), [this] { ayuda(); });
     auto* salir = new QPushButton("Salir");
     salir->setAutoDefault(false);
     connect(salir, &QPushButton::clicked, this, &QWidget::close);
-    // Las teclas valen sólo cuando su botón está habilitado, como el botón mismo.
-    for (auto [tecla, b] : {std::pair{Qt::Key_F5, agregar_},
-                            {Qt::Key_F6, modificar_},
-                            {Qt::Key_F7, eliminar_},
-                            {Qt::Key_F8, imprimir_}})
-        this->tecla(QKeySequence(tecla), [b] {
-            if (b->isEnabled()) b->click();
-        });
-    tecla(QKeySequence(Qt::Key_F1), [this] { (new ventana::VentanaAyuda(this))->show(); });
-
-    auto* botones = new QHBoxLayout;
-    for (auto* b : {agregar_, modificar_, eliminar_, imprimir_}) botones->addWidget(b);
-    botones->addStretch();
     botones->addWidget(salir);
     auto* todo = new QVBoxLayout(this);
     todo->addWidget(paginas_);
     todo->addLayout(botones);
+    // Los botones son hijos de la pantalla recién ahora, con la capa puesta.
+    agregar_ = boton("Agregar");
+    modificar_ = boton("Modificar");
+    eliminar_ = boton("Eliminar");
+    imprimir_ = boton("Imprimir");
     resize(1000, 640);
     ponerModo(false);
 }

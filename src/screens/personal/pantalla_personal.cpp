@@ -82,24 +82,14 @@ PantallaPersonal::PantallaPersonal(frame::Sesion& sesion, QWidget* padre)
     campos->addLayout(busca, 2, 1, 1, 2);
     campos->setColumnStretch(1, 1);
 
-    auto* botones = new QHBoxLayout;
-    const std::pair<Qt::Key, std::pair<const char*, std::function<void()>>> acciones[] = {
-        {Qt::Key_F1, {"F1 Ayuda", [this] { (new ventana::VentanaAyuda(this))->show(); }}},
-        {Qt::Key_F2, {"F2 Buscar", [this] { buscar(); }}},
-        {Qt::Key_F3, {"F3 Consultar", [this] { consultar(); }}},
-        {Qt::Key_F5, {"F5 Agregar", [this] { agregar(); }}},
-        {Qt::Key_F6, {"F6 Modificar", [this] { buscar(); }}},
-        {Qt::Key_F7, {"F7 Eliminar", [this] { buscar(); }}},
-        {Qt::Key_F8, {"F8 Imprimir", [this] { imprimir(); }}},
-        {Qt::Key_F9, {"F9 Copiar", [this] { guardarOficial(); }}}};
-    for (const auto& [tecla, accion] : acciones) {
-        auto* b = new QPushButton(accion.first);
-        b->setObjectName(QString(accion.first).section(' ', 1));
-        b->setAutoDefault(false);
-        connect(b, &QPushButton::clicked, this, accion.second);
-        botones->addWidget(b);
-        this->tecla(QKeySequence(tecla), accion.second);
-    }
+    auto* botones = botonera({{Qt::Key_F1, "F1 Ayuda", [this] { ayuda(); }},
+                              {Qt::Key_F2, "F2 Buscar", [this] { buscar(); }},
+                              {Qt::Key_F3, "F3 Consultar", [this] { consultar(); }},
+                              {Qt::Key_F5, "F5 Agregar", [this] { agregar(); }},
+                              {Qt::Key_F6, "F6 Modificar", [this] { buscar(); }},
+                              {Qt::Key_F7, "F7 Eliminar", [this] { buscar(); }},
+                              {Qt::Key_F8, "F8 Imprimir", [this] { imprimir(); }},
+                              {Qt::Key_F9, "F9 Copiar", [this] { guardarOficial(); }}});
     auto* todo = new QVBoxLayout(this);
     todo->addLayout(campos);
     todo->addLayout(botones);

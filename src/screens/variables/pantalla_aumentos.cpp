@@ -38,7 +38,7 @@ QPushButton* nuevoBoton(const char* texto, const char* nombre) {
 
 PantallaAumentos::PantallaAumentos(frame::Sesion& sesion, master::CategoriaLaboral sector,
                                    QWidget* padre)
-    : PantallaAbm(sesion, "Form408", "Actualizar Sueldos", padre), sector_(std::move(sector)) {
+    : Pantalla(sesion, "Form408", "Actualizar Sueldos", padre), sector_(std::move(sector)) {
     categoria = new ventana::ComboCatalogo(sesion, "Form390", [this] {
         return master::valoresCatalogo(base(), "categorias",
                                        {{"nombre", sector_.grupo},

@@ -8,11 +8,11 @@
 #include "frame/ventana/campo_fecha.h"
 #include "frame/ventana/combo_catalogo.h"
 #include "master/sueldos_minimos.h"
-#include "screens/variables/pantalla_abm.h"
+#include "frame/ventana/pantalla.h"
 
 namespace nomira::pantallas {
 
-class PantallaAumentos : public PantallaAbm {
+class PantallaAumentos : public ventana::Pantalla {
     Q_OBJECT
 public:
     // `sector`: grupo, subgrupo y sector elegidos en Form407 (la categoría no cuenta).

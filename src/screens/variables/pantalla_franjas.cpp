@@ -22,7 +22,7 @@ double numero(const QLineEdit* campo) {
 }  // namespace
 
 PantallaFranjas::PantallaFranjas(frame::Sesion& sesion, QWidget* padre)
-    : PantallaAbm(sesion, "Form406", "Franjas IRPF", padre) {
+    : Pantalla(sesion, "Form406", "Franjas IRPF", padre) {
     auto* campos = new QFormLayout;
     const std::pair<const char*, QLineEdit*> filas[] = {
         {"Franja", franja}, {"Min", min}, {"Max", max}, {"Tasa", tasa}};

@@ -3,11 +3,11 @@
 #include <QLineEdit>
 
 #include "frame/ventana/grilla.h"
-#include "screens/variables/pantalla_abm.h"
+#include "frame/ventana/pantalla.h"
 
 namespace nomira::pantallas {
 
-class PantallaFranjas : public PantallaAbm {
+class PantallaFranjas : public ventana::Pantalla {
     Q_OBJECT
 public:
     PantallaFranjas(frame::Sesion& sesion, QWidget* padre = nullptr);

@@ -27,7 +27,7 @@ const char* const kFaltan[] = {
 }  // namespace
 
 PantallaSueldosMinimos::PantallaSueldosMinimos(frame::Sesion& sesion, QWidget* padre)
-    : PantallaAbm(sesion, "Form407", "Sueldos Mínimos por Categoría", padre) {
+    : Pantalla(sesion, "Form407", "Sueldos Mínimos por Categoría", padre) {
     // Cada lista se filtra por los textos de las anteriores (Like '*texto').
     grupo = new ventana::ComboCatalogo(sesion, "Form29",
                                        [this] { return master::valoresCatalogo(base(), "grupoconsal"); });

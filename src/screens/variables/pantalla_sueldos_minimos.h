@@ -7,11 +7,11 @@
 #include "frame/ventana/combo_catalogo.h"
 #include "frame/ventana/grilla.h"
 #include "master/sueldos_minimos.h"
-#include "screens/variables/pantalla_abm.h"
+#include "frame/ventana/pantalla.h"
 
 namespace nomira::pantallas {
 
-class PantallaSueldosMinimos : public PantallaAbm {
+class PantallaSueldosMinimos : public ventana::Pantalla {
     Q_OBJECT
 public:
     PantallaSueldosMinimos(frame::Sesion& sesion, QWidget* padre = nullptr);

@@ -35,7 +35,7 @@ const std::vector<InstanciaVariables>& instanciasVariables() {
 
 PantallaVariables::PantallaVariables(frame::Sesion& sesion, const InstanciaVariables& instancia,
                                      QWidget* padre)
-    : PantallaAbm(sesion, instancia.formulario, instancia.titulo, padre), instancia_(instancia) {
+    : Pantalla(sesion, instancia.formulario, instancia.titulo, padre), instancia_(instancia) {
     nombre->setObjectName("nombre");
     fecha->setObjectName("fecha");
     valor->setObjectName("valor");

@@ -7,7 +7,7 @@
 
 #include "frame/ventana/campo_fecha.h"
 #include "frame/ventana/grilla.h"
-#include "screens/variables/pantalla_abm.h"
+#include "frame/ventana/pantalla.h"
 
 namespace nomira::pantallas {
 
@@ -19,7 +19,7 @@ struct InstanciaVariables {
 
 const std::vector<InstanciaVariables>& instanciasVariables();
 
-class PantallaVariables : public PantallaAbm {
+class PantallaVariables : public ventana::Pantalla {
     Q_OBJECT
 public:
     PantallaVariables(frame::Sesion& sesion, const InstanciaVariables& instancia,
