@@ -19,6 +19,7 @@ int main(int argc, char** argv) {
     cli::registrarOrdenesDatos(app, ctx);
     cli::registrarOrdenesVariables(app, ctx);
     cli::registrarOrdenesDescuentos(app, ctx);
+    cli::registrarOrdenesLiquidacion(app, ctx);
 
     try {
         app.parse(argc, argv);

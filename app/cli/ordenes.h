@@ -28,5 +28,6 @@ void registrarOrdenesMantenimiento(CLI::App& app, Contexto& ctx);
 void registrarOrdenesDatos(CLI::App& app, Contexto& ctx);
 void registrarOrdenesVariables(CLI::App& app, Contexto& ctx);
 void registrarOrdenesDescuentos(CLI::App& app, Contexto& ctx);
+void registrarOrdenesLiquidacion(CLI::App& app, Contexto& ctx);
 
 }  // namespace nomira::cli

@@ -9,7 +9,8 @@ namespace nomira::engine {
 
 std::vector<master::Persona> personasPorCantbfc(store::Conexion& base, const std::string& empresa) {
     std::vector<master::Persona> personas;
-    for (const auto& f : base.consulta("SELECT * FROM personal WHERE empresa = ?", {empresa}).filas)
+    for (const auto& f :
+         base.consulta("SELECT * FROM personal WHERE empresa = ? ORDER BY nombre", {empresa}).filas)
         personas.push_back(master::leerRegistro(f, master::camposPersona()));
     // cantbfc es texto en la tabla: se ordena por su valor, así un vacío o un
     // Null cuenta 0 igual en los dos motores.

@@ -18,7 +18,7 @@ namespace nomira::engine {
 
 // Las personas de la empresa por cantbfc: las de sueldo ficto al final, así el
 // mayor sueldo real ya está escrito cuando llega su turno. Entre iguales, el
-// orden de la tabla.
+// orden de los nombres (el mismo en los dos motores).
 std::vector<master::Persona> personasPorCantbfc(store::Conexion& base, const std::string& empresa);
 
 // La generación de una persona, dentro de la transacción de esa persona.

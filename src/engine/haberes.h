@@ -3,7 +3,6 @@
 // persona, y la de toda la empresa (ActHamPermxEmpresa_Click) sobre el
 // recorrido común. Regenerar los haberes siempre tira los descuentos del mes.
 #include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -63,19 +62,6 @@ ResultadoEmpresa ActHamPermxEmpresa(store::Conexion& base, const std::string& em
                                     const OpcionesHaberes& opciones = {},
                                     const ProgresoEmpresa& progreso = {},
                                     const CancelarEmpresa& cancelar = {});
-
-// HabPerm2_Click y DescPerm2_Click: preguntan y borran los haberes ("Hab") o
-// los descuentos ("Des") del mes; con los haberes, también el salvacacional del
-// mes. Falso si la respuesta fue No.
-bool borrarPermanentes(store::Conexion& base, const std::string& empresa, const std::string& nombre,
-                       const common::Mes& mes, const std::string& tipo, common::Dialogo& dialogo);
-
-// Eliminar_Click: la fila del código, con lo que arrastra una licencia o una
-// retención sobre el vacacional. Un haber no se borra si el mes ya tiene
-// descuentos: devuelve ese mensaje (ya avisado).
-std::optional<std::string> borrarCodigo(store::Conexion& base, const std::string& empresa,
-                                        const std::string& nombre, const common::Mes& mes,
-                                        long codigo, common::Dialogo& dialogo);
 
 inline constexpr const char* kYaEnEgresos =
     "El funcionario ya tiene liquidado conceptos en Egresos.";

@@ -1,0 +1,178 @@
+// haberes, liquidacion y borrar: la generación de los haberes permanentes del
+// mes (una persona o toda la empresa), el mes de una persona con su desglose,
+// y el borrado de una fila o de los haberes o descuentos del mes.
+#include <algorithm>
+#include <iostream>
+
+#include "cli/ordenes.h"
+#include "common/numeros.h"
+#include "common/reloj.h"
+#include "engine/descuentos.h"
+#include "engine/explicacion.h"
+#include "engine/haberes.h"
+#include "engine/renglon.h"
+
+namespace nomira::cli {
+
+namespace {
+
+struct OpcionesLiquidacion {
+    std::string empresa, nombre, mes;
+    bool explicar = false;
+    long codigo = 0;
+    bool haberes = false, descuentos = false;
+};
+
+// El mes tecleado, o el anterior al de hoy.
+std::optional<common::Mes> mesDe(const std::string& texto) {
+    const std::string t = texto.empty() ? common::CalculaMesAnterior(common::hoy()) : texto;
+    auto mes = common::Mes::desdeTexto(t);
+    if (!mes) std::cerr << "El mes debe tener el formato MM/aa.\n";
+    return mes;
+}
+
+void mostrar(const engine::FilaLiquidada& f, bool explicar) {
+    std::cout << f.fila.codigo << " | " << f.fila.concepto << " | " << f.fila.tipo << " | "
+              << common::numeroATexto(f.fila.cant) << " | " << engine::pesos(f.fila.total) << '\n';
+    if (explicar && !f.explicacion.empty()) std::cout << "    " << f.explicacion << '\n';
+}
+
+int haberes(const Contexto& ctx, const OpcionesLiquidacion& o) {
+    const auto mes = mesDe(o.mes);
+    if (!mes) return 1;
+    auto base = ctx.abrir();
+    auto dialogo = ctx.dialogo();
+    const char* procedimiento = o.nombre.empty() ? "ActHamPermxEmpresa_Click" : "HabPerm_Click";
+    try {
+        if (!o.nombre.empty()) {
+            const auto r =
+                engine::generarHaberesPermanentes(*base, o.empresa, o.nombre, *mes, dialogo);
+            for (const auto& f : r.filas) mostrar(f, o.explicar);
+            return r.hecho ? 0 : 1;
+        }
+        const auto r = engine::ActHamPermxEmpresa(
+            *base, o.empresa, *mes, dialogo, {},
+            [](std::size_t i, std::size_t n, const std::string& nombre) {
+                std::cerr << "persona " << i << " de " << n << ": " << nombre << '\n';
+            });
+        for (const auto& p : r.personas)
+            for (const auto& f : p.filas) {
+                std::cout << p.nombre << " | ";
+                mostrar(f, o.explicar);
+            }
+        if (r.fallo) std::rethrow_exception(r.fallo);
+        dialogo.avisar(common::TipoAviso::Informacion, "Actualización finalizada.");
+        return 0;
+    } catch (const common::Fallo& f) {
+        std::cerr << common::textoErrorInesperado(f, procedimiento, "Form42") << '\n';
+        return 2;
+    }
+}
+
+// Las filas del mes como las dos grillas y las cifras del desglose.
+int liquidacion(const Contexto& ctx, const OpcionesLiquidacion& o) {
+    const auto mes = mesDe(o.mes);
+    if (!mes) return 1;
+    auto base = ctx.abrir();
+    auto dialogo = ctx.dialogo();
+    master::LectorVariables variables(*base);
+    engine::ContextoFormula c;
+    const auto mp = engine::BuscarVerif(*base, variables, o.empresa, o.nombre, *mes, c, dialogo);
+    if (!mp) return 1;
+    const auto filas = base->consulta(
+        "SELECT codigo, concepto, tipo, cant, total FROM habydesc WHERE empresa = ? AND nombre = ? "
+        "AND fecha = ? ORDER BY tipo DESC, codigo",
+        {o.empresa, o.nombre, mes->primerDia().iso()});
+    common::Dinero totaldes;
+    for (const auto& f : filas.filas) {
+        const auto total = common::Dinero::desdeDouble(f.real("total"));
+        if (f.texto("tipo") == "Des") totaldes = totaldes + total;
+        std::cout << f.texto("codigo") << " | " << f.texto("concepto") << " | " << f.texto("tipo")
+                  << " | " << common::numeroATexto(f.real("cant")) << " | " << engine::pesos(total)
+                  << '\n';
+    }
+    const auto& d = mp->desglose;
+    const common::Dinero aCobrar = std::max(common::Dinero{}, d.totalhab - totaldes);
+    std::cout << "T.Haberes: " << engine::pesos(d.totalhab) << '\n'
+              << "Total Descuentos: " << engine::pesos(totaldes) << '\n'
+              << "Líquido Neto: " << engine::pesos(d.liquido.liquidoneto) << '\n'
+              << "Líquido a Cobrar: " << engine::pesos(aCobrar) << '\n'
+              << "M.Irpf: " << engine::pesos(d.montoirpf) << '\n'
+              << "M.Dedu.: " << engine::pesos(d.montonominal) << '\n';
+    if (o.explicar) std::cout << d.explicacion << '\n' << d.liquido.explicacion << '\n';
+    return 0;
+}
+
+int borrar(const Contexto& ctx, const OpcionesLiquidacion& o) {
+    const auto mes = mesDe(o.mes);
+    if (!mes) return 1;
+    if (o.empresa.empty() || o.nombre.empty() || o.mes.empty()) {
+        std::cerr << engine::kFaltanCamposMes << '\n';
+        return 1;
+    }
+    if ((o.codigo != 0) + o.haberes + o.descuentos != 1) {
+        std::cerr << "Indique una sola de --codigo, --haberes o --descuentos.\n";
+        return 1;
+    }
+    auto base = ctx.abrir();
+    auto dialogo = ctx.dialogo();
+    try {
+        if (o.haberes || o.descuentos) {
+            const long n =
+                o.haberes
+                    ? engine::eliminarHaberesDelMes(*base, o.empresa, o.nombre, *mes, dialogo)
+                    : engine::eliminarDescuentosDelMes(*base, o.empresa, o.nombre, *mes, dialogo);
+            if (n >= 0) std::cout << "filas borradas: " << n << '\n';
+            return 0;
+        }
+        master::LectorVariables variables(*base);
+        engine::ContextoFormula c;
+        const auto mp =
+            engine::BuscarVerif(*base, variables, o.empresa, o.nombre, *mes, c, dialogo);
+        if (!mp) return 1;
+        const auto buscado = engine::buscarRenglon(*base, *mp, c, o.codigo, dialogo);
+        if (!buscado) return 1;
+        const auto m = engine::eliminarRenglon(*base, *mp, buscado->concepto, dialogo);
+        return m && !m->empty() ? 1 : 0;
+    } catch (const common::Fallo& f) {
+        std::cerr << common::textoErrorInesperado(f,
+                                                  o.haberes      ? "HabPerm2_Click"
+                                                  : o.descuentos ? "DescPerm2_Click"
+                                                                 : "Eliminar_Click",
+                                                  "Form42")
+                  << '\n';
+        return 2;
+    }
+}
+
+}  // namespace
+
+void registrarOrdenesLiquidacion(CLI::App& app, Contexto& ctx) {
+    static OpcionesLiquidacion h, l, b;
+    auto* ha = app.add_subcommand(
+        "haberes", "Genera los haberes permanentes del mes de una persona o de toda la empresa");
+    ha->add_option("--empresa", h.empresa, "Empresa")->required();
+    ha->add_option("--nombre", h.nombre, "Persona; sin ella, todas las de la empresa");
+    ha->add_option("--mes", h.mes, "Mes que se liquida, MM/aa; sin él, el mes anterior");
+    ha->add_flag("--explicar", h.explicar, "Muestra cómo se llegó a cada importe");
+    ha->callback([&ctx] { ctx.accion = [&ctx] { return haberes(ctx, h); }; });
+
+    auto* li = app.add_subcommand("liquidacion", "Muestra el mes de una persona con su desglose");
+    li->add_option("--empresa", l.empresa, "Empresa")->required();
+    li->add_option("--nombre", l.nombre, "Persona")->required();
+    li->add_option("--mes", l.mes, "Mes, MM/aa; sin él, el mes anterior");
+    li->add_flag("--explicar", l.explicar, "Muestra cómo se llegó a las cifras del desglose");
+    li->callback([&ctx] { ctx.accion = [&ctx] { return liquidacion(ctx, l); }; });
+
+    auto* bo = app.add_subcommand(
+        "borrar", "Borra una fila, los haberes o los descuentos del mes de una persona");
+    bo->add_option("--empresa", b.empresa, "Empresa")->required();
+    bo->add_option("--nombre", b.nombre, "Persona")->required();
+    bo->add_option("--mes", b.mes, "Mes, MM/aa")->required();
+    bo->add_option("--codigo", b.codigo, "Código de la fila");
+    bo->add_flag("--haberes", b.haberes, "Todos los haberes del mes");
+    bo->add_flag("--descuentos", b.descuentos, "Todos los descuentos del mes");
+    bo->callback([&ctx] { ctx.accion = [&ctx] { return borrar(ctx, b); }; });
+}
+
+}  // namespace nomira::cli

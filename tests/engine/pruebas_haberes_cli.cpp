@@ -1,0 +1,62 @@
+// nomira-cli haberes, liquidacion y borrar sobre una base SQLite nueva.
+#include <gtest/gtest.h>
+
+#include "apoyo/carpeta_temporal.h"
+#include "apoyo/cli.h"
+#include "store/conexion.h"
+
+namespace nomira {
+namespace {
+
+TEST(OrdenHaberes, EmpresaPersonaYDesglose) {
+    pruebas::CarpetaTemporal tmp;
+    const std::string db = tmp.archivo("n.db");
+    ASSERT_EQ(pruebas::cli("--base " + db + " init").estado, 0);
+    {
+        auto base = store::abrir(db);
+        base->ejecuta("INSERT INTO empresas (empresa, nroemp) VALUES ('ACME', 1)");
+        base->ejecuta(
+            "INSERT INTO personal (empresa, nombre, sueldo, tiposueldo, fechaing) VALUES "
+            "('ACME', 'PEREZ, JUAN', '30000', 'S', '2020-01-01'), ('ACME', 'GOMEZ, ANA', "
+            "'20000', 'S', '2026-02-11'), ('ACME', 'NUEVO', '1', 'S', '2026-03-01')");
+        base->ejecuta(
+            "INSERT INTO habydesc (empresa, nombre, fecha, codigo, concepto, tipo, cant, total) "
+            "VALUES ('ACME', 'GOMEZ, ANA', '2026-02-01', 90, 'CUOTA', 'Des', 1, 500)");
+    }
+    const std::string b = "--base " + db + " ";
+    // NUEVO entra en marzo: se recorre pero no se genera.
+    auto s = pruebas::cli(b + "haberes --empresa ACME --mes 02/26");
+    EXPECT_EQ(s.estado, 0) << s.texto;
+    for (const char* linea :
+         {"persona 1 de 3: GOMEZ, ANA\n", "persona 3 de 3: PEREZ, JUAN\n",
+          "PEREZ, JUAN | 1 | SUELDO | Hab | 1 | 30,000.00\n", "Actualización finalizada.\n"})
+        EXPECT_NE(s.texto.find(linea), std::string::npos) << linea << s.texto;
+    EXPECT_EQ(s.texto.find("NUEVO |"), std::string::npos) << s.texto;
+
+    // Entró el 11: 10 días, -(20000 / 30 x 10) = -6666,67; la CUOTA se fue.
+    s = pruebas::cli(b + "liquidacion --empresa ACME --nombre 'GOMEZ, ANA' --mes 02/26");
+    EXPECT_EQ(s.estado, 0);
+    EXPECT_EQ(s.texto,
+              "1 | SUELDO | Hab | 1 | 20,000.00\n"
+              "20 | DIASNOTRABAJADOS | Hab | 10 | -6,666.67\n"
+              "50 | ANTIGUEDAD | Hab | 1 | 0.00\n"
+              "T.Haberes: 13,333.33\n"
+              "Total Descuentos: 0.00\n"
+              "Líquido Neto: 13,333.33\n"
+              "Líquido a Cobrar: 13,333.33\n"
+              "M.Irpf: 13,333.33\n"
+              "M.Dedu.: 13,333.33\n");
+
+    s = pruebas::cli(b + "--no borrar --empresa ACME --nombre 'GOMEZ, ANA' --mes 02/26 --haberes");
+    EXPECT_EQ(s.estado, 0);
+    EXPECT_EQ(s.texto.find("filas borradas"), std::string::npos) << s.texto;
+    s = pruebas::cli(b + "--si borrar --empresa ACME --nombre 'GOMEZ, ANA' --mes 02/26 --haberes");
+    EXPECT_NE(s.texto.find("filas borradas: 3"), std::string::npos) << s.texto;
+
+    s = pruebas::cli(b + "haberes --empresa ACME --nombre NADIE --mes 02/26");
+    EXPECT_EQ(s.estado, 1);
+    EXPECT_NE(s.texto.find("El Nombre del Personal no existe en esta Empresa"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace nomira
