@@ -1,0 +1,206 @@
+// Los descuentos del mes de una persona y de la empresa: aportes bajo y sobre
+// 2.5 BPC, la aportación 04, el IRPF con su texto, el arrastre de ADELANTOS y
+// el adelanto de licencia de un jornalero con sus aportes de un momento.
+#include <gtest/gtest.h>
+
+#include "engine/descuentos.h"
+#include "engine/irpf_licencia.h"
+#include "pruebas_descuentos_escenario.h"
+
+namespace nomira::engine {
+namespace {
+
+using pruebas::EscenarioMes;
+
+class Descuentos : public EscenarioMes {};
+NOMIRA_PARA_CADA_MOTOR(Descuentos);
+
+TEST_P(Descuentos, MensualBajoYSobreDosYMedioBPC) {
+    persona("PEREZ, JUAN", {{"nrofun", "12"}, {"sueldo", "15000"}, {"tiposueldo", "S"},
+                            {"sexocon", "MNo"}});
+    persona("GOMEZ, ANA", {{"nrofun", "13"}, {"sueldo", "80000"}, {"tiposueldo", "S"},
+                           {"sexocon", "MSi"}});
+    fila("PEREZ, JUAN", marzo, 1, "SUELDO", "Hab", 1, 15000);
+    fila("GOMEZ, ANA", marzo, 1, "SUELDO", "Hab", 1, 80000);
+    ejecutar(
+        "INSERT INTO concpermxpers (empresa, nombre, codigo, concepto, tipo) VALUES ('ACME', "
+        "'PEREZ, JUAN', 520, 'CUOTA SINDICAL', 'Des')");
+
+    auto r = DescPerm(*base, *variables, "ACME", "PEREZ, JUAN", marzo, dialogo);
+    ASSERT_TRUE(r.hecho) << r.aviso;
+    std::string texto;
+    EXPECT_EQ(total("PEREZ, JUAN", marzo, 501, &texto), 2250);  // 15%
+    EXPECT_EQ(texto, "MONTEPIO 15%");
+    EXPECT_EQ(total("PEREZ, JUAN", marzo, 502, &texto), 450);  // bajo 17160, sin cónyuge: 3%
+    EXPECT_EQ(texto, "SNIS 3%");
+    EXPECT_EQ(total("PEREZ, JUAN", marzo, 503), 15);
+    // Bajo 7 BPC no hay impuesto: el texto lleva el monto de la base.
+    EXPECT_EQ(total("PEREZ, JUAN", marzo, 510, &texto), 0);
+    EXPECT_EQ(texto, "IRPF     15,000.00      ");
+    // El de la persona va después y ve el líquido: 15000 - 2250 - 450 - 15 = 12285.
+    EXPECT_EQ(total("PEREZ, JUAN", marzo, 520), 122.85);
+    EXPECT_FALSE(total("PEREZ, JUAN", marzo, 500));  // ADELANTOS no es permanente
+    EXPECT_FALSE(total("GOMEZ, ANA", marzo, 520));   // ni la cuota de otro
+    ASSERT_EQ(r.filas.size(), 5u);
+    EXPECT_EQ(r.filas[0].fila.codigo, 501);
+    EXPECT_EQ(r.filas[4].fila.codigo, 520);
+
+    r = DescPerm(*base, *variables, "ACME", "GOMEZ, ANA", marzo, dialogo);
+    ASSERT_TRUE(r.hecho);
+    EXPECT_EQ(total("GOMEZ, ANA", marzo, 501), 12000);
+    EXPECT_EQ(total("GOMEZ, ANA", marzo, 502, &texto), 5200);  // cónyuge, sin hijos: 6.5%
+    EXPECT_EQ(texto, "SNIS 6.5%");
+    EXPECT_EQ(total("GOMEZ, ANA", marzo, 503), 80);
+    // Base 80000 + 6% = 84800. Escala: 20592 x 10% + 16160 x 15% = 2059.20 +
+    // 2424 = 4483.20. Crédito 14% de los aportes 17280 = 2419.20 (el nominal
+    // 80000 no pasa 15 BPC). 4483.20 - 2419.20 = 2064.
+    EXPECT_EQ(total("GOMEZ, ANA", marzo, 510, &texto), 2064);
+    EXPECT_EQ(texto, "IRPF   4,483 -    2,419");
+
+    // Generar otra vez reescribe por código: las mismas filas, ninguna más.
+    DescPerm(*base, *variables, "ACME", "GOMEZ, ANA", marzo, dialogo);
+    EXPECT_EQ(cuantas("nombre = 'GOMEZ, ANA' AND tipo = 'Des'"), 4);
+    EXPECT_EQ(total("GOMEZ, ANA", marzo, 510), 2064);
+}
+
+TEST_P(Descuentos, EmpresaCuatroSinMontepioYEgresosNoSeTocan) {
+    empresa("RURAL", 8, "Rural - Otros");
+    persona("PEREZ, JUAN", {{"sueldo", "15000"}, {"tiposueldo", "S"}, {"sexocon", "MNo"}},
+            "RURAL");
+    fila("PEREZ, JUAN", marzo, 1, "SUELDO", "Hab", 1, 15000, "RURAL");
+    const auto r = DescPerm(*base, *variables, "RURAL", "PEREZ, JUAN", marzo, dialogo);
+    ASSERT_TRUE(r.hecho);
+    std::string texto;
+    EXPECT_FALSE(total("PEREZ, JUAN", marzo, 501));
+    EXPECT_EQ(total("PEREZ, JUAN", marzo, 502, &texto), 0);  // 3 - 3
+    EXPECT_EQ(texto, "SNIS 0%");
+    EXPECT_EQ(total("PEREZ, JUAN", marzo, 503), 15);
+
+    // Con egresos en el mes no se escribe nada y se avisa.
+    persona("GOMEZ, ANA", {{"sueldo", "20000"}, {"tiposueldo", "S"}});
+    fila("GOMEZ, ANA", marzo, 1, "SUELDO", "Hab", 1, 20000);
+    ejecutar(
+        "INSERT INTO egresos (empresa, nombre, fecha, codigo, concepto, tipo, total) VALUES "
+        "('ACME', 'GOMEZ, ANA', ?, 1, 'SUELDO', 'Hab', 100)",
+        {marzo.primerDia().iso()});
+    const auto e = DescPerm(*base, *variables, "ACME", "GOMEZ, ANA", marzo, dialogo);
+    EXPECT_FALSE(e.hecho);
+    EXPECT_EQ(dialogo.ultimoMensaje(), "El funcionario ya tiene liquidado conceptos en Egresos.");
+    EXPECT_EQ(cuantas("nombre = 'GOMEZ, ANA' AND tipo = 'Des'"), 0);
+}
+
+TEST_P(Descuentos, MesAnteriorNegativoPasaComoAdelantos) {
+    const common::Mes febrero{2026, 2};
+    persona("PEREZ, JUAN", {{"sueldo", "15000"}, {"tiposueldo", "S"}, {"sexocon", "MNo"}});
+    persona("LOPEZ, EVA", {{"sueldo", "100"}, {"tiposueldo", "H"}, {"htrab", "8"}});
+    for (const char* n : {"PEREZ, JUAN", "LOPEZ, EVA"}) {
+        fila(n, febrero, 1, "SUELDO", "Hab", 1, 1000);
+        fila(n, febrero, 600, "RETENCION", "Des", 1, 1500);
+    }
+    fila("PEREZ, JUAN", marzo, 1, "SUELDO", "Hab", 1, 15000);
+    fila("LOPEZ, EVA", marzo, 10, "HORAS", "Hab", 100, 10000);
+
+    DescPerm(*base, *variables, "ACME", "PEREZ, JUAN", marzo, dialogo);
+    double cant = 0;
+    // Febrero cerró en 1000 - 1500 = -500.
+    EXPECT_EQ(total("PEREZ, JUAN", marzo, 500, nullptr, &cant), 500);
+    EXPECT_EQ(cant, 1);
+    // ADELANTOS cuenta entre los descuentos pero no entre los legales: el
+    // líquido sigue siendo 15000 - 2715 y la cuota no cambia si la hubiera.
+    EXPECT_EQ(total("PEREZ, JUAN", marzo, 501), 2250);
+
+    // Un jornalero o por hora con un solo haber no arrastra.
+    DescPerm(*base, *variables, "ACME", "LOPEZ, EVA", marzo, dialogo);
+    EXPECT_FALSE(total("LOPEZ, EVA", marzo, 500));
+    EXPECT_EQ(total("LOPEZ, EVA", marzo, 501), 1500);
+}
+
+// Un por hora con licencia y salario vacacional en el mes: el adelanto es el
+// vacacional menos el IRPF de licencia y vacacional, con los aportes de la
+// licencia contados un momento y luego deshechos.
+TEST_P(Descuentos, AdelantoDeLicenciaSinAportesQueQuedenDeMas) {
+    persona("LOPEZ, EVA", {{"sueldo", "100"}, {"tiposueldo", "H"}, {"htrab", "8"},
+                           {"sexocon", "MNo"}});
+    fila("LOPEZ, EVA", marzo, 10, "HORAS", "Hab", 100, 10000);
+    fila("LOPEZ, EVA", marzo, 20, "LICENCIA", "Hab", 20, 60000);
+    ejecutar(
+        "INSERT INTO salvacacional (empresa, nombre, fecha, codigo, concepto, cant, total) "
+        "VALUES ('ACME', 'LOPEZ, EVA', ?, 606, 'SALARIO VACACIONAL', 20, 20000)",
+        {marzo.primerDia().iso()});
+
+    const auto r = DescPerm(*base, *variables, "ACME", "LOPEZ, EVA", marzo, dialogo);
+    ASSERT_TRUE(r.hecho);
+    // 60000 + 20000 pasa 10 BPC: licencia x 1.06 = 63600; base 83600, nominal 63600.
+    // Escala: 2059.20 + (83600 - 68640) x 15% = 2059.20 + 2244 = 4303.20.
+    // Aportes de la licencia sobre 60000: 9000 + 4.5% 2700 + 60 = 11760; al 14%: 1646.40.
+    // IRPF 2656.80; adelanto 20000 - 2656.80 = 17343.20.
+    EXPECT_EQ(total("LOPEZ, EVA", marzo, 504), 17343.20);
+    ASSERT_FALSE(r.filas.empty());
+    EXPECT_EQ(r.filas[0].fila.codigo, 504);
+    // Los aportes de un momento no quedaron: una fila de cada uno, la del mes
+    // sobre el gravado 70000.
+    EXPECT_EQ(cuantas("nombre = 'LOPEZ, EVA' AND concepto LIKE 'MONTEPIO%'"), 1);
+    EXPECT_EQ(cuantas("nombre = 'LOPEZ, EVA' AND concepto LIKE 'SNIS%'"), 1);
+    EXPECT_EQ(cuantas("nombre = 'LOPEZ, EVA' AND concepto LIKE 'FRL%'"), 1);
+    EXPECT_EQ(total("LOPEZ, EVA", marzo, 501), 10500);
+}
+
+TEST_P(Descuentos, UnFalloEnLosAportesDeLicenciaNoDejaFilas) {
+    persona("LOPEZ, EVA", {{"sueldo", "100"}, {"tiposueldo", "H"}, {"htrab", "8"}});
+    fila("LOPEZ, EVA", marzo, 20, "LICENCIA", "Hab", 20, 60000);
+    ejecutar("UPDATE conceptos SET formula = '1/0' WHERE concepto = 'FRL'");
+    ASSERT_TRUE(mesDe("LOPEZ, EVA", marzo));
+    // MONTEPIO y SNIS ya están escritos cuando FRL falla.
+    EXPECT_THROW(irpfConAportesDeLicencia(ctx, common::Dinero::desdeDouble(60000),
+                                          common::Dinero::desdeDouble(60000),
+                                          common::Dinero::desdeDouble(60000), dialogo),
+                 common::Fallo);
+    EXPECT_EQ(cuantas("tipo = 'Des'"), 0);
+    EXPECT_EQ(aportesDeLicencia(0, "04"), (std::vector<std::string>{"SNIS", "FRL"}));
+    EXPECT_EQ(aportesDeLicencia(30, ""), (std::vector<std::string>{"MONTEPIO", "FRL"}));
+}
+
+TEST_P(Descuentos, TodaLaEmpresaConAvance) {
+    persona("PEREZ, JUAN", {{"sueldo", "15000"}, {"tiposueldo", "S"}, {"fechaing", "2020-01-01"}});
+    persona("SIN HABERES, LUIS", {{"sueldo", "15000"}, {"tiposueldo", "S"}});
+    persona("NUEVA, ROSA", {{"sueldo", "15000"}, {"tiposueldo", "S"}, {"fechaing", "2026-04-02"}});
+    persona("CON EGRESO, PIA", {{"sueldo", "15000"}, {"tiposueldo", "S"}});
+    fila("PEREZ, JUAN", marzo, 1, "SUELDO", "Hab", 1, 15000);
+    fila("NUEVA, ROSA", marzo, 1, "SUELDO", "Hab", 1, 15000);
+    fila("CON EGRESO, PIA", marzo, 1, "SUELDO", "Hab", 1, 15000);
+    ejecutar(
+        "INSERT INTO egresos (empresa, nombre, fecha, codigo, concepto, tipo, total) VALUES "
+        "('ACME', 'CON EGRESO, PIA', ?, 1, 'SUELDO', 'Hab', 100)",
+        {marzo.primerDia().iso()});
+    std::vector<std::string> avance;
+    const auto r = ActDesPermxEmpresa(
+        *base, *variables, "ACME", marzo, dialogo,
+        [&](std::size_t i, std::size_t n, const std::string& nombre) {
+            avance.push_back(std::to_string(i) + "/" + std::to_string(n) + " " + nombre);
+        });
+    EXPECT_EQ(avance.size(), 4u);
+    EXPECT_EQ(r.inactivas, std::vector<std::string>{"NUEVA, ROSA"});
+    EXPECT_EQ(dialogo.ultimoMensaje(), "Actualización finalizada.");
+    EXPECT_EQ(total("PEREZ, JUAN", marzo, 501), 2250);
+    EXPECT_EQ(cuantas("tipo = 'Des'"), 4);  // sólo los de PEREZ
+}
+
+TEST_P(Descuentos, BorrarLosDelMesPregunta) {
+    persona("PEREZ, JUAN", {{"sueldo", "15000"}, {"tiposueldo", "S"}});
+    fila("PEREZ, JUAN", marzo, 1, "SUELDO", "Hab", 1, 15000);
+    fila("PEREZ, JUAN", marzo, 501, "MONTEPIO 15%", "Des", 1, 2250);
+    ejecutar(
+        "INSERT INTO salvacacional (empresa, nombre, fecha, codigo, concepto, total) VALUES "
+        "('ACME', 'PEREZ, JUAN', ?, 606, 'SALARIO VACACIONAL', 1)",
+        {marzo.primerDia().iso()});
+    dialogo.respuestas = {false, true, true};
+    EXPECT_EQ(eliminarDescuentosDelMes(*base, "ACME", "PEREZ, JUAN", marzo, dialogo), -1);
+    EXPECT_EQ(eliminarDescuentosDelMes(*base, "ACME", "PEREZ, JUAN", marzo, dialogo), 1);
+    EXPECT_EQ(dialogo.preguntas.back(), "Eliminar Desc.Perm.|¿Desea continuar?");
+    EXPECT_EQ(eliminarHaberesDelMes(*base, "ACME", "PEREZ, JUAN", marzo, dialogo), 1);
+    EXPECT_TRUE(base->consulta("SELECT * FROM salvacacional").vacio());
+    EXPECT_EQ(cuantas("1 = 1"), 0);
+}
+
+}  // namespace
+}  // namespace nomira::engine
