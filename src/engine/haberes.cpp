@@ -142,12 +142,13 @@ ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula&
         r.aviso = kYaEnEgresos;
         return r;
     }
-    base.ejecuta(
+    const auto borradas = base.ejecuta(
         "DELETE FROM habydesc WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
         "tipo = 'Des'",
         {mp.empresa, mp.nombre, fecha(mp.mes)});
     if (opciones.calculoCant) opciones.calculoCant(ctx, dialogo);
-    refrescarDesglose(base, mp, ctx);
+    // La base del mes que dejó BuscarVerif sólo cambia si se fue algo o llegaron horas.
+    if (borradas > 0 || opciones.calculoCant) refrescarDesglose(base, mp, ctx);
 
     const auto& cs = mp.consejo;
     for (const auto& c : conceptosPermanentes(base, mp, ctx.cantbfc)) {
