@@ -20,14 +20,17 @@ inline std::string rutaCli() {
     return NOMIRA_CLI_RUTA;
 }
 
-inline SalidaCli cli(const std::string& argumentos) {
-    const std::string orden = rutaCli() + " " + argumentos + " 2>&1 </dev/null";
-    FILE* p = popen(orden.c_str(), "r");
+// Una orden del shell, con stderr junto a stdout.
+inline SalidaCli ejecutar(const std::string& orden) {
+    const std::string completa = "{ " + orden + "\n} 2>&1 </dev/null";
+    FILE* p = popen(completa.c_str(), "r");
     std::string texto;
     std::array<char, 512> b{};
     while (fgets(b.data(), b.size(), p)) texto += b.data();
     const int estado = pclose(p);
     return {WEXITSTATUS(estado), texto};
 }
+
+inline SalidaCli cli(const std::string& argumentos) { return ejecutar(rutaCli() + " " + argumentos); }
 
 }  // namespace nomira::pruebas
