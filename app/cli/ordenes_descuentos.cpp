@@ -15,7 +15,6 @@ namespace {
 
 struct OpcionesMes {
     std::string empresa, nombre, mes;
-    bool eliminar = false;
 };
 
 struct OpcionesRenglon : OpcionesMes {
@@ -39,15 +38,6 @@ int descuentos(const Contexto& ctx, const OpcionesMes& o) {
     if (!mes) return 1;
     auto base = ctx.abrir();
     auto dialogo = ctx.dialogo();
-    if (o.eliminar) {
-        if (o.nombre.empty()) {
-            dialogo.avisar(common::TipoAviso::Advertencia, engine::kFaltanCamposMes);
-            return 1;
-        }
-        const auto n = engine::eliminarDescuentosDelMes(*base, o.empresa, o.nombre, *mes, dialogo);
-        if (n >= 0) std::cout << "filas borradas: " << n << '\n';
-        return 0;
-    }
     master::LectorVariables variables(*base);
     const char* procedimiento = o.nombre.empty() ? "ActDesPermxEmpresa_Click" : "DescPerm_Click";
     try {
@@ -87,10 +77,6 @@ int renglon(const Contexto& ctx, const OpcionesRenglon& o) {
     try {
         const auto buscado = engine::buscarRenglon(*base, *mp, c, o.codigo, dialogo);
         if (!buscado) return 1;
-        if (o.eliminar) {
-            const auto m = engine::eliminarRenglon(*base, *mp, buscado->concepto, dialogo);
-            return m && !m->empty() ? 1 : 0;
-        }
         const std::string textoCant = o.cant.value_or(buscado->textoCant);
         const auto calculo =
             engine::calcularRenglon(*base, *mp, c, buscado->concepto, textoCant, dialogo);
@@ -122,7 +108,7 @@ void registrarOrdenesDescuentos(CLI::App& app, Contexto& ctx) {
     de->add_option("--empresa", d.empresa, "Empresa")->required();
     de->add_option("--nombre", d.nombre, "Persona; sin ella, todas las de la empresa");
     de->add_option("--mes", d.mes, "Mes que se liquida, MM/aa")->required();
-    de->add_flag("--eliminar", d.eliminar, "Borra los descuentos del mes de la persona");
+    de->fallthrough();  // --si y --no también después de la orden
     de->callback([&ctx] { ctx.accion = [&ctx] { return descuentos(ctx, d); }; });
 
     auto* re = app.add_subcommand(
@@ -135,7 +121,7 @@ void registrarOrdenesDescuentos(CLI::App& app, Contexto& ctx) {
     re->add_option("--cant", r.cant, "Cantidad tecleada; sin ella, la que propone el código");
     re->add_option("--total", r.total, "Total tecleado; reemplaza el calculado");
     re->add_option("--periodo", r.periodo, "Período de una licencia, dd/mm/aa-dd/mm/aa");
-    re->add_flag("--eliminar", r.eliminar, "Borra la fila del código");
+    re->fallthrough();
     re->callback([&ctx] { ctx.accion = [&ctx] { return renglon(ctx, r); }; });
 }
 
