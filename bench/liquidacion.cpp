@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -29,9 +30,24 @@ class DialogoMudo : public common::Dialogo {
 constexpr int kPersonas = 1000;
 constexpr int kConceptos = 15;
 
+// Con NOMIRA_BANCO_PG (una cadena de conexión) la empresa va a un esquema propio de ese
+// servidor, que se borra y se vuelve a crear; si no, a un archivo SQLite temporal.
+std::unique_ptr<store::Conexion> baseVacia(const std::filesystem::path& archivo) {
+    const char* pg = std::getenv("NOMIRA_BANCO_PG");
+    if (!pg || !*pg) {
+        std::filesystem::remove(archivo);
+        return store::abrir(archivo.string());
+    }
+    auto base = store::abrir(pg);
+    const auto esquema = "banco_" + archivo.stem().string();
+    base->ejecuta("DROP SCHEMA IF EXISTS " + esquema + " CASCADE");
+    base->ejecuta("CREATE SCHEMA " + esquema);
+    base->ejecuta("SET search_path TO " + esquema);
+    return base;
+}
+
 std::unique_ptr<store::Conexion> empresaGenerada(const std::filesystem::path& archivo) {
-    std::filesystem::remove(archivo);
-    auto base = store::abrir(archivo.string());
+    auto base = baseVacia(archivo);
     store::crearBase(*base);
     store::Transaccion t(*base);
     base->ejecuta("INSERT INTO empresas (empresa, nroemp) VALUES ('ACME', 1)");
