@@ -46,11 +46,11 @@ int descuentos(const Contexto& ctx, const OpcionesMes& o) {
             for (const auto& f : r.filas) mostrar(f);
             return r.hecho ? 0 : 1;
         }
-        const auto r = engine::ActDesPermxEmpresa(
-            *base, variables, o.empresa, *mes, dialogo,
-            [](std::size_t i, std::size_t n, const std::string& nombre) {
-                std::cerr << i << "/" << n << " " << nombre << '\n';
-            });
+        const auto r =
+            engine::ActDesPermxEmpresa(*base, variables, o.empresa, *mes, dialogo,
+                                       [](std::size_t i, std::size_t n, const std::string& nombre) {
+                                           std::cerr << i << "/" << n << " " << nombre << '\n';
+                                       });
         for (const auto& p : r.personas)
             for (const auto& f : p.filas) {
                 std::cout << p.nombre << " | ";

@@ -49,9 +49,9 @@ std::optional<FilaLiquidada> adelantoLicencia(store::Conexion& base, const MesPe
         }
         const auto guardado = ctx.montograv;
         const auto filaLic = filaPorConcepto(base, mp.empresa, mp.nombre, mp.mes, "LICENCIA");
-        const auto r = irpfConAportesDeLicencia(
-            ctx, Dinero::desdeDouble(licencia) + salvac, Dinero::desdeDouble(licencia),
-            filaLic ? filaLic->total : Dinero(), dialogo);
+        const auto r = irpfConAportesDeLicencia(ctx, Dinero::desdeDouble(licencia) + salvac,
+                                                Dinero::desdeDouble(licencia),
+                                                filaLic ? filaLic->total : Dinero(), dialogo);
         ctx.montograv = guardado;
         irpf = r.irpf.total;
         exp += "; " + r.explicacion + "IRPF de licencia y vacacional " + pesos(irpf);
@@ -124,7 +124,8 @@ ImporteImpuesto calcularImpuesto(store::Conexion& base, const MesPersona& mp, Co
         return r;
     }
     r.cant = ctx.textoCant.empty() ? 1 : common::textoANumero(ctx.textoCant);
-    const auto filas = leerFilasDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes);
+    const auto filas =
+        leerFilasDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes);
     if (mp.mes.mes == 12) {
         if (excepcionLicencia(mp.tiposueldo, filas)) {
             r.explicacion = "diciembre: su único haber es una licencia, sin IRPF";
@@ -168,8 +169,8 @@ std::vector<FilaLiquidada> generarDescuentos(store::Conexion& base, MesPersona& 
         const auto nombre = common::mayusculas(c->concepto);
         ctx.textoCant.clear();
         if (nombre == "IRP" || nombre == "IRPF") {
-            const auto liquido = CalculoLiquidoNeto(base, mp.empresa, mp.nombre, mp.mes,
-                                                    opcionesLiquidoForm42());
+            const auto liquido =
+                CalculoLiquidoNeto(base, mp.empresa, mp.nombre, mp.mes, opcionesLiquidoForm42());
             ctx.liquidoneto = liquido.liquidoneto;
             ctx.liquidonetograv = liquido.liquidonetograv;
             ctx.montogravalim = liquido.montogravalim;
@@ -181,8 +182,8 @@ std::vector<FilaLiquidada> generarDescuentos(store::Conexion& base, MesPersona& 
             hechas.push_back(escribir(base, mp, fila, imp.explicacion));
             continue;
         }
-        ConceptoDescuento d{codigo,     c->concepto, c->formula, c->unidad, c->permanente,
-                            c->gravado, c->aguinaldo, c->lic,    c->ipd};
+        ConceptoDescuento d{codigo,     c->concepto,  c->formula, c->unidad, c->permanente,
+                            c->gravado, c->aguinaldo, c->lic,     c->ipd};
         const auto g = generarDescuento(ctx, d, opciones, dialogo);
         auto fila = filaDeConcepto(*c, "Des");
         fila.concepto = g.fila.concepto;
@@ -240,7 +241,8 @@ ResultadoEmpresa ActDesPermxEmpresa(store::Conexion& base, master::LectorVariabl
         auto mp = BuscarVerif(base, variables, empresa, p.nombre, mes, ctx, dialogo);
         if (!mp) return r;
         // Sin haberes no hay descuentos.
-        const auto filas = leerFilasDelMes(base, TablaLiquidacion::Habydesc, empresa, p.nombre, mes);
+        const auto filas =
+            leerFilasDelMes(base, TablaLiquidacion::Habydesc, empresa, p.nombre, mes);
         if (std::none_of(filas.begin(), filas.end(), [](auto& f) { return f.tipo == "Hab"; }))
             return r;
         const auto horas = CalculoCant2(ctx, dialogo);
@@ -266,7 +268,8 @@ long eliminarDelMes(store::Conexion& base, const std::string& empresa, const std
     const std::vector<store::Valor> claves = {empresa, nombre, mes.primerDia().iso()};
     const auto borradas = base.ejecuta(
         std::string("DELETE FROM habydesc WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
-                    "tipo = '") + tipo + "'",
+                    "tipo = '") +
+            tipo + "'",
         claves);
     if (std::string(tipo) == "Hab" && borradas > 0)
         base.ejecuta("DELETE FROM salvacacional WHERE empresa = ? AND nombre = ? AND fecha = ?",

@@ -17,7 +17,8 @@ namespace nomira::engine {
 
 inline constexpr const char* kFaltanCamposMes =
     "Debe completar los campos Empresa, Nombre del Personal y FMesCargo.";
-inline constexpr const char* kConEgresos = "El funcionario ya tiene liquidado conceptos en Egresos.";
+inline constexpr const char* kConEgresos =
+    "El funcionario ya tiene liquidado conceptos en Egresos.";
 inline constexpr const char* kSoloEmpresa = "Debe completar solamente el campo Empresa.";
 inline constexpr const char* kActualizacionFinalizada = "Actualización finalizada.";
 

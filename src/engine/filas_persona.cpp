@@ -11,8 +11,11 @@ namespace {
 std::optional<FilaGuardada> primera(const store::Resultado& r) {
     if (r.vacio()) return std::nullopt;
     const auto& f = r.primera();
-    return FilaGuardada{static_cast<long>(f.entero("codigo")), f.texto("concepto"),
-                        f.texto("tipo"),  f.texto("unidad"), f.real("cant"),
+    return FilaGuardada{static_cast<long>(f.entero("codigo")),
+                        f.texto("concepto"),
+                        f.texto("tipo"),
+                        f.texto("unidad"),
+                        f.real("cant"),
                         common::Dinero::desdeDouble(f.real("total"))};
 }
 
@@ -25,9 +28,9 @@ constexpr const char* kSelect =
 std::optional<FilaGuardada> filaPorCodigo(store::Conexion& base, const std::string& empresa,
                                           const std::string& nombre, const common::Mes& mes,
                                           long codigo) {
-    return primera(base.consulta(std::string(kSelect) + "codigo = ? ORDER BY codigo LIMIT 1",
-                                 {empresa, nombre, mes.primerDia().iso(),
-                                  static_cast<std::int64_t>(codigo)}));
+    return primera(
+        base.consulta(std::string(kSelect) + "codigo = ? ORDER BY codigo LIMIT 1",
+                      {empresa, nombre, mes.primerDia().iso(), static_cast<std::int64_t>(codigo)}));
 }
 
 std::optional<FilaGuardada> filaPorConcepto(store::Conexion& base, const std::string& empresa,
@@ -39,9 +42,8 @@ std::optional<FilaGuardada> filaPorConcepto(store::Conexion& base, const std::st
 
 std::optional<master::Concepto> conceptoPorNombre(store::Conexion& base,
                                                   const std::string& concepto) {
-    const auto r =
-        base.consulta("SELECT codigo FROM conceptos WHERE concepto = ? ORDER BY codigo LIMIT 1",
-                      {concepto});
+    const auto r = base.consulta(
+        "SELECT codigo FROM conceptos WHERE concepto = ? ORDER BY codigo LIMIT 1", {concepto});
     if (r.vacio()) return std::nullopt;
     return master::leerConcepto(base, static_cast<long>(r.primera().entero("codigo")));
 }

@@ -45,8 +45,8 @@ std::string nroempDe(store::Conexion& base, const std::string& empresa) {
 
 // El concepto de la línea: haberes del tipo de sueldo de la persona o generales;
 // descuentos, cualquiera.
-std::optional<master::Concepto> conceptoDeLinea(store::Conexion& base, long codigo,
-                                                bool descuentos, const std::string& tiposueldo) {
+std::optional<master::Concepto> conceptoDeLinea(store::Conexion& base, long codigo, bool descuentos,
+                                                const std::string& tiposueldo) {
     const std::int64_t c = codigo;
     const auto r =
         descuentos
@@ -129,8 +129,8 @@ ImportacionHoras importarHoras(ContextoFormula& ctx, const fs::path& archivo, bo
     int cantHab = 0;
     if (descuentos) {
         habydesc = leerFilasDelMes(base, TablaLiquidacion::Habydesc, ctx.empresa, ctx.nombre, mes);
-        cantHab = static_cast<int>(
-            std::count_if(habydesc.begin(), habydesc.end(), [](auto& f) { return f.tipo == "Hab"; }));
+        cantHab = static_cast<int>(std::count_if(habydesc.begin(), habydesc.end(),
+                                                 [](auto& f) { return f.tipo == "Hab"; }));
     }
 
     ImportacionHoras r;
@@ -190,9 +190,9 @@ ImportacionHoras importarHoras(ContextoFormula& ctx, const fs::path& archivo, bo
         r.explicacion += exp + "\n";
 
         if (!descuentos && esConceptoHoras(common::mayusculas(concepto->concepto)))
-            if (auto j = actualizarJornadas(base, ctx.empresa, ctx.nombre, mes,
-                                            common::mayusculas(concepto->concepto), cant,
-                                            ctx.htrab))
+            if (auto j =
+                    actualizarJornadas(base, ctx.empresa, ctx.nombre, mes,
+                                       common::mayusculas(concepto->concepto), cant, ctx.htrab))
                 r.filas.push_back(*j);
     }
     return r;

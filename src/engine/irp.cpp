@@ -33,7 +33,8 @@ double irpDe(double monto, const std::vector<FilaEscala>& franjas, double bpc) {
             break;
         }
     if (!fila) return 0;
-    const FilaEscala* previa = fila->franja == 1 ? nullptr : franjaNumero(franjas, fila->franja - 1);
+    const FilaEscala* previa =
+        fila->franja == 1 ? nullptr : franjaNumero(franjas, fila->franja - 1);
     if (!previa) return monto * fila->tasa / 100;
     const double topeNeto = previa->hasta * bpc * (1 - previa->tasa / 100);
     const double neto = aCentesimos(monto * (1 - fila->tasa / 100));
@@ -48,8 +49,8 @@ ResultadoIRP CalculoIRP(ContextoFormula& ctx) {
     r.cant = ctx.textoCant.empty() ? 1 : common::textoANumero(ctx.textoCant);
     double reliquidacion = 0;
     if (!ctx.empresa.empty() && !ctx.nombre.empty())
-        if (const auto f = filaPorConcepto(base, ctx.empresa, ctx.nombre, ctx.periodo,
-                                           "RELIQUIDACION"))
+        if (const auto f =
+                filaPorConcepto(base, ctx.empresa, ctx.nombre, ctx.periodo, "RELIQUIDACION"))
             reliquidacion = f->total.aDouble();
     std::vector<FilaEscala> franjas;
     for (const auto& f : base.consulta("SELECT * FROM franjasirp ORDER BY franja").filas)

@@ -25,7 +25,7 @@ struct IRPFLicencia {
 // CalculoIRPF(montoirpf, montonominal) con los aportes calculados sobre
 // `gravadoLicencia` (el tope del montepío aplicado) entre las filas del mes.
 IRPFLicencia irpfConAportesDeLicencia(ContextoFormula& ctx, common::Dinero montoirpf,
-                                      common::Dinero montonominal,
-                                      common::Dinero gravadoLicencia, common::Dialogo& dialogo);
+                                      common::Dinero montonominal, common::Dinero gravadoLicencia,
+                                      common::Dialogo& dialogo);
 
 }  // namespace nomira::engine

@@ -84,8 +84,8 @@ std::optional<CalculoRenglon> calcularLicencia(store::Conexion& base, MesPersona
         CalculoLicencia(base, ctx, textoCant, mp.consejo.grupo, mp.consejo.subgrupo, dialogo);
     r.cant = textoCant.empty() ? 1 : dias;
     r.total = importe.total;
-    r.explicacion = "días a gozar " + numero(totaldias) + ", período " + *periodo + "; " +
-                    importe.explicacion;
+    r.explicacion =
+        "días a gozar " + numero(totaldias) + ", período " + *periodo + "; " + importe.explicacion;
     return r;
 }
 
@@ -119,7 +119,8 @@ CalculoRenglon calcularConFormula(store::Conexion& base, MesPersona& mp, Context
     for (const auto& f :
          leerFilasDelMes(base, TablaLiquidacion::Aguinaldos, mp.empresa, mp.nombre, mp.mes)) {
         if (f.tipo == "Hab") e.aguinaldosHab += f.total;
-        if (empiezaCon(f.concepto, "SNIS") && e.snisAguinaldo == Dinero()) e.snisAguinaldo = f.total;
+        if (empiezaCon(f.concepto, "SNIS") && e.snisAguinaldo == Dinero())
+            e.snisAguinaldo = f.total;
     }
     const auto a = ajustarAporte(e);
     r.cant = ctx.cant;

@@ -16,10 +16,10 @@ class Descuentos : public EscenarioMes {};
 NOMIRA_PARA_CADA_MOTOR(Descuentos);
 
 TEST_P(Descuentos, MensualBajoYSobreDosYMedioBPC) {
-    persona("PEREZ, JUAN", {{"nrofun", "12"}, {"sueldo", "15000"}, {"tiposueldo", "S"},
-                            {"sexocon", "MNo"}});
-    persona("GOMEZ, ANA", {{"nrofun", "13"}, {"sueldo", "80000"}, {"tiposueldo", "S"},
-                           {"sexocon", "MSi"}});
+    persona("PEREZ, JUAN",
+            {{"nrofun", "12"}, {"sueldo", "15000"}, {"tiposueldo", "S"}, {"sexocon", "MNo"}});
+    persona("GOMEZ, ANA",
+            {{"nrofun", "13"}, {"sueldo", "80000"}, {"tiposueldo", "S"}, {"sexocon", "MSi"}});
     fila("PEREZ, JUAN", marzo, 1, "SUELDO", "Hab", 1, 15000);
     fila("GOMEZ, ANA", marzo, 1, "SUELDO", "Hab", 1, 80000);
     ejecutar(
@@ -65,8 +65,7 @@ TEST_P(Descuentos, MensualBajoYSobreDosYMedioBPC) {
 
 TEST_P(Descuentos, EmpresaCuatroSinMontepioYEgresosNoSeTocan) {
     empresa("RURAL", 8, "Rural - Otros");
-    persona("PEREZ, JUAN", {{"sueldo", "15000"}, {"tiposueldo", "S"}, {"sexocon", "MNo"}},
-            "RURAL");
+    persona("PEREZ, JUAN", {{"sueldo", "15000"}, {"tiposueldo", "S"}, {"sexocon", "MNo"}}, "RURAL");
     fila("PEREZ, JUAN", marzo, 1, "SUELDO", "Hab", 1, 15000, "RURAL");
     const auto r = DescPerm(*base, *variables, "RURAL", "PEREZ, JUAN", marzo, dialogo);
     ASSERT_TRUE(r.hecho);
@@ -119,8 +118,8 @@ TEST_P(Descuentos, MesAnteriorNegativoPasaComoAdelantos) {
 // vacacional menos el IRPF de licencia y vacacional, con los aportes de la
 // licencia contados un momento y luego deshechos.
 TEST_P(Descuentos, AdelantoDeLicenciaSinAportesQueQuedenDeMas) {
-    persona("LOPEZ, EVA", {{"sueldo", "100"}, {"tiposueldo", "H"}, {"htrab", "8"},
-                           {"sexocon", "MNo"}});
+    persona("LOPEZ, EVA",
+            {{"sueldo", "100"}, {"tiposueldo", "H"}, {"htrab", "8"}, {"sexocon", "MNo"}});
     fila("LOPEZ, EVA", marzo, 10, "HORAS", "Hab", 100, 10000);
     fila("LOPEZ, EVA", marzo, 20, "LICENCIA", "Hab", 20, 60000);
     ejecutar(
@@ -143,6 +142,42 @@ TEST_P(Descuentos, AdelantoDeLicenciaSinAportesQueQuedenDeMas) {
     EXPECT_EQ(cuantas("nombre = 'LOPEZ, EVA' AND concepto LIKE 'SNIS%'"), 1);
     EXPECT_EQ(cuantas("nombre = 'LOPEZ, EVA' AND concepto LIKE 'FRL%'"), 1);
     EXPECT_EQ(total("LOPEZ, EVA", marzo, 501), 10500);
+}
+
+// Un por hora cuyo único haber del mes es la licencia: sin complemento del
+// aguinaldo en junio ni IRPF en diciembre.
+TEST_P(Descuentos, PorHoraConUnSoloHaberEnJunioYDiciembre) {
+    const common::Mes junio{2026, 6}, diciembre{2026, 12};
+    persona("LOPEZ, EVA",
+            {{"sueldo", "100"}, {"tiposueldo", "H"}, {"htrab", "8"}, {"sexocon", "MNo"}});
+    for (const auto& m : {junio, diciembre}) {
+        fila("LOPEZ, EVA", m, 20, "LICENCIA", "Hab", 20, m == junio ? 100000 : 1000000);
+        ejecutar(
+            "INSERT INTO aguinaldos (empresa, nombre, fecha, concepto, total, tipo) VALUES "
+            "('ACME', 'LOPEZ, EVA', ?, 'AGUINALDO', 12000, 'Hab'), "
+            "('ACME', 'LOPEZ, EVA', ?, 'SNIS 3%', 30, 'Des')",
+            {m.primerDia().iso(), m.primerDia().iso()});
+    }
+    std::string texto;
+    DescPerm(*base, *variables, "ACME", "LOPEZ, EVA", junio, dialogo);
+    EXPECT_EQ(total("LOPEZ, EVA", junio, 502, &texto), 4500);  // 100000 x 4.5%
+    EXPECT_EQ(texto, "SNIS 4.5%");
+    EXPECT_FALSE(total("LOPEZ, EVA", junio, 504));  // un solo haber: sin adelanto
+    // 1100000 en el año pasa holgado los 10 BPC x 12 = 823680: por la escala
+    // serían unos 66000 menos un crédito de unos 30000 y lo de junio; pero la
+    // licencia sola no paga. Con otro haber, sí.
+    DescPerm(*base, *variables, "ACME", "LOPEZ, EVA", diciembre, dialogo);
+    EXPECT_EQ(total("LOPEZ, EVA", diciembre, 510), 0);
+    fila("LOPEZ, EVA", diciembre, 30, "PREMIO", "Hab", 1, 0);
+    DescPerm(*base, *variables, "ACME", "LOPEZ, EVA", diciembre, dialogo);
+    EXPECT_GT(total("LOPEZ, EVA", diciembre, 510).value_or(0), 0);
+
+    // Con otro haber en junio el SNIS completa el aguinaldo:
+    // 4500 + 12000 / 12 x 4.5% - 30 = 4515.
+    fila("LOPEZ, EVA", junio, 30, "PREMIO", "Hab", 1, 0);
+    DescPerm(*base, *variables, "ACME", "LOPEZ, EVA", junio, dialogo);
+    EXPECT_EQ(total("LOPEZ, EVA", junio, 502, &texto), 4515);
+    EXPECT_EQ(texto, "SNIS AG. 1.5% + MG. 4.5%");
 }
 
 TEST_P(Descuentos, UnFalloEnLosAportesDeLicenciaNoDejaFilas) {

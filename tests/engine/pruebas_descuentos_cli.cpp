@@ -49,9 +49,9 @@ class OrdenesDescuentos : public ::testing::Test {
             "('ACME', 'SOSA, ANA', '2026-03-01', 1, 'SUELDO', 'Hab', 'Si', 'Si', 1, 30000)");
     }
     double total(const std::string& nombre, long codigo) {
-        const auto r = store::abrir(db)->consulta(
-            "SELECT total FROM habydesc WHERE nombre = ? AND codigo = ?",
-            {nombre, std::int64_t{codigo}});
+        const auto r =
+            store::abrir(db)->consulta("SELECT total FROM habydesc WHERE nombre = ? AND codigo = ?",
+                                       {nombre, std::int64_t{codigo}});
         return r.vacio() ? -1 : r.primera().real("total");
     }
 
@@ -81,13 +81,15 @@ TEST_F(OrdenesDescuentos, UnaPersonaYLaEmpresa) {
 }
 
 TEST_F(OrdenesDescuentos, RenglonComoEnLaPantalla) {
-    auto s = cli(mes + "renglon --empresa ACME --nombre 'LOPEZ, EVA' --mes 03/26 --codigo 10 "
-                       "--cant 80");
+    auto s = cli(mes +
+                 "renglon --empresa ACME --nombre 'LOPEZ, EVA' --mes 03/26 --codigo 10 "
+                 "--cant 80");
     EXPECT_EQ(s.estado, 0) << s.texto;
     EXPECT_NE(s.texto.find("10 | HORAS | 80 | 8,000.00\n"), std::string::npos) << s.texto;
     EXPECT_EQ(total("LOPEZ, EVA", 12), 0);  // jornadas escritas, sin importe
-    s = cli(mes + "renglon --empresa ACME --nombre 'LOPEZ, EVA' --mes 03/26 --codigo 30 "
-                  "--cant 2 --total 999");
+    s = cli(mes +
+            "renglon --empresa ACME --nombre 'LOPEZ, EVA' --mes 03/26 --codigo 30 "
+            "--cant 2 --total 999");
     EXPECT_EQ(s.estado, 0) << s.texto;
     EXPECT_EQ(total("LOPEZ, EVA", 30), 999);
 

@@ -33,8 +33,11 @@ class Horas : public pruebas::EscenarioMes {
     void SetUp() override {
         EscenarioMes::SetUp();
         if (IsSkipped()) return;
-        persona("LOPEZ, EVA", {{"nrofun", "12"}, {"sueldo", "100"}, {"tiposueldo", "H"},
-                               {"htrab", "8"}, {"sexocon", "MNo"}});
+        persona("LOPEZ, EVA", {{"nrofun", "12"},
+                               {"sueldo", "100"},
+                               {"tiposueldo", "H"},
+                               {"htrab", "8"},
+                               {"sexocon", "MNo"}});
         persona("OTRO, LUIS", {{"nrofun", "13"}, {"sueldo", "100"}, {"tiposueldo", "H"}});
         const auto carpeta = tmp.ruta() / "Software" / "Nomira";
         std::filesystem::create_directories(carpeta);

@@ -24,9 +24,9 @@ class Renglon : public pruebas::EscenarioMes {
         const auto c = calcularRenglon(*base, *mp, ctx, b->concepto, cant, dialogo);
         if (!c) return "cortado";
         ultimo = *c;
-        const auto m = guardarRenglon(*base, *mp, ctx, *c, common::numeroATexto(c->cant),
-                                      totalTecleado.value_or(common::numeroATexto(c->total.aDouble())),
-                                      dialogo);
+        const auto m = guardarRenglon(
+            *base, *mp, ctx, *c, common::numeroATexto(c->cant),
+            totalTecleado.value_or(common::numeroATexto(c->total.aDouble())), dialogo);
         return m.value_or("");
     }
     std::string eliminar(const std::string& nombre, long codigo) {
