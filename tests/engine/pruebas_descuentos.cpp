@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/descuentos.h"
+#include "engine/irp.h"
 #include "engine/irpf_licencia.h"
 #include "pruebas_descuentos_escenario.h"
 
@@ -11,6 +12,17 @@ namespace nomira::engine {
 namespace {
 
 using pruebas::EscenarioMes;
+
+TEST(IRP, ElPasoDeFranjaNoDejaUnNetoMenor) {
+    const std::vector<FilaEscala> franjas = {{1, 0, 7, 0}, {2, 7, 10, 10}, {3, 10, 15, 15}};
+    EXPECT_EQ(irpDe(40000, franjas, 6864), 0);  // 5.8 BPC, primera franja al 0%
+    // 50000 al 10% deja 45000 de neto, menos que el tope de la franja anterior
+    // (7 x 6864 = 48048): se cobra sólo lo que pasa del tope.
+    EXPECT_EQ(irpDe(50000, franjas, 6864), 1952);
+    EXPECT_EQ(irpDe(60000, franjas, 6864), 6000);  // neto 54000 > 48048: 10% entero
+    EXPECT_EQ(irpDe(48048, franjas, 6864), 0);     // justo el borde: ya es la segunda, neto menor
+    EXPECT_EQ(irpDe(200000, franjas, 6864), 0);    // fuera de toda franja
+}
 
 class Descuentos : public EscenarioMes {};
 NOMIRA_PARA_CADA_MOTOR(Descuentos);
