@@ -1,8 +1,9 @@
-// copiar-base: mudar un estudio de SQLite a PostgreSQL o al revés.
+// copiar-base: mudar un estudio de SQLite a PostgreSQL o al revés; respaldar: la copia de seguridad.
 #include <iostream>
 
 #include "cli/ordenes.h"
 #include "maintenance/copia_base.h"
+#include "maintenance/respaldo.h"
 
 namespace nomira::cli {
 
@@ -21,6 +22,18 @@ void registrarOrdenesMantenimiento(CLI::App& app, Contexto& ctx) {
                 if (t.filas) std::cerr << t.tabla << ": " << t.filas << '\n';
             });
             std::cout << "Copia finalizada: " << total << " filas.\n";
+            return 0;
+        };
+    });
+
+    auto* respaldar = app.add_subcommand("respaldar", "Guarda una copia de seguridad de la base en un archivo");
+    static std::string archivo;
+    respaldar->add_option("--hacia", archivo, "Archivo de la copia")->required();
+    respaldar->callback([&ctx] {
+        ctx.accion = [&ctx] {
+            auto base = ctx.abrir();
+            maintenance::respaldarBase(*base, archivo);
+            std::cout << "Copia finalizada.\n";
             return 0;
         };
     });

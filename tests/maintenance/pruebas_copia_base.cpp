@@ -3,10 +3,12 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 
 #include "apoyo/base_prueba.h"
 #include "common/dinero.h"
 #include "maintenance/copia_base.h"
+#include "maintenance/respaldo.h"
 #include "store/crear.h"
 #include "store/esquema.h"
 
@@ -96,3 +98,31 @@ TEST_P(CopiaBase, UnDestinoConDatosSeRechazaSinTocarlo) {
 }
 
 NOMIRA_PARA_CADA_MOTOR(CopiaBase);
+
+class Respaldo : public store::prueba::BasePrueba {};
+
+TEST_P(Respaldo, LaCopiaTieneLosDatosYNoQuedaNadaAMedias) {
+    const auto carpeta = std::filesystem::temp_directory_path() / ("nomira-respaldo-" + std::to_string(::getpid()));
+    std::filesystem::create_directories(carpeta);
+    c().ejecuta("INSERT INTO empresas (empresa, nroemp) VALUES ('O''Hara', 3)");
+    const auto copia = carpeta / "copia.bak";
+    std::ofstream(copia) << "una copia anterior";
+    maintenance::respaldarBase(c(), copia);
+    EXPECT_FALSE(std::filesystem::exists(carpeta / "copia.bak.parcial"));
+    if (esPostgres()) {
+        // El formato propio de pg_dump empieza con su firma.
+        std::ifstream f(copia, std::ios::binary);
+        std::string firma(5, '\0');
+        f.read(firma.data(), 5);
+        EXPECT_EQ(firma, "PGDMP");
+    } else {
+        auto vuelta = store::abrir(copia.string());
+        EXPECT_EQ(vuelta->consulta("SELECT empresa FROM empresas").primera().texto("empresa"), "O'Hara");
+    }
+    // Un destino imposible falla sin dejar rastro.
+    EXPECT_ANY_THROW(maintenance::respaldarBase(c(), carpeta / "no" / "existe.bak"));
+    EXPECT_FALSE(std::filesystem::exists(carpeta / "no"));
+    std::filesystem::remove_all(carpeta);
+}
+
+NOMIRA_PARA_CADA_MOTOR(Respaldo);

@@ -169,6 +169,7 @@ void FichaEmpresa::armar() {
     auto* salir = botonConTecla("Salir");
     connect(salir, &QPushButton::clicked, this, &QWidget::close);
     tecla(QKeySequence(Qt::Key_Escape), [this] { close(); });
+    tecla(QKeySequence(Qt::Key_F1), [this] { ayuda(); });
     botones->addWidget(salir);
 
     auto* grilla = new QGridLayout;
