@@ -14,10 +14,6 @@ bool enBlanco(const std::string& s) {
     return s.find_first_not_of(' ') == std::string::npos;
 }
 
-std::string sufijo(int i) {
-    return i == 0 ? "" : std::to_string(i + 1);
-}
-
 // categoriadeducciones: nombre Like '*código' y nombre2 Like '*categoría'; el
 // código es lo anterior al guion de nombre2.
 std::string codigoCategoria(store::Conexion& base, const std::string& ded, const std::string& cat) {
@@ -34,34 +30,21 @@ std::string codigoCategoria(store::Conexion& base, const std::string& ded, const
 
 std::optional<DatosPersona> leerDatosPersona(store::Conexion& base, const std::string& empresa,
                                              const std::string& nombre) {
-    const auto r =
-        base.consulta("SELECT * FROM personal WHERE empresa = ? AND nombre = ?", {empresa, nombre});
-    if (r.vacio()) return std::nullopt;
-    const auto& f = r.primera();
+    auto f = master::leerPersona(base, empresa, nombre);
+    if (!f) return std::nullopt;
     DatosPersona p;
-    p.fila.empresa = empresa;
-    p.fila.nombre = nombre;
-    p.fila.sexocon = f.texto("sexocon");
-    p.fila.causaben = f.texto("causaben");
-    p.fila.causaben2 = f.texto("causaben2");
-    p.fila.causaben3 = f.texto("causaben3");
-    p.fila.fechanacben = f.texto("fechanacben");
-    p.fila.fechanacben2 = f.texto("fechanacben2");
-    p.fila.fechanacben3 = f.texto("fechanacben3");
-    p.tiposueldo = f.texto("tiposueldo");
-    p.vinculofun = f.texto("vinculofun");
-    p.socmedica = f.texto("socmedica");
-    p.sueldo = common::textoANumero(f.texto("sueldo"));
-    p.cantbfc = common::textoANumero(f.texto("cantbfc"));
-    for (int i = 0; i < 3; ++i) {
-        const auto s = sufijo(i);
-        p.porcentajeben[i] = f.texto("porcentajeben" + s);
-        p.montoben[i] = f.texto("montoben" + s);
-        p.fechadesdeben[i] = f.texto("fechadesdeben" + s);
-        p.codigoded[i] = f.texto("codigoded" + s);
-        p.categoriaded[i] = f.texto("categoriaded" + s);
-        p.fechadesdeded[i] = f.texto("fechadesdeded" + s);
-    }
+    p.tiposueldo = f->tiposueldo;
+    p.vinculofun = f->vinculofun;
+    p.socmedica = f->socmedica;
+    p.sueldo = common::textoANumero(f->sueldo);
+    p.cantbfc = common::textoANumero(f->cantbfc);
+    p.porcentajeben = {f->porcentajeben, f->porcentajeben2, f->porcentajeben3};
+    p.montoben = {f->montoben, f->montoben2, f->montoben3};
+    p.fechadesdeben = {f->fechadesdeben, f->fechadesdeben2, f->fechadesdeben3};
+    p.codigoded = {f->codigoded, f->codigoded2, f->codigoded3};
+    p.categoriaded = {f->categoriaded, f->categoriaded2, f->categoriaded3};
+    p.fechadesdeded = {f->fechadesdeded, f->fechadesdeded2, f->fechadesdeded3};
+    p.fila = std::move(*f);
     return p;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
-// Las columnas de personal que leen los aportes y el IRPF, con una consulta
-// propia: beneficiarios, otras deducciones, socmedica y el tipo de sueldo.
+// Lo de personal que leen los aportes y el IRPF: la persona entera y, a mano,
+// beneficiarios, otras deducciones, socmedica y el tipo de sueldo en la forma que usan.
 #include <optional>
 #include <string>
 
@@ -14,7 +14,7 @@
 namespace nomira::engine {
 
 struct DatosPersona {
-    master::Persona fila;  // sexocon, causaben y fechanacben (para la escalera)
+    master::Persona fila;  // la fila entera (sexocon, causaben y fechanacben para la escalera)
     std::string tiposueldo, vinculofun, socmedica;
     double sueldo = 0, cantbfc = 0;
     std::array<std::string, 3> porcentajeben, montoben, fechadesdeben;
