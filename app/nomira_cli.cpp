@@ -20,6 +20,7 @@ int main(int argc, char** argv) {
     cli::registrarOrdenesVariables(app, ctx);
     cli::registrarOrdenesDescuentos(app, ctx);
     cli::registrarOrdenesLiquidacion(app, ctx);
+    cli::registrarOrdenesDemo(app, ctx);
 
     try {
         app.parse(argc, argv);

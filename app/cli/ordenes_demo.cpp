@@ -1,0 +1,170 @@
+// demo: una base nueva con el estudio de demostración y, con --liquidar, el mes
+// anterior de cada empresa liquidado y resumido.
+#include <filesystem>
+#include <iostream>
+#include <set>
+
+#include "cli/ordenes.h"
+#include "common/reloj.h"
+#include "engine/descuentos.h"
+#include "engine/explicacion.h"
+#include "engine/haberes.h"
+#include "engine/horas.h"
+#include "frame/arranque.h"
+#include "frame/carpeta.h"
+#include "master/datos_iniciales.h"
+#include "master/empresas.h"
+#include "master/estudio_demo.h"
+#include "store/crear.h"
+
+namespace nomira::cli {
+
+namespace {
+
+// El prefijo de los archivos de horas que escribe la demostración.
+std::string prefijoHorasDemo() {
+    return (frame::rutaNomira("horas-demo") / "HORAS").string();
+}
+
+// Tablas, datos iniciales y estudio en una sola transacción: o queda la base
+// entera o no queda nada. Nada si el destino ya tiene una base.
+std::unique_ptr<store::Conexion> crearBaseDemo(const std::string& destino) {
+    const bool esArchivo = !store::esDestinoPostgres(destino);
+    const bool existia = esArchivo && std::filesystem::exists(destino);
+    if (esArchivo && std::filesystem::path(destino).has_parent_path())
+        std::filesystem::create_directories(std::filesystem::path(destino).parent_path());
+    auto base = store::abrir(destino);
+    if (store::existeEsquema(*base)) return nullptr;
+    try {
+        store::Transaccion t(*base);
+        store::crearBase(*base);
+        master::cargarDatosIniciales(*base, frame::carpetaDatos(), common::hoy());
+        master::crearEstudioDemo(*base);
+        t.confirmar();
+    } catch (...) {
+        base.reset();
+        // El archivo vacío que abrió SQLite no queda como si fuera una base.
+        if (esArchivo && !existia) std::filesystem::remove(destino);
+        throw;
+    }
+    return base;
+}
+
+// Las horas del reloj del mes para los jornaleros y los por hora. Sólo en la
+// carpeta propia de la demostración: la del reloj de un estudio no se toca.
+void escribirHoras(const common::Mes& mes) {
+    auto prefijo = engine::prefijoArchivosHoras();
+    if (prefijo.empty()) {
+        prefijo = prefijoHorasDemo();
+        frame::escribirLinea("horas.txt", prefijo);
+    }
+    if (prefijo != prefijoHorasDemo()) {
+        std::cout << "Las horas del reloj no se escribieron: horas.txt indica otra carpeta ("
+                  << prefijo << ").\n";
+        return;
+    }
+    const auto escritas = master::escribirHorasDemo(
+        [&](const std::string& nroemp) { return engine::rutaArchivoHoras(prefijo, mes, nroemp); });
+    for (const auto& r : escritas)
+        std::cout << "Horas de " << mes.texto() << ": " << r.string() << '\n';
+}
+
+struct ResumenEmpresa {
+    std::size_t personas = 0;
+    common::Dinero haberes, descuentos;
+};
+
+// Haberes con las horas del reloj y luego descuentos, como los dos botones de
+// toda la empresa en la pantalla del mes.
+ResumenEmpresa liquidarEmpresa(store::Conexion& base, const std::string& empresa,
+                               const common::Mes& mes, common::Dialogo& dialogo) {
+    engine::OpcionesHaberes opciones;
+    opciones.calculoCant = [](engine::ContextoFormula& c, common::Dialogo& d) {
+        engine::CalculoCant(c, d);
+    };
+    try {
+        const auto h = engine::ActHamPermxEmpresa(base, empresa, mes, dialogo, opciones);
+        if (h.fallo) std::rethrow_exception(h.fallo);
+    } catch (const common::Fallo& f) {
+        throw common::Fallo(f.numero(),
+                            common::textoErrorInesperado(f, "ActHamPermxEmpresa_Click", "Form42"));
+    }
+    ResumenEmpresa r;
+    try {
+        master::LectorVariables variables(base);
+        const auto d = engine::ActDesPermxEmpresa(base, variables, empresa, mes, dialogo);
+        if (d.fallo) std::rethrow_exception(d.fallo);
+        for (const auto& p : d.personas) r.personas += p.hecho;
+    } catch (const common::Fallo& f) {
+        throw common::Fallo(f.numero(),
+                            common::textoErrorInesperado(f, "ActDesPermxEmpresa_Click", "Form42"));
+    }
+    for (const auto& f : base.consulta("SELECT tipo, total FROM habydesc WHERE empresa = ? AND "
+                                       "fecha = ?",
+                                       {empresa, mes.primerDia().iso()})
+                             .filas) {
+        const auto total = common::Dinero::desdeDouble(f.real("total"));
+        if (f.texto("tipo") == "Hab")
+            r.haberes = r.haberes + total;
+        else
+            r.descuentos = r.descuentos + total;
+    }
+    return r;
+}
+
+struct OpcionesDemo {
+    bool liquidar = false;
+};
+
+int demo(const Contexto& ctx, const OpcionesDemo& o) {
+    const std::string destino =
+        ctx.base.empty() ? frame::destinoConfigurado().value_or(frame::destinoPorDefecto())
+                         : ctx.base;
+    auto base = crearBaseDemo(destino);
+    if (!base) {
+        std::cerr << "La base de datos '" << destino
+                  << "' ya existe: el estudio de demostración se crea sólo en una base nueva.\n";
+        return 1;
+    }
+    if (!frame::destinoConfigurado()) frame::escribirLinea("base.txt", destino);
+    const auto empresas = master::nombresDeEmpresas(*base);
+    std::cout << "Base creada: " << destino << '\n'
+              << "Estudio de demostración: " << empresas.size() << " empresas, "
+              << base->consulta("SELECT COUNT(*) AS n FROM personal").primera().entero("n")
+              << " personas.\n";
+
+    const auto mes = *common::Mes::desdeTexto(common::CalculaMesAnterior(common::hoy()));
+    escribirHoras(mes);
+    if (!o.liquidar) return 0;
+
+    auto dialogo = ctx.dialogo();
+    try {
+        for (const auto& e : empresas) {
+            const auto r = liquidarEmpresa(*base, e, mes, dialogo);
+            std::cout << e << ", mes " << mes.texto() << '\n'
+                      << "  Personas liquidadas: " << r.personas << '\n'
+                      << "  T.Haberes: " << engine::pesos(r.haberes) << '\n'
+                      << "  Total Descuentos: " << engine::pesos(r.descuentos) << '\n'
+                      << "  Líquido: " << engine::pesos(r.haberes - r.descuentos) << '\n';
+        }
+    } catch (const common::Fallo& f) {
+        std::cerr << f.descripcion() << '\n';
+        return 2;
+    }
+    // Un aviso del motor en el estudio de demostración es algo que revisar.
+    return dialogo.rechazada() ? 1 : 0;
+}
+
+}  // namespace
+
+void registrarOrdenesDemo(CLI::App& app, Contexto& ctx) {
+    static OpcionesDemo o;
+    auto* d = app.add_subcommand(
+        "demo",
+        "Crea una base nueva con el estudio de demostración (empresas y personal ficticios)");
+    d->add_flag("--liquidar", o.liquidar,
+                "Liquida el mes anterior de cada empresa y muestra sus totales");
+    d->callback([&ctx] { ctx.accion = [&ctx] { return demo(ctx, o); }; });
+}
+
+}  // namespace nomira::cli
