@@ -3,6 +3,7 @@
 #include "frame/ventana/registro_pantallas.h"
 #include "screens/conceptos/registro_conceptos.h"
 #include "screens/empresas/registro_empresas.h"
+#include "screens/haberes/pantalla_haberes.h"
 #include "screens/personal/pantalla_personal.h"
 
 namespace nomira::pantallas {
@@ -12,6 +13,7 @@ void registrarTodas() {
     registrarPantallasConceptos();
     registrarPantallasEmpresas();
     registrarPantallasPersonal();
+    registrarPantallasHaberes();
 }
 
 }  // namespace nomira::pantallas

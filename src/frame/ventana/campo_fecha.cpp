@@ -4,15 +4,17 @@
 
 namespace nomira::ventana {
 
-CampoFecha::CampoFecha(QWidget* padre) : QLineEdit(padre) {
-    setMaxLength(8);
-    setPlaceholderText("dd/mm/aa");
+CampoFecha::CampoFecha(QWidget* padre, FormaFecha forma) : QLineEdit(padre), forma_(forma) {
+    const bool mes = forma_ == FormaFecha::Mes;
+    setMaxLength(mes ? 5 : 8);
+    setPlaceholderText(mes ? "MM/aa" : "dd/mm/aa");
     setMaximumWidth(fontMetrics().horizontalAdvance("00/00/0000") + 16);
 }
 
 bool CampoFecha::formatoValido(bool vacioValido) const {
     const auto t = text();
     if (t.isEmpty()) return vacioValido;
+    if (forma_ == FormaFecha::Mes) return t.size() == 5 && t[2] == '/';
     return t.size() == 8 && t[2] == '/' && t[5] == '/';
 }
 
@@ -20,7 +22,7 @@ void CampoFecha::keyPressEvent(QKeyEvent* e) {
     QLineEdit::keyPressEvent(e);
     // Al escribir al final, la barra llega sola tras el día y tras el mes.
     if (!e->text().isEmpty() && e->text()[0].isDigit() && cursorPosition() == text().size() &&
-        (text().size() == 2 || text().size() == 5))
+        (text().size() == 2 || (text().size() == 5 && forma_ == FormaFecha::Dia)))
         insert("/");
 }
 

@@ -36,6 +36,9 @@ int capturarPantallas(frame::Sesion& sesion, const std::filesystem::path& carpet
     for (const auto& [formulario, fabrica] : registroPantallas()) {
         QWidget* w = ventana.abrirPantalla(formulario);
         if (!w) continue;
+        // Una pantalla que sabe mostrarse con datos (un mes ya liquidado) se prepara sola.
+        if (w->metaObject()->indexOfMethod("prepararCaptura()") >= 0)
+            QMetaObject::invokeMethod(w, "prepararCaptura");
         escritas += guardar(w, carpeta, formulario);
         // Las demás páginas de las pantallas con pestañas: Form13_2, Form13_3...
         for (auto* pestanas : w->findChildren<QTabWidget*>()) {

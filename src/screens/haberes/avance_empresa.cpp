@@ -1,0 +1,62 @@
+#include "screens/haberes/avance_empresa.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+
+namespace nomira::pantallas {
+
+AvanceEmpresa::AvanceEmpresa(QWidget* padre)
+    : QWidget(padre),
+      barra_(new QProgressBar),
+      persona_(new QLabel),
+      detener_(new QPushButton("Detener")) {
+    barra_->setObjectName("avance");
+    barra_->setFormat("%v de %m");
+    barra_->setRange(0, 1);
+    barra_->setValue(0);
+    barra_->setTextVisible(false);
+    persona_->setObjectName("personaEnCurso");
+    detener_->setObjectName("Detener");
+    detener_->setAutoDefault(false);
+    detener_->setEnabled(false);
+    connect(detener_, &QPushButton::clicked, this, [this] { detenido_ = true; });
+    auto* capa = new QHBoxLayout(this);
+    capa->setContentsMargins(0, 0, 0, 0);
+    capa->addWidget(barra_, 1);
+    capa->addWidget(persona_, 2);
+    capa->addWidget(detener_);
+}
+
+void AvanceEmpresa::empezar() {
+    detenido_ = false;
+    corriendo_ = true;
+    barra_->setRange(0, 1);
+    barra_->setValue(0);
+    barra_->setTextVisible(true);
+    persona_->clear();
+    detener_->setEnabled(true);
+}
+
+void AvanceEmpresa::terminar() {
+    corriendo_ = false;
+    detener_->setEnabled(false);
+}
+
+engine::ProgresoEmpresa AvanceEmpresa::progreso() {
+    return [this](std::size_t i, std::size_t n, const std::string& nombre) {
+        barra_->setRange(0, static_cast<int>(n));
+        barra_->setValue(static_cast<int>(i));
+        persona_->setText(QString::fromStdString(nombre));
+        // Un solo hilo: el clic en Detener llega al atender los eventos aquí.
+        QApplication::processEvents();
+    };
+}
+
+engine::CancelarEmpresa AvanceEmpresa::cancelar() {
+    return [this] {
+        QApplication::processEvents();
+        return detenido_;
+    };
+}
+
+}  // namespace nomira::pantallas

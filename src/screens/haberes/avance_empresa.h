@@ -1,0 +1,32 @@
+#pragma once
+// El avance de una corrida sobre toda la empresa: la barra con la persona en
+// curso y el botón que la detiene entre una persona y la siguiente.
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QWidget>
+
+#include "engine/empresa_mes.h"
+
+namespace nomira::pantallas {
+
+class AvanceEmpresa : public QWidget {
+    Q_OBJECT
+  public:
+    explicit AvanceEmpresa(QWidget* padre = nullptr);
+    // Prepara una corrida nueva: sin pedido de detenerse, el botón habilitado.
+    void empezar();
+    void terminar();
+    // Para el motor: muestra la persona y atiende los clics pendientes.
+    engine::ProgresoEmpresa progreso();
+    engine::CancelarEmpresa cancelar();
+    bool corriendo() const { return corriendo_; }
+
+  private:
+    QProgressBar* barra_;
+    QLabel* persona_;
+    QPushButton* detener_;
+    bool detenido_ = false, corriendo_ = false;
+};
+
+}  // namespace nomira::pantallas

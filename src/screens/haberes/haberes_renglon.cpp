@@ -1,0 +1,186 @@
+// Form42: la fila en mano. Enter en el código la busca, en la cantidad la
+// calcula y en el total la guarda; Agregar, Modificar y Eliminar.
+#include "common/dinero.h"
+#include "common/numeros.h"
+#include "common/texto.h"
+#include "engine/filas_persona.h"
+#include "engine/irpf_lector.h"
+#include "screens/haberes/pantalla_haberes.h"
+#include "screens/haberes/textos_haberes.h"
+
+namespace nomira::pantallas {
+
+namespace {
+
+QString q(const std::string& s) {
+    return QString::fromStdString(s);
+}
+std::string s(const QLineEdit* c) {
+    return c->text().trimmed().toStdString();
+}
+long numero(const std::string& texto) {
+    return static_cast<long>(common::textoANumero(texto));
+}
+
+// Las cifras del recuadro del IRPF salen de repetir el cálculo: sus avisos ya
+// se dieron con el de la fila.
+class DialogoCallado : public common::Dialogo {
+  public:
+    bool confirmar(const std::string&, const std::string&, bool porDefectoSi) override {
+        return porDefectoSi;
+    }
+    std::optional<std::string> pedirTexto(const std::string&, const std::string&,
+                                          const std::string& inicial) override {
+        return inicial;
+    }
+    void avisar(common::TipoAviso, const std::string&, const std::string&) override {}
+    using common::Dialogo::avisar;
+};
+
+}  // namespace
+
+void PantallaHaberes::limpiarRenglon() {
+    buscado_.reset();
+    calculo_.reset();
+    for (auto* c : {codigo_, concepto_, unidad_, cant_, total_}) c->clear();
+    habilitarSegunHallado(false);
+    boton("Agregar")->setEnabled(false);
+}
+
+bool PantallaHaberes::Buscar_Click() {
+    intentar("Buscar_Click", [this] {
+        if (empresa().empty() || nombre().empty() || s(codigo_).empty() ||
+            (mes_->text().trimmed().isEmpty()))
+            return advertir(kFaltaCodigo);
+        const auto codigo = numero(s(codigo_));
+        if (!BuscarVerif()) return;
+        buscado_ = engine::buscarRenglon(base(), *mp_, ctx_, codigo, dialogo());
+        calculo_.reset();
+        if (!buscado_) return;
+        concepto_->setText(q(buscado_->concepto.concepto));
+        unidad_->setText(q(buscado_->concepto.unidad));
+        cant_->setText(q(buscado_->textoCant));
+        total_->setText(q(buscado_->textoTotal));
+        habilitarSegunHallado(buscado_->existe);
+        cant_->setFocus();
+    });
+    return false;
+}
+
+bool PantallaHaberes::Descripcion_Click() {
+    intentar("Descripcion_Click", [this] {
+        const auto texto = common::mayusculas(s(concepto_));
+        if (texto.empty()) return advertir(kFaltaCodigo);
+        auto c = engine::conceptoPorNombre(base(), texto);
+        if (!c) {
+            const auto parecidos = master::buscarConceptos(base(), "concepto", texto);
+            if (!parecidos.empty()) c = parecidos.front();
+        }
+        if (!c) return advertir(kCodigoNoExiste);
+        codigo_->setText(q(c->codigo));
+        Buscar_Click();
+    });
+    return false;
+}
+
+bool PantallaHaberes::Text5_Enter() {
+    intentar("Text5_KeyPress", [this] {
+        if (!mp_ || !buscado_) return advertir(kFaltaCodigo);
+        calculo_ =
+            engine::calcularRenglon(base(), *mp_, ctx_, buscado_->concepto, s(cant_), dialogo());
+        // Una respuesta No a las preguntas de la licencia deja la fila como estaba.
+        if (!calculo_) return;
+        concepto_->setText(q(calculo_->texto));
+        cant_->setText(q(common::numeroATexto(calculo_->cant)));
+        total_->setText(q(common::numeroATexto(calculo_->total.aDouble())));
+        mostrarIRPF(buscado_->concepto.concepto);
+        total_->setFocus();
+        total_->end(false);
+    });
+    return false;
+}
+
+bool PantallaHaberes::Text6_Enter() {
+    if (boton("Agregar")->isEnabled())
+        Agregar_Click();
+    else if (boton("Modificar")->isEnabled())
+        Modificar_Click();
+    else if (total_->text().trimmed().isEmpty())
+        advertir(engine::kFaltaTotal);
+    return false;
+}
+
+void PantallaHaberes::Agregar_Click() {
+    guardar("Agregar_Click");
+}
+void PantallaHaberes::Modificar_Click() {
+    guardar("Modificar_Click");
+}
+
+void PantallaHaberes::guardar(const char* procedimiento) {
+    intentar(procedimiento, [this] {
+        if (!mp_ || !buscado_) return advertir(kFaltaCodigo);
+        // Sin Enter en la cantidad, la fila va con lo tecleado.
+        engine::CalculoRenglon calculo;
+        if (calculo_) {
+            calculo = *calculo_;
+        } else {
+            calculo.concepto = buscado_->concepto;
+            calculo.texto = s(concepto_);
+            calculo.cant = common::textoANumero(s(cant_));
+            calculo.total = common::Dinero::desdeDouble(common::textoANumero(s(total_)));
+        }
+        const auto rechazo =
+            engine::guardarRenglon(base(), *mp_, ctx_, calculo, s(cant_), s(total_), dialogo());
+        if (rechazo && *rechazo == engine::kFaltaTotal) return;  // se completa el total
+        if (!rechazo)
+            explicaciones_[{calculo.concepto.tipo, numero(calculo.concepto.codigo)}] =
+                calculo.explicacion;
+        limpiarRenglon();
+        Consultar_Click();
+        codigo_->setFocus();
+    });
+}
+
+void PantallaHaberes::Eliminar_Click() {
+    intentar("Eliminar_Click", [this] {
+        if (!mp_ || !buscado_) return advertir(kFaltaCodigo);
+        const auto& c = buscado_->concepto;
+        const auto rechazo = engine::eliminarRenglon(base(), *mp_, c, dialogo());
+        if (rechazo && rechazo->empty()) return;  // respondió No
+        if (!rechazo) explicaciones_.erase({c.tipo, numero(c.codigo)});
+        limpiarRenglon();
+        Consultar_Click();
+        codigo_->setFocus();
+    });
+}
+
+void PantallaHaberes::mostrarIRPF(const std::string& concepto) {
+    if (!mp_ || common::mayusculas(concepto) != "IRPF") return;
+    DialogoCallado callado;
+    if (mp_->mes.mes == 12)
+        irpf_->mostrarDiciembre(engine::CalculoIRPFDic(ctx_, false, callado));
+    else
+        irpf_->mostrarMes(
+            engine::CalculoIRPF(ctx_, mp_->desglose.montoirpf, mp_->desglose.montonominal,
+                                engine::opcionesIRPFForm42(), callado),
+            mp_->desglose.montoirpf, mp_->desglose.montonominal);
+}
+
+void PantallaHaberes::ComoSeCalculo() {
+    intentar("ComoSeCalculo_Click", [this] {
+        auto* grilla = ultimaGrilla_;
+        if (!grilla || grilla->elegida(0).empty())
+            return advertir("Debe elegir una fila de Haberes o de Descuentos.");
+        const std::string tipo = grilla == haberes_ ? "Hab" : "Des";
+        const long codigo = numero(grilla->elegida(0));
+        const auto it = explicaciones_.find({tipo, codigo});
+        const std::string texto =
+            it != explicaciones_.end() && !it->second.empty()
+                ? grilla->elegida(1) + ": " + it->second
+                : "La fila " + grilla->elegida(1) + " no tiene explicación guardada.";
+        dialogo().avisar(common::TipoAviso::Informacion, "¿Cómo se calculó?", texto);
+    });
+}
+
+}  // namespace nomira::pantallas
