@@ -82,32 +82,34 @@ ResumenEmpresa liquidarEmpresa(store::Conexion& base, const std::string& empresa
     opciones.calculoCant = [](engine::ContextoFormula& c, common::Dialogo& d) {
         engine::CalculoCant(c, d);
     };
-    try {
-        const auto h = engine::ActHamPermxEmpresa(base, empresa, mes, dialogo, opciones);
-        if (h.fallo) std::rethrow_exception(h.fallo);
-    } catch (const common::Fallo& f) {
-        throw common::Fallo(f.numero(),
-                            common::textoErrorInesperado(f, "ActHamPermxEmpresa_Click", "Form42"));
-    }
+    // Un fallo sale con el cuadro de la acción de la pantalla que lo produjo.
+    const auto correr = [](const char* procedimiento, const auto& accion) {
+        try {
+            auto r = accion();
+            if (r.fallo) std::rethrow_exception(r.fallo);
+            return r;
+        } catch (const common::Fallo& f) {
+            throw common::Fallo(f.numero(),
+                                common::textoErrorInesperado(f, procedimiento, "Form42"));
+        }
+    };
+    correr("ActHamPermxEmpresa_Click",
+           [&] { return engine::ActHamPermxEmpresa(base, empresa, mes, dialogo, opciones); });
+    master::LectorVariables variables(base);
+    const auto d = correr("ActDesPermxEmpresa_Click", [&] {
+        return engine::ActDesPermxEmpresa(base, variables, empresa, mes, dialogo);
+    });
     ResumenEmpresa r;
-    try {
-        master::LectorVariables variables(base);
-        const auto d = engine::ActDesPermxEmpresa(base, variables, empresa, mes, dialogo);
-        if (d.fallo) std::rethrow_exception(d.fallo);
-        for (const auto& p : d.personas) r.personas += p.hecho;
-    } catch (const common::Fallo& f) {
-        throw common::Fallo(f.numero(),
-                            common::textoErrorInesperado(f, "ActDesPermxEmpresa_Click", "Form42"));
-    }
+    for (const auto& p : d.personas) r.personas += p.hecho;
     for (const auto& f : base.consulta("SELECT tipo, total FROM habydesc WHERE empresa = ? AND "
                                        "fecha = ?",
                                        {empresa, mes.primerDia().iso()})
                              .filas) {
         const auto total = common::Dinero::desdeDouble(f.real("total"));
         if (f.texto("tipo") == "Hab")
-            r.haberes = r.haberes + total;
+            r.haberes += total;
         else
-            r.descuentos = r.descuentos + total;
+            r.descuentos += total;
     }
     return r;
 }
