@@ -166,6 +166,7 @@ void registrarOrdenesDemo(CLI::App& app, Contexto& ctx) {
         "Crea una base nueva con el estudio de demostración (empresas y personal ficticios)");
     d->add_flag("--liquidar", o.liquidar,
                 "Liquida el mes anterior de cada empresa y muestra sus totales");
+    d->fallthrough();  // --base también después de la orden: "demo --base RUTA"
     d->callback([&ctx] { ctx.accion = [&ctx] { return demo(ctx, o); }; });
 }
 

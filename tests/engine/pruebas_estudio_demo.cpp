@@ -249,7 +249,8 @@ TEST_P(OrdenDemo, CreaLiquidaYResumeYNoTocaUnaBaseQueYaExiste) {
     const auto filas = contar("habydesc");
     EXPECT_GT(filas, 50);
     const std::string antes = esPostgres() ? "" : leer(destino_);
-    s = pruebas::cli(base + "demo --liquidar");
+    // También con --base después de la orden.
+    s = pruebas::cli("demo --liquidar --base '" + destino_ + "'");
     EXPECT_EQ(s.estado, 1) << s.texto;
     EXPECT_NE(s.texto.find("ya existe"), std::string::npos) << s.texto;
     EXPECT_EQ(contar("habydesc"), filas);
