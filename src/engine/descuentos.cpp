@@ -7,6 +7,7 @@
 #include "engine/aportes.h"
 #include "engine/aportes_lector.h"
 #include "engine/explicacion.h"
+#include "engine/explicaciones.h"
 #include "engine/filas_persona.h"
 #include "engine/horas.h"
 #include "engine/irp.h"
@@ -191,6 +192,7 @@ std::vector<FilaLiquidada> generarDescuentos(store::Conexion& base, MesPersona& 
         fila.total = g.fila.total;
         hechas.push_back({fila, g.fila.explicacion});
     }
+    guardarExplicaciones(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, hechas);
     return hechas;
 }
 
@@ -274,6 +276,7 @@ long eliminarDelMes(store::Conexion& base, const std::string& empresa, const std
     if (std::string(tipo) == "Hab" && borradas > 0)
         base.ejecuta("DELETE FROM salvacacional WHERE empresa = ? AND nombre = ? AND fecha = ?",
                      claves);
+    podarExplicaciones(base, TablaLiquidacion::Habydesc, empresa, mes, nombre);
     t.confirmar();
     return static_cast<long>(borradas);
 }

@@ -2,8 +2,6 @@
 
 namespace nomira::engine {
 
-namespace {
-
 const char* nombreTabla(TablaLiquidacion t) {
     switch (t) {
         case TablaLiquidacion::Habydesc:
@@ -15,6 +13,8 @@ const char* nombreTabla(TablaLiquidacion t) {
     }
     return "";
 }
+
+namespace {
 
 std::vector<store::Valor> claves(const std::string& empresa, const std::string& nombre,
                                  const common::Mes& desde, const common::Mes& hasta) {

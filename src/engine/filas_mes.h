@@ -14,6 +14,7 @@ namespace nomira::engine {
 // La tabla de filas de cada pantalla: Form42 habydesc, Form43 aguinaldos,
 // Form45 egresos.
 enum class TablaLiquidacion { Habydesc, Aguinaldos, Egresos };
+const char* nombreTabla(TablaLiquidacion t);
 
 // Una fila tal como la leen los cálculos. En aguinaldos no hay código, gravado
 // ni ipd: quedan en 0 y "".

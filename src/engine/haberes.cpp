@@ -8,6 +8,7 @@
 #include "common/numeros.h"
 #include "common/texto.h"
 #include "engine/explicacion.h"
+#include "engine/explicaciones.h"
 #include "engine/primas_antiguedad.h"
 #include "master/registro.h"
 
@@ -146,6 +147,8 @@ ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula&
         "DELETE FROM habydesc WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
         "tipo = 'Des'",
         {mp.empresa, mp.nombre, fecha(mp.mes)});
+    if (borradas > 0)
+        podarExplicaciones(base, TablaLiquidacion::Habydesc, mp.empresa, mp.mes, mp.nombre);
     if (opciones.calculoCant) opciones.calculoCant(ctx, dialogo);
     // La base del mes que dejó BuscarVerif sólo cambia si se fue algo o llegaron horas.
     if (borradas > 0 || opciones.calculoCant) refrescarDesglose(base, mp, ctx);
@@ -201,6 +204,7 @@ ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula&
         escribirFila(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, fl.fila);
         r.filas.push_back(std::move(fl));
     }
+    guardarExplicaciones(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, r.filas);
     r.hecho = true;
     return r;
 }
@@ -228,6 +232,7 @@ ResultadoEmpresa ActHamPermxEmpresa(store::Conexion& base, const std::string& em
         store::Transaccion t(base);
         base.ejecuta("DELETE FROM habydesc WHERE empresa = ? AND fecha = ? AND tipo = 'Des'",
                      {empresa, fecha(mes)});
+        podarExplicaciones(base, TablaLiquidacion::Habydesc, empresa, mes);
         t.confirmar();
     }
     // Una lectura de las variables para toda la corrida.

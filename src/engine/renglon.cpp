@@ -10,6 +10,7 @@
 #include "engine/calculo_licencia.h"
 #include "engine/descuentos.h"
 #include "engine/explicacion.h"
+#include "engine/explicaciones.h"
 #include "engine/filas_persona.h"
 #include "engine/licencia_lector.h"
 #include "engine/primas_antiguedad.h"
@@ -30,6 +31,22 @@ std::vector<store::Valor> clavesMes(const MesPersona& mp) {
 
 std::vector<store::Valor> clavesCodigo(const MesPersona& mp, long codigo) {
     return {mp.empresa, mp.nombre, mp.mes.primerDia().iso(), static_cast<std::int64_t>(codigo)};
+}
+
+// La fila SUELDO del mes con otro total, y por qué.
+void reescribirSueldo(store::Conexion& base, const MesPersona& mp, Dinero total,
+                      const std::string& explicacion) {
+    const auto filas = base.consulta(
+        "SELECT codigo FROM habydesc WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
+        "concepto = 'SUELDO'",
+        clavesMes(mp));
+    base.ejecuta(
+        "UPDATE habydesc SET total = ? WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
+        "concepto = 'SUELDO'",
+        {total.aDouble(), mp.empresa, mp.nombre, mp.mes.primerDia().iso()});
+    for (const auto& f : filas.filas)
+        guardarExplicacion(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes,
+                           static_cast<long>(f.entero("codigo")), explicacion);
 }
 
 bool hayDescuentos(store::Conexion& base, const MesPersona& mp) {
@@ -222,11 +239,10 @@ std::optional<std::string> guardarRenglon(store::Conexion& base, MesPersona& mp,
     store::Transaccion t(base);
     if (esConceptoLicencia(nombre) && mp.tiposueldo == "S") {
         // El mes paga el sueldo menos los días de licencia.
-        base.ejecuta(
-            "UPDATE habydesc SET total = ? WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
-            "concepto = 'SUELDO'",
-            {Dinero::desdeDouble(ctx.sueldo - total).aDouble(), mp.empresa, mp.nombre,
-             mp.mes.primerDia().iso()});
+        const auto sueldo = Dinero::desdeDouble(ctx.sueldo - total);
+        reescribirSueldo(base, mp, sueldo,
+                         "Sueldo " + pesos(ctx.sueldo) + " menos la licencia " + pesos(total) +
+                             " = " + pesos(sueldo) + ".");
     }
     if (nombre == "RET. JUD. S/VAC") {
         base.ejecuta(
@@ -244,6 +260,12 @@ std::optional<std::string> guardarRenglon(store::Conexion& base, MesPersona& mp,
     fila.cant = common::textoANumero(textoCant);
     fila.total = Dinero::desdeDouble(total);
     escribirFila(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, fila);
+    std::string explicacion = calculo.explicacion;
+    if (fila.total != calculo.total)
+        explicacion += (explicacion.empty() ? "" : " ") + std::string("Total tecleado: ") +
+                       pesos(fila.total) + ".";
+    guardarExplicacion(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, codigo,
+                       explicacion);
     if (esConceptoHoras(nombre))
         actualizarJornadas(base, mp.empresa, mp.nombre, mp.mes, nombre, fila.cant, ctx.htrab);
     else if (existe && mp.tipoaporte == "04" && mp.tiposueldo == "H" && empiezaCon(nombre, "HORAS"))
@@ -267,12 +289,11 @@ std::optional<std::string> eliminarRenglon(store::Conexion& base, const MesPerso
     if (nombre == "LICENCIA" || nombre == "LICENCIA 2DA ACT") {
         base.ejecuta("DELETE FROM salvacacional WHERE empresa = ? AND nombre = ? AND fecha = ?",
                      clavesMes(mp));
-        if (nombre == "LICENCIA" && mp.tiposueldo == "S")
-            base.ejecuta(
-                "UPDATE habydesc SET total = ? WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
-                "concepto = 'SUELDO'",
-                {common::textoANumero(mp.persona.sueldo), mp.empresa, mp.nombre,
-                 mp.mes.primerDia().iso()});
+        if (nombre == "LICENCIA" && mp.tiposueldo == "S") {
+            const auto sueldo = Dinero::desdeDouble(common::textoANumero(mp.persona.sueldo));
+            reescribirSueldo(base, mp, sueldo,
+                             "Sueldo de la ficha: " + pesos(sueldo) + " (se borró la licencia).");
+        }
     }
     const auto claves = clavesCodigo(mp, codigo);
     if (nombre == "RET. JUD. S/VAC")
@@ -283,6 +304,7 @@ std::optional<std::string> eliminarRenglon(store::Conexion& base, const MesPerso
     base.ejecuta(
         "DELETE FROM habydesc WHERE empresa = ? AND nombre = ? AND fecha = ? AND codigo = ?",
         claves);
+    podarExplicaciones(base, TablaLiquidacion::Habydesc, mp.empresa, mp.mes, mp.nombre);
     t.confirmar();
     return std::nullopt;
 }

@@ -1,5 +1,7 @@
 #include "maintenance/copia_base.h"
 
+#include <algorithm>
+
 #include "store/crear.h"
 #include "store/esquema.h"
 
@@ -37,12 +39,18 @@ std::vector<TablaCopiada> copiarBase(store::Conexion& origen, store::Conexion& d
     store::crearBase(destino);
     // La fila de configuración que trae una base nueva se reemplaza por la del origen.
     destino.ejecuta("DELETE FROM configuracion");
-    for (const auto& tabla : store::esquema())
+    // Las 39 y las auxiliares que tenga el origen (una base anterior no las tiene).
+    std::vector<store::Tabla> tablas = store::esquema();
+    const auto enOrigen = store::tablasDeLaBase(origen);
+    for (const auto& t : store::tablasAuxiliares())
+        if (std::find(enOrigen.begin(), enOrigen.end(), t.nombre) != enOrigen.end())
+            tablas.push_back(t);
+    for (const auto& tabla : tablas)
         if (contar(destino, tabla.nombre) != 0)
             throw store::ErrorBase(3012, "El destino ya tiene datos en la tabla " + tabla.nombre + ".");
 
     std::vector<TablaCopiada> copiadas;
-    for (const auto& tabla : store::esquema()) {
+    for (const auto& tabla : tablas) {
         const auto sql = insercion(tabla);
         const auto filas = origen.consulta("SELECT * FROM " + tabla.nombre);
         std::vector<store::Valor> valores(tabla.columnas.size());

@@ -59,8 +59,14 @@ Valor textoONulo(std::string_view texto) {
 
 std::size_t Fila::posicion(std::string_view columna) const {
     const auto& nombres = *columnas_;
-    for (std::size_t i = 0; i < nombres.size(); ++i)
-        if (igualesSinMayusculas(nombres[i], columna)) return i;
+    const auto n = nombres.size();
+    for (std::size_t k = 0; k < n; ++k) {
+        const std::size_t i = (siguiente_ + k) % n;
+        if (igualesSinMayusculas(nombres[i], columna)) {
+            siguiente_ = i + 1;
+            return i;
+        }
+    }
     throw ErrorBase(kErrorUso, "No existe la columna " + std::string(columna) + " en el resultado");
 }
 

@@ -69,6 +69,9 @@ class Fila {
     std::size_t posicion(std::string_view columna) const;
     Columnas columnas_;
     std::vector<Valor> valores_;
+    // Los lectores piden las columnas casi siempre en su orden: la búsqueda
+    // empieza por la que sigue a la última encontrada.
+    mutable std::size_t siguiente_ = 0;
 };
 
 struct Resultado {

@@ -26,19 +26,34 @@ constexpr Indice kIndices[] = {
     {"definiciondevariables", "nombre, fecha"},
     {"conceptos", "codigo"},
     {"concpermxpers", "empresa, nombre"},
+    {"explicaciones", "empresa, nombre, fecha"},
 };
+
+void crearIndice(Conexion& c, const Indice& i) {
+    std::string columnas = i.columnas;
+    std::string nombre = std::string("ix_") + i.tabla + "_";
+    for (char ch : columnas)
+        if (ch != ' ') nombre += ch == ',' ? '_' : ch;
+    c.ejecuta("CREATE INDEX IF NOT EXISTS " + nombre + " ON " + i.tabla + " (" + columnas + ")");
+}
+
+bool indiceDe(const Indice& i, const std::vector<Tabla>& tablas) {
+    return std::any_of(tablas.begin(), tablas.end(),
+                       [&](const Tabla& t) { return t.nombre == i.tabla; });
+}
 
 void crearTablas(Conexion& c) {
     for (const auto& t : esquema()) c.ejecuta(ddl(t, c.motor()));
-    for (const auto& i : kIndices) {
-        std::string columnas = i.columnas;
-        std::string nombre = std::string("ix_") + i.tabla + "_";
-        for (char ch : columnas)
-            if (ch != ' ') nombre += ch == ',' ? '_' : ch;
-        c.ejecuta("CREATE INDEX IF NOT EXISTS " + nombre + " ON " + i.tabla + " (" + columnas +
-                  ")");
-    }
+    for (const auto& i : kIndices)
+        if (indiceDe(i, esquema())) crearIndice(c, i);
     c.ejecuta("CREATE TABLE IF NOT EXISTS versionesquema (version INTEGER)");
+}
+
+// De la versión 1 a la 2.
+void crearTablasAuxiliares(Conexion& c) {
+    for (const auto& t : tablasAuxiliares()) c.ejecuta(ddl(t, c.motor()));
+    for (const auto& i : kIndices)
+        if (indiceDe(i, tablasAuxiliares())) crearIndice(c, i);
 }
 
 // La fila única de configuracion. Impresoras vacías: la predeterminada del
@@ -82,7 +97,8 @@ void fijarVersion(Conexion& c, int version) {
 // pasos[v] lleva una base de la versión v a la v+1. De 0 a 1 es crear las
 // tablas: una base de la versión 0 es una base sin esquema.
 const std::vector<std::function<void(Conexion&)>>& pasos() {
-    static const std::vector<std::function<void(Conexion&)>> lista = {crearTablas};
+    static const std::vector<std::function<void(Conexion&)>> lista = {crearTablas,
+                                                                      crearTablasAuxiliares};
     return lista;
 }
 

@@ -3,8 +3,8 @@
 // configuracion y la versión del esquema.
 //
 // La versión vive en una tabla aparte, versionesquema(version INTEGER), con
-// una sola fila: es la única tabla además de las 39, y está para que los dos
-// motores la lleven igual.
+// una sola fila, para que los dos motores la lleven igual. La versión 2 agrega
+// las tablas auxiliares del programa (tablasAuxiliares()).
 #include <string>
 #include <vector>
 
@@ -12,7 +12,7 @@
 
 namespace nomira::store {
 
-constexpr int kVersionEsquema = 1;
+constexpr int kVersionEsquema = 2;
 
 // Crea lo que falte, en una transacción: tablas en su orden, índices, la fila
 // de configuracion con sus valores iniciales y la versión. Sobre una base ya

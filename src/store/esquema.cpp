@@ -121,9 +121,15 @@ Columna columna(const std::string& palabra) {
     return {std::move(nombre), tipo};
 }
 
-std::vector<Tabla> construir() {
+constexpr Definicion kAuxiliares[] = {
+    // tabla: "habydesc", "aguinaldos" o "egresos"; una fila por fila liquidada.
+    {"explicaciones", "empresa nombre fecha tabla codigo:e texto"},
+};
+
+template <std::size_t N>
+std::vector<Tabla> construir(const Definicion (&definiciones)[N]) {
     std::vector<Tabla> tablas;
-    for (const auto& d : kDefiniciones) {
+    for (const auto& d : definiciones) {
         Tabla t{d.nombre, {}};
         std::istringstream palabras(d.columnas);
         for (std::string p; palabras >> p;) t.columnas.push_back(columna(p));
@@ -141,7 +147,12 @@ int Tabla::posicion(std::string_view nombre) const {
 }
 
 const std::vector<Tabla>& esquema() {
-    static const std::vector<Tabla> tablas = construir();
+    static const std::vector<Tabla> tablas = construir(kDefiniciones);
+    return tablas;
+}
+
+const std::vector<Tabla>& tablasAuxiliares() {
+    static const std::vector<Tabla> tablas = construir(kAuxiliares);
     return tablas;
 }
 

@@ -28,6 +28,9 @@ struct Tabla {
 
 // Las quince tablas con contenido propio y luego las 24 de referencia.
 const std::vector<Tabla>& esquema();
+// Las tablas del programa que no son de las 39: explicaciones, el cómo se
+// llegó al importe de cada fila liquidada.
+const std::vector<Tabla>& tablasAuxiliares();
 // Lanza ErrorBase si la tabla no existe.
 const Tabla& tabla(std::string_view nombre);
 

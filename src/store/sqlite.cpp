@@ -48,8 +48,13 @@ ConexionSqlite::ConexionSqlite(std::string ruta) : ruta_(std::move(ruta)) {
     sqlite3_extended_result_codes(base_, 0);
     sqlite3_busy_timeout(base_, kEsperaMs);
     registrarLikeSinMayusculas(base_);
-    // WAL deja leer mientras otro proceso escribe.
+    // WAL deja leer mientras otro proceso escribe. Con synchronous=NORMAL una
+    // confirmación no espera al disco: una caída del programa no pierde nada y la
+    // base queda sana; sólo un corte de luz puede deshacer lo último confirmado.
+    // La corrida de una empresa confirma persona por persona y no puede esperar
+    // al disco mil veces.
     directa("PRAGMA journal_mode=WAL");
+    directa("PRAGMA synchronous=NORMAL");
 }
 
 ConexionSqlite::~ConexionSqlite() {

@@ -1,8 +1,12 @@
 #include <cmath>
+#include <iomanip>
 #include <limits>
 
 #include <gtest/gtest.h>
 
+#include <random>
+
+#include "common/decimal.h"
 #include "common/dinero.h"
 #include "common/fallo.h"
 
@@ -20,6 +24,28 @@ int numeroDeFallo(auto&& accion) {
         return f.numero();
     }
     return 0;
+}
+
+// El redondeo hecho todo sobre la forma decimal de 15 cifras, sin atajos.
+std::int64_t dzDecimal(double x) {
+    const Decimal d = descomponer(x);
+    const auto v = std::stoll(escalarRedondeando(d, 4, Redondeo::MitadAlPar));
+    return d.negativo ? -v : v;
+}
+
+TEST(Dinero, ElAtajoBinarioCoincideConLaFormaDecimal) {
+    std::mt19937_64 azar(20261122);
+    std::uniform_int_distribution<std::int64_t> cifras(-99999999999999, 99999999999999);
+    std::uniform_int_distribution<int> escala(0, 12);
+    for (int i = 0; i < 200000; ++i) {
+        // Números de hasta 14 cifras con 0 a 12 decimales, cerca y lejos de la
+        // mitad del cuarto decimal, y cada uno corrido medio diezmilésimo.
+        const double x = static_cast<double>(cifras(azar)) / std::pow(10.0, escala(azar));
+        for (const double v : {x, x + 0.00005, x - 0.00005, x / 3, x * 1e-6}) {
+            if (std::fabs(v) >= 9e14) continue;
+            ASSERT_EQ(dz(v), dzDecimal(v)) << std::setprecision(17) << v;
+        }
+    }
 }
 
 TEST(Dinero, RedondeaAlParEnElCuartoDecimalSobreLaFormaDecimal) {
