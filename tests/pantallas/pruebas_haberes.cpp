@@ -1,0 +1,375 @@
+// Form42 con el teclado: el mes entero de una persona (haberes, una fila
+// tecleada, descuentos) con las cifras del motor en pantalla, el haber que no
+// entra después de los descuentos, la licencia con sus preguntas y el período,
+// la pregunta por un mes que no es el anterior, la anterior y la siguiente
+// persona activa, y las corridas de toda la empresa con su avance y Detener.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+
+#include "common/formato.h"
+#include "engine/liquido.h"
+#include "engine/mes_persona.h"
+#include "engine/renglon.h"
+#include "master/variables.h"
+#include "pantallas/apoyo_pantallas.h"
+
+using namespace nomira;
+
+namespace {
+
+// Hoy es el 15/03/2026 (CarpetaTemporal): el mes anterior es 02/26.
+class PantallaHaberes : public pruebas::PantallaAbierta {
+  protected:
+    void SetUp() override {
+        PantallaAbierta::SetUp();
+        sql("INSERT INTO tipoaport (nombre) VALUES ('01-Industria y Comercio')");
+        sql("INSERT INTO empresas (empresa, nroemp, tipoaport) VALUES ('ACME', 7, "
+            "'Industria y Comercio')");
+    }
+
+    void sql(const std::string& texto, const std::vector<store::Valor>& p = {}) {
+        sesion.base->ejecuta(texto, p);
+    }
+    void persona(const std::string& nombre, const std::string& nrofun, const std::string& sueldo,
+                 const std::string& fechaing, const std::string& fechaeg = {},
+                 const std::string& observaciones = {}) {
+        sql("INSERT INTO personal (empresa, nombre, nrofun, sueldo, tiposueldo, fechaing, fechaeg, "
+            "observaciones) VALUES ('ACME', ?, ?, ?, 'S', ?, ?, ?)",
+            {nombre, nrofun, sueldo, fechaing, store::textoONulo(fechaeg), observaciones});
+    }
+
+    template <class T = QLineEdit>
+    T* w(const char* nombre) {
+        auto* x = pantalla->findChild<T*>(nombre);
+        EXPECT_NE(x, nullptr) << nombre;
+        return x;
+    }
+    QString texto(const char* nombre) { return w(nombre)->text(); }
+    // Teclea en un campo (o en la línea de un combo) y da Enter.
+    void teclear(const char* nombre, const QString& t) {
+        QWidget* destino = pantalla->findChild<QWidget*>(nombre);
+        ASSERT_NE(destino, nullptr) << nombre;
+        if (auto* c = qobject_cast<QComboBox*>(destino)) destino = c->lineEdit();
+        auto* linea = qobject_cast<QLineEdit*>(destino);
+        destino->setFocus();
+        linea->selectAll();
+        QTest::keyClicks(destino, t);
+        QTest::keyClick(destino, Qt::Key_Return);
+    }
+    void pulsar(const char* nombre) { w<QPushButton>(nombre)->click(); }
+    void tecla(Qt::Key k) { QTest::keyClick(QApplication::focusWidget(), k); }
+
+    // La empresa, el mes y la persona, como los escribe el empleado.
+    void abrirMes(const QString& mes, const QString& nombre) {
+        abrir("Form42");
+        teclear("Combo1", "ACME");
+        teclear("Text1", mes);
+        teclear("Combo2", nombre);
+    }
+
+    // La columna de una grilla, fila por fila.
+    std::vector<std::string> columna(const char* grilla, int c) {
+        auto* g = w<QTableView>(grilla);
+        std::vector<std::string> r;
+        for (int i = 0; i < g->model()->rowCount(); ++i)
+            r.push_back(g->model()->index(i, c).data().toString().toStdString());
+        return r;
+    }
+    void elegirFila(const char* grilla, int fila) {
+        auto* g = w<QTableView>(grilla);
+        const auto rect = g->visualRect(g->model()->index(fila, 1));
+        QTest::mouseClick(g->viewport(), Qt::LeftButton, {}, rect.center());
+    }
+
+    double sumaTipo(const std::string& nombre, const char* tipo) {
+        return sesion.base
+            ->consulta(
+                "SELECT COALESCE(SUM(total), 0) AS s FROM habydesc WHERE nombre = ? AND "
+                "fecha = '2026-02-01' AND tipo = ?",
+                {nombre, std::string(tipo)})
+            .primera()
+            .real("s");
+    }
+    long filas(const std::string& donde) {
+        return static_cast<long>(
+            sesion.base->consulta("SELECT COUNT(*) AS n FROM habydesc WHERE " + donde)
+                .primera()
+                .entero("n"));
+    }
+    static QString pesos(double x) {
+        return QString::fromStdString(common::formatear(x, "##,##0.00"));
+    }
+
+    const common::Mes febrero{2026, 2};
+};
+
+TEST_F(PantallaHaberes, UnMesEnteroDesdeElTeclado) {
+    persona("PEREZ, JUAN", "1", "30000", "2020-01-01");
+    abrirMes("0226", "PEREZ, JUAN");
+    EXPECT_EQ(texto("Text1"), "02/26");      // la barra llega sola
+    EXPECT_TRUE(dialogo.preguntas.empty());  // es el mes anterior: nada que preguntar
+    EXPECT_EQ(texto("Text12"), "1");
+    EXPECT_TRUE(w("Text2")->hasFocus());
+    EXPECT_FALSE(w<QPushButton>("Agregar")->isEnabled());
+
+    pulsar("HabPerm");
+    EXPECT_EQ(columna("MSFlexGrid1", 1), (std::vector<std::string>{"SUELDO", "ANTIGUEDAD"}));
+    EXPECT_EQ(texto("Text8"), "30,000.00");
+
+    // Una fila tecleada: Enter en el código la busca (nueva: Agregar), en la
+    // cantidad la calcula (fórmula 0) y en el total la guarda.
+    teclear("Text2", "58");
+    EXPECT_EQ(texto("Text3"), "TRANSPORTE");
+    EXPECT_TRUE(w<QPushButton>("Agregar")->isEnabled());
+    EXPECT_FALSE(w<QPushButton>("Modificar")->isEnabled());
+    EXPECT_TRUE(w("Text5")->hasFocus());
+    teclear("Text5", "1");
+    EXPECT_EQ(texto("Text6"), "0");
+    EXPECT_TRUE(w("Text6")->hasFocus());
+    teclear("Text6", "1500");
+    EXPECT_EQ(texto("Text2"), "");
+    EXPECT_TRUE(w("Text2")->hasFocus());
+    EXPECT_FALSE(w<QPushButton>("Agregar")->isEnabled());
+    EXPECT_EQ(columna("MSFlexGrid1", 4),
+              (std::vector<std::string>{"30,000.00", "0.00", "1,500.00"}));
+
+    // Por el nombre: la fila ya está, así que queda para Modificar con lo guardado.
+    teclear("Text3", "transp");
+    EXPECT_EQ(texto("Text2"), "58");
+    EXPECT_EQ(texto("Text6"), "1500");
+    EXPECT_FALSE(w<QPushButton>("Agregar")->isEnabled());
+    EXPECT_TRUE(w<QPushButton>("Modificar")->isEnabled());
+
+    pulsar("DescPerm");
+    EXPECT_EQ(columna("MSFlexGrid2", 0), (std::vector<std::string>{"701", "702", "703", "705"}));
+    // TRANSPORTE no es gravado: 30000 x 15%, 4.5% y 0.10%; sin IRPF bajo 7 BPC.
+    EXPECT_EQ(texto("Text8"), "31,500.00");
+    EXPECT_EQ(texto("Text9"), "5,880.00");
+    EXPECT_EQ(texto("Text10"), "25,620.00");
+    EXPECT_EQ(texto("Text11"), "25,620.00");
+    // Las mismas cifras que el motor, leídas por su cuenta.
+    EXPECT_EQ(texto("Text8"), pesos(sumaTipo("PEREZ, JUAN", "Hab")));
+    EXPECT_EQ(texto("Text9"), pesos(sumaTipo("PEREZ, JUAN", "Des")));
+    const auto liquido = engine::CalculoLiquidoNeto(*sesion.base, "ACME", "PEREZ, JUAN", febrero,
+                                                    engine::opcionesLiquidoForm42());
+    EXPECT_EQ(texto("Text10"), pesos(liquido.liquidoneto.aDouble()));
+    master::LectorVariables variables(*sesion.base);
+    engine::ContextoFormula ctx;
+    const auto mp =
+        engine::BuscarVerif(*sesion.base, variables, "ACME", "PEREZ, JUAN", febrero, ctx, dialogo);
+    ASSERT_TRUE(mp);
+    EXPECT_EQ(texto("Text13"), pesos(mp->desglose.montoirpf.aDouble()));
+    EXPECT_EQ(texto("Text18"), pesos(mp->desglose.montonominal.aDouble()));
+    // El recuadro del IRPF quedó con la base del mes de la fila IRPF.
+    EXPECT_EQ(texto("Text14"), "31,500.00");
+    EXPECT_EQ(texto("Text21"), "0.00");
+
+    // Con descuentos no entra un haber: el aviso, nada escrito, la fila limpia.
+    teclear("Text2", "57");
+    teclear("Text5", "1");
+    teclear("Text6", "200");
+    EXPECT_EQ(dialogo.ultimoMensaje(),
+              "Ya hay Descuentos ingresados, para Agregar un Haber deberá eliminar todos los "
+              "Descuentos o usar el botón Reliq. por retro.");
+    EXPECT_EQ(dialogo.mensajes.back().titulo, "Mensaje de advertencia");
+    EXPECT_EQ(filas("codigo = 57"), 0);
+    EXPECT_EQ(texto("Text2"), "");
+    EXPECT_TRUE(w("Text2")->hasFocus());
+    EXPECT_FALSE(w<QPushButton>("Agregar")->isEnabled());
+
+    // Cómo se calculó el SUELDO: la fila elegida en la grilla.
+    elegirFila("MSFlexGrid1", 0);
+    EXPECT_EQ(texto("Text2"), "1");
+    pulsar("ComoSeCalculo");
+    EXPECT_EQ(dialogo.mensajes.back().titulo, "¿Cómo se calculó?");
+    EXPECT_EQ(dialogo.ultimoMensaje().rfind("SUELDO: ", 0), 0u) << dialogo.ultimoMensaje();
+    EXPECT_GT(dialogo.ultimoMensaje().size(), std::string("SUELDO: ").size());
+
+    // F7 sobre un descuento elegido: pregunta y lo borra; las cifras lo siguen.
+    elegirFila("MSFlexGrid2", 0);
+    EXPECT_TRUE(w<QPushButton>("Eliminar")->isEnabled());
+    tecla(Qt::Key_F7);
+    EXPECT_EQ(dialogo.preguntas.back(), "Eliminar Concepto|¿Desea continuar?");
+    EXPECT_EQ(filas("codigo = 701"), 0);
+    EXPECT_EQ(texto("Text9"), "1,380.00");
+
+    // Borrar los descuentos del mes pregunta con su título; con No quedan.
+    dialogo.respuestas = {false};
+    pulsar("DescPerm2");
+    EXPECT_EQ(dialogo.preguntas.back(), "Eliminar Desc.Perm.|¿Desea continuar?");
+    EXPECT_EQ(filas("tipo = 'Des'"), 3);
+    pulsar("DescPerm2");
+    EXPECT_EQ(filas("tipo = 'Des'"), 0);
+    EXPECT_TRUE(columna("MSFlexGrid2", 0).empty());
+    EXPECT_EQ(texto("Text9"), "0.00");
+}
+
+TEST_F(PantallaHaberes, LicenciaConSusPreguntasYElPeriodo) {
+    persona("GOMEZ, ANA", "1", "30000", "2019-01-01");
+    abrirMes("0226", "GOMEZ, ANA");
+    pulsar("HabPerm");
+    const std::string menosDe10 =
+        "La cantidad de días de licencia por período no puede ser menor que 10|¿Desea "
+        "continuar?";
+    const std::string periodo =
+        "Período de Licencia (largo de fechas + el guión = 17)|Modifique las fechas desde y "
+        "hasta.";
+
+    // Cinco días: la pregunta por menos de 10; con No no se calcula nada.
+    teclear("Text2", "30");
+    dialogo.respuestas = {false};
+    teclear("Text5", "5");
+    EXPECT_EQ(dialogo.preguntas, std::vector<std::string>{menosDe10});
+    EXPECT_TRUE(w("Text5")->hasFocus());
+    EXPECT_EQ(filas("codigo = 30"), 0);
+
+    // Con Sí pide el período (el propuesto) y la fila se guarda con el Enter del total.
+    dialogo.preguntas.clear();
+    teclear("Text5", "5");
+    EXPECT_EQ(dialogo.preguntas, (std::vector<std::string>{menosDe10, periodo}));
+    EXPECT_EQ(texto("Text6"), "5000");  // 30000 / 30 x 5
+    teclear("Text6", "5000");
+    EXPECT_EQ(filas("codigo = 30 AND cant = 5"), 1);
+    EXPECT_EQ(sumaTipo("GOMEZ, ANA", "Hab"), 30000);  // SUELDO 25000 + LICENCIA 5000
+
+    // Cero días: el aviso.
+    teclear("Text2", "30");
+    teclear("Text5", "0");
+    EXPECT_EQ(dialogo.ultimoMensaje(), "La cantidad de días de licencia no puede ser cero.");
+}
+
+TEST_F(PantallaHaberes, ElMesQueNoEsElAnteriorSePregunta) {
+    persona("PEREZ, JUAN", "1", "30000", "2020-01-01");
+    persona("NUEVO, LUIS", "2", "20000", "2026-01-10");
+    abrir("Form42");
+    teclear("Combo1", "ACME");
+
+    // Forma equivocada: el aviso y nada más.
+    teclear("Text1", "1326");
+    EXPECT_EQ(dialogo.ultimoMensaje(),
+              "Debe completar los campos Empresa, Nombre del Personal y la FMesCargo debe tener "
+              "el formato: MM/aa.");
+    EXPECT_TRUE(dialogo.preguntas.empty());
+
+    // Diciembre no es el anterior: con No el mes se borra y el foco se queda.
+    dialogo.respuestas = {false};
+    teclear("Text1", "1225");
+    EXPECT_EQ(dialogo.preguntas.back(),
+              "La fecha corresponde a la liquidación de DICIEMBRE/25|¿Desea continuar?");
+    EXPECT_EQ(texto("Text1"), "");
+    EXPECT_TRUE(w("Text1")->hasFocus());
+
+    // Con Sí la lista de personas es la de diciembre: el que entró en enero no está.
+    teclear("Text1", "1225");
+    auto* nombres = w<QComboBox>("Combo2");
+    EXPECT_GE(nombres->findText("PEREZ, JUAN"), 1);
+    EXPECT_EQ(nombres->findText("NUEVO, LUIS"), -1);
+    EXPECT_TRUE(nombres->hasFocus());
+    dialogo.preguntas.clear();
+    teclear("Text1", "0226");
+    EXPECT_TRUE(dialogo.preguntas.empty());
+    EXPECT_GE(nombres->findText("NUEVO, LUIS"), 1);
+}
+
+TEST_F(PantallaHaberes, AnteriorYSiguienteSoloEntreActivos) {
+    persona("UNO, A", "1", "1000", "2020-01-01");
+    persona("DOS, B", "2", "1000", "2020-01-01", "2025-06-30");  // egresó
+    persona("TRES, C", "3", "1000", "2020-01-01");
+    sql("UPDATE personal SET impaclab = '2', fechaing2 = '2026-05-01' WHERE nrofun = '3'");
+    persona("CINCO, E", "5", "1000", "2020-01-01", "", "[02/26] Cobra por banco desde este mes.");
+    persona("SEIS, F", "6", "1000", "2020-01-01", "", "[01/26] Ya no cobra horas extras.");
+    abrirMes("0226", "UNO, A");
+    EXPECT_EQ(texto("Text12"), "1");
+    dialogo.mensajes.clear();
+
+    // El 2 egresó, el 3 trabaja en su segunda actividad desde mayo, el 4 no existe.
+    pulsar("Prox");
+    EXPECT_EQ(w<QComboBox>("Combo2")->currentText(), "CINCO, E");
+    EXPECT_EQ(texto("Text12"), "5");
+    ASSERT_EQ(dialogo.mensajes.size(), 1u);  // sus observaciones son de este mes
+    EXPECT_EQ(dialogo.ultimoMensaje(), "Cobra por banco desde este mes.");
+    EXPECT_EQ(dialogo.mensajes.back().titulo, "Mensaje de información");
+    pulsar("Prox");
+    EXPECT_EQ(texto("Text12"), "6");
+    EXPECT_EQ(dialogo.mensajes.size(), 1u);  // las del 6 son de enero
+    pulsar("Prox");
+    EXPECT_EQ(texto("Text12"), "6");  // no hay más
+    pulsar("Ant");
+    pulsar("Ant");
+    EXPECT_EQ(w<QComboBox>("Combo2")->currentText(), "UNO, A");
+    // La lista del mes no trae a quien egresó.
+    EXPECT_EQ(w<QComboBox>("Combo2")->findText("DOS, B"), -1);
+
+    // Por número: uno que no existe.
+    teclear("Text12", "4");
+    EXPECT_EQ(w<QComboBox>("Combo2")->currentText(), "NO EXISTE");
+    EXPECT_EQ(dialogo.ultimoMensaje(),
+              "El Nombre del Personal no existe en esta Empresa, deberá 1ero ingresarlo en la "
+              "ventana Personal.");
+    teclear("Text12", "3");
+    EXPECT_EQ(w<QComboBox>("Combo2")->currentText(), "TRES, C");
+    w("Text12")->clear();
+    w<QComboBox>("Combo1")->setCurrentText("");
+    teclear("Text12", "3");
+    EXPECT_EQ(dialogo.ultimoMensaje(), "Debe completar los campos Empresa y Nro Fun.");
+}
+
+TEST_F(PantallaHaberes, TodaLaEmpresaConSuAvanceYDetener) {
+    persona("A, UNO", "1", "10000", "2020-01-01");
+    persona("B, DOS", "2", "20000", "2020-01-01");
+    persona("C, TRES", "3", "30000", "2020-01-01");
+    abrir("Form42");
+    teclear("Combo1", "ACME");
+    // Sólo la empresa: con el mes escrito no corre.
+    w("Text1")->setText("02/26");
+    pulsar("ActHabPermxEmpresa");
+    EXPECT_EQ(dialogo.ultimoMensaje(), "Debe completar solamente el campo Empresa.");
+    EXPECT_EQ(filas("1 = 1"), 0);
+    w("Text1")->clear();
+
+    // Detener durante la primera persona: ella queda, las demás no.
+    auto* avance = w<QProgressBar>("avance");
+    auto* detener = w<QPushButton>("Detener");
+    EXPECT_FALSE(detener->isEnabled());
+    std::vector<int> vistos;
+    auto c = QObject::connect(avance, &QProgressBar::valueChanged, [&](int v) {
+        vistos.push_back(v);
+        EXPECT_TRUE(detener->isEnabled());
+        EXPECT_FALSE(w<QPushButton>("DescPerm")->isEnabled());  // lo demás, bloqueado
+        if (v == 1) detener->click();
+    });
+    dialogo.mensajes.clear();
+    pulsar("ActHabPermxEmpresa");
+    EXPECT_EQ(vistos, std::vector<int>{1});
+    EXPECT_EQ(avance->maximum(), 3);
+    EXPECT_EQ(filas("nombre = 'A, UNO' AND codigo = 1"), 1);
+    EXPECT_EQ(filas("nombre <> 'A, UNO'"), 0);
+    EXPECT_TRUE(dialogo.mensajes.empty());  // detenida: no dice finalizada
+    EXPECT_TRUE(w<QPushButton>("DescPerm")->isEnabled());
+    EXPECT_FALSE(detener->isEnabled());
+    QObject::disconnect(c);
+
+    // De nuevo, hasta el final: todas con su SUELDO.
+    vistos.clear();
+    c = QObject::connect(avance, &QProgressBar::valueChanged, [&](int v) { vistos.push_back(v); });
+    pulsar("ActHabPermxEmpresa");
+    EXPECT_EQ(vistos, (std::vector<int>{0, 1, 2, 3}));  // la barra vuelve a empezar
+    EXPECT_EQ(dialogo.ultimoMensaje(), "Actualización finalizada.");
+    EXPECT_EQ(filas("codigo = 1"), 3);
+
+    // Los descuentos de toda la empresa, con su aviso al final.
+    dialogo.mensajes.clear();
+    pulsar("ActDesPermxEmpresa");
+    EXPECT_EQ(filas("codigo = 701"), 3);
+    EXPECT_EQ(dialogo.ultimoMensaje(), "Actualización finalizada.");
+    QObject::disconnect(c);
+}
+
+}  // namespace
