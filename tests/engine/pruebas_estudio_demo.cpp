@@ -228,7 +228,11 @@ class OrdenDemo : public store::prueba::BaseVacia {
 NOMIRA_PARA_CADA_MOTOR(OrdenDemo);
 
 TEST_P(OrdenDemo, CreaLiquidaYResumeYNoTocaUnaBaseQueYaExiste) {
-    const std::string base = "--base '" + destino_ + "' ";
+    // Entre comillas simples para el shell: una cadena de PostgreSQL puede traerlas.
+    std::string comillas = "'";
+    for (char ch : destino_) comillas += ch == '\'' ? std::string("'\\''") : std::string(1, ch);
+    comillas += "'";
+    const std::string base = "--base " + comillas + " ";
     auto s = pruebas::cli(base + "demo --liquidar");
     ASSERT_EQ(s.estado, 0) << s.texto;
     // 95000 + 16500 + 45000 + 18000 + 176 x 260 + el ficto al mayor sueldo (95000).
@@ -250,7 +254,7 @@ TEST_P(OrdenDemo, CreaLiquidaYResumeYNoTocaUnaBaseQueYaExiste) {
     EXPECT_GT(filas, 50);
     const std::string antes = esPostgres() ? "" : leer(destino_);
     // También con --base después de la orden.
-    s = pruebas::cli("demo --liquidar --base '" + destino_ + "'");
+    s = pruebas::cli("demo --liquidar --base " + comillas);
     EXPECT_EQ(s.estado, 1) << s.texto;
     EXPECT_NE(s.texto.find("ya existe"), std::string::npos) << s.texto;
     EXPECT_EQ(contar("habydesc"), filas);
