@@ -40,10 +40,6 @@ class Bloqueo {
 
 }  // namespace
 
-void PantallaHaberes::recordar(const std::vector<engine::FilaLiquidada>& filas) {
-    for (const auto& f : filas) explicaciones_[{f.fila.tipo, f.fila.codigo}] = f.explicacion;
-}
-
 bool PantallaHaberes::hayMesDePersona() {
     if (empresa().empty() || nombre().empty() || mes_->text().trimmed().isEmpty()) {
         advertir(engine::kFaltanCamposMes);
@@ -66,11 +62,8 @@ void PantallaHaberes::releer() {
 void PantallaHaberes::HabPerm_Click() {
     intentar("HabPerm_Click", [this] {
         if (!hayMesDePersona()) return;
-        const auto r = engine::generarHaberesPermanentes(base(), empresa(), nombre(), *mes(),
-                                                         dialogo(), conHoras());
-        if (r.hecho)
-            std::erase_if(explicaciones_, [](const auto& e) { return e.first.first == "Des"; });
-        recordar(r.filas);
+        engine::generarHaberesPermanentes(base(), empresa(), nombre(), *mes(), dialogo(),
+                                          conHoras());
         irpf_->limpiar();
         releer();
     });
@@ -81,7 +74,6 @@ void PantallaHaberes::DescPerm_Click() {
         if (!hayMesDePersona()) return;
         master::LectorVariables variables(base());
         const auto r = engine::DescPerm(base(), variables, empresa(), nombre(), *mes(), dialogo());
-        recordar(r.filas);
         releer();
         // El cierre de diciembre ya cuenta la fila recién escrita como retenida:
         // su detalle sólo se ve al teclear la fila.
@@ -96,7 +88,6 @@ void PantallaHaberes::HabPerm2_Click() {
         if (!hayMesDePersona()) return;
         if (engine::eliminarHaberesDelMes(base(), empresa(), nombre(), *mes(), dialogo()) < 0)
             return;
-        std::erase_if(explicaciones_, [](const auto& e) { return e.first.first == "Hab"; });
         releer();
     });
 }
@@ -106,7 +97,6 @@ void PantallaHaberes::DescPerm2_Click() {
         if (!hayMesDePersona()) return;
         if (engine::eliminarDescuentosDelMes(base(), empresa(), nombre(), *mes(), dialogo()) < 0)
             return;
-        std::erase_if(explicaciones_, [](const auto& e) { return e.first.first == "Des"; });
         irpf_->limpiar();
         releer();
     });

@@ -70,7 +70,6 @@ void PantallaHaberes::CargarNombredelPersonal() {
 
 void PantallaHaberes::olvidarMes() {
     mp_.reset();
-    explicaciones_.clear();
     limpiarRenglon();
     irpf_->limpiar();
     desplegar(haberes_, {}, "Hab");
@@ -88,7 +87,6 @@ bool PantallaHaberes::Text1_Enter() {
             mes_->clear();
             return;
         }
-        explicaciones_.clear();
         CargarNombredelPersonal();
         if (!nombre().empty() && BuscarVerif()) Consultar_Click();
         sigue = true;

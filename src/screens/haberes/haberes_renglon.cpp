@@ -3,6 +3,7 @@
 #include "common/dinero.h"
 #include "common/numeros.h"
 #include "common/texto.h"
+#include "engine/explicaciones.h"
 #include "engine/filas_persona.h"
 #include "engine/irpf_lector.h"
 #include "screens/haberes/pantalla_haberes.h"
@@ -133,9 +134,6 @@ void PantallaHaberes::guardar(const char* procedimiento) {
         const auto rechazo =
             engine::guardarRenglon(base(), *mp_, ctx_, calculo, s(cant_), s(total_), dialogo());
         if (rechazo && *rechazo == engine::kFaltaTotal) return;  // se completa el total
-        if (!rechazo)
-            explicaciones_[{calculo.concepto.tipo, numero(calculo.concepto.codigo)}] =
-                calculo.explicacion;
         limpiarRenglon();
         Consultar_Click();
         codigo_->setFocus();
@@ -148,7 +146,6 @@ void PantallaHaberes::Eliminar_Click() {
         const auto& c = buscado_->concepto;
         const auto rechazo = engine::eliminarRenglon(base(), *mp_, c, dialogo());
         if (rechazo && rechazo->empty()) return;  // respondió No
-        if (!rechazo) explicaciones_.erase({c.tipo, numero(c.codigo)});
         limpiarRenglon();
         Consultar_Click();
         codigo_->setFocus();
@@ -170,15 +167,14 @@ void PantallaHaberes::mostrarIRPF(const std::string& concepto) {
 void PantallaHaberes::ComoSeCalculo() {
     intentar("ComoSeCalculo_Click", [this] {
         auto* grilla = ultimaGrilla_;
-        if (!grilla || grilla->elegida(0).empty())
+        if (!mp_ || !grilla || grilla->elegida(0).empty())
             return advertir("Debe elegir una fila de Haberes o de Descuentos.");
-        const std::string tipo = grilla == haberes_ ? "Hab" : "Des";
-        const long codigo = numero(grilla->elegida(0));
-        const auto it = explicaciones_.find({tipo, codigo});
-        const std::string texto =
-            it != explicaciones_.end() && !it->second.empty()
-                ? grilla->elegida(1) + ": " + it->second
-                : "La fila " + grilla->elegida(1) + " no tiene explicación guardada.";
+        const auto explicacion =
+            engine::leerExplicacion(base(), engine::TablaLiquidacion::Habydesc, mp_->empresa,
+                                    mp_->nombre, mp_->mes, numero(grilla->elegida(0)));
+        const std::string texto = explicacion.empty() ? "La fila " + grilla->elegida(1) +
+                                                            " no tiene explicación guardada."
+                                                      : grilla->elegida(1) + ": " + explicacion;
         dialogo().avisar(common::TipoAviso::Informacion, "¿Cómo se calculó?", texto);
     });
 }

@@ -80,7 +80,6 @@ class PantallaHaberes : public ventana::Pantalla {
     std::optional<engine::ResultadoEmpresa> correrEmpresa(const CorridaEmpresa& correr);
     void ActHamPermxEmpresa_Click();
     void ActDesPermxEmpresa_Click();
-    void recordar(const std::vector<engine::FilaLiquidada>& filas);
 
     QComboBox *empresa_ = nullptr, *nombre_ = nullptr;
     ventana::CampoFecha* mes_ = nullptr;
@@ -99,8 +98,6 @@ class PantallaHaberes : public ventana::Pantalla {
     std::optional<engine::MesPersona> mp_;
     std::optional<engine::RenglonBuscado> buscado_;
     std::optional<engine::CalculoRenglon> calculo_;
-    // Cómo se llegó a cada fila escrita en esta sesión, por tipo y código.
-    std::map<std::pair<std::string, long>, std::string> explicaciones_;
 };
 
 void registrarPantallasHaberes();
