@@ -245,11 +245,48 @@ TEST_F(PantallaHaberes, LicenciaConSusPreguntasYElPeriodo) {
     EXPECT_EQ(dialogo.ultimoMensaje(), "La cantidad de días de licencia no puede ser cero.");
 }
 
+TEST_F(PantallaHaberes, DiciembreMuestraElCierreDelAnio) {
+    persona("ROSSI, ANA", "1", "120000", "2020-01-01");
+    // Once meses del año ya liquidados con el mismo sueldo.
+    for (int m = 1; m <= 11; ++m)
+        sql("INSERT INTO habydesc (empresa, nombre, fecha, codigo, concepto, tipo, gravado, cant, "
+            "total, ipd) VALUES ('ACME', 'ROSSI, ANA', ?, 1, 'SUELDO', 'Hab', 'Si', 1, 120000, "
+            "'Si')",
+            {common::Mes{2025, m}.primerDia().iso()});
+    abrir("Form42");
+    teclear("Combo1", "ACME");
+    teclear("Text1", "1225");  // Sí a la pregunta del mes
+    teclear("Combo2", "ROSSI, ANA");
+    pulsar("HabPerm");
+    auto* detalle = pantalla->findChild<QWidget*>("detalleAnio");
+    ASSERT_NE(detalle, nullptr);
+    EXPECT_FALSE(detalle->isVisible());
+
+    // La fila IRPF tecleada en diciembre: el detalle del año con lo de la fila.
+    teclear("Text2", "705");
+    teclear("Text5", "");
+    EXPECT_TRUE(detalle->isVisible());
+    EXPECT_EQ(texto("inggrav"), "1,440,000.00");  // doce meses de 120000
+    EXPECT_EQ(texto("Text21"), pesos(w("Text6")->text().toDouble()));
+    EXPECT_NE(texto("Text21"), "0.00");  // el año pasa la franja sin impuesto
+
+    // Otra persona limpia el recuadro; F2 relee lo que otra PC escribió.
+    teclear("Combo2", "ROSSI, ANA");
+    EXPECT_FALSE(detalle->isVisible());
+    EXPECT_EQ(texto("Text21"), "");
+    sql("INSERT INTO habydesc (empresa, nombre, fecha, codigo, concepto, tipo, cant, total) "
+        "VALUES ('ACME', 'ROSSI, ANA', '2025-12-01', 58, 'TRANSPORTE', 'Hab', 1, 700)");
+    tecla(Qt::Key_F2);
+    EXPECT_EQ(columna("MSFlexGrid1", 1).back(), "TRANSPORTE");
+    EXPECT_EQ(texto("Text8"), "120,700.00");
+}
+
 TEST_F(PantallaHaberes, ElMesQueNoEsElAnteriorSePregunta) {
     persona("PEREZ, JUAN", "1", "30000", "2020-01-01");
     persona("NUEVO, LUIS", "2", "20000", "2026-01-10");
     abrir("Form42");
     teclear("Combo1", "ACME");
+    EXPECT_TRUE(w("Text1")->hasFocus());  // Enter pasa de la empresa al mes
 
     // Forma equivocada: el aviso y nada más.
     teclear("Text1", "1326");
