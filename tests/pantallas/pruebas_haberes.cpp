@@ -17,6 +17,7 @@
 #include "engine/liquido.h"
 #include "engine/mes_persona.h"
 #include "engine/renglon.h"
+#include "frame/ventana/ventana_principal.h"
 #include "master/variables.h"
 #include "pantallas/apoyo_pantallas.h"
 
@@ -407,6 +408,26 @@ TEST_F(PantallaHaberes, TodaLaEmpresaConSuAvanceYDetener) {
     EXPECT_EQ(filas("codigo = 701"), 3);
     EXPECT_EQ(dialogo.ultimoMensaje(), "Actualización finalizada.");
     QObject::disconnect(c);
+}
+
+TEST_F(PantallaHaberes, ControlHLaAbreYF10AbreLosConceptos) {
+    ventana::VentanaPrincipal principal(sesion);
+    principal.show();
+    QApplication::setActiveWindow(&principal);
+    auto* barra = principal.findChild<QAction*>("tecla_HaberesyDescuentos");
+    ASSERT_NE(barra, nullptr);
+    EXPECT_EQ(barra->text(), "Hab.yDesc.");
+    EXPECT_TRUE(barra->isEnabled());
+    QTest::keyClick(&principal, Qt::Key_H, Qt::ControlModifier);
+    auto* form42 = principal.findChild<QWidget*>("Form42");
+    ASSERT_NE(form42, nullptr);
+    EXPECT_EQ(form42->windowTitle(), "Haberes y Descuentos");
+    QApplication::setActiveWindow(form42);
+    QTest::keyClick(form42->findChild<QLineEdit*>("Text2"), Qt::Key_F10);
+    EXPECT_NE(form42->findChild<QWidget*>("Form4"), nullptr);
+    // F8, F9 y F12 esperan a sus pantallas.
+    for (const char* b : {"Imp.", "Copiar", "Validar"})
+        EXPECT_FALSE(form42->findChild<QPushButton*>(b)->isEnabled()) << b;
 }
 
 }  // namespace
