@@ -2,13 +2,32 @@
 
 #include <cmath>
 #include <cstdio>
+#include <cstdint>
 #include <cstdlib>
+#include <string>
 
 #include "common/fallo.h"
 
 namespace nomira::common {
 
 Decimal descomponer(double x) {
+    // Si x * 10000 da exactamente un entero r de menos de 15 cifras, x está a
+    // menos de 1,2e-16 |x| de r / 10000, que es un número de 15 cifras; la
+    // separación entre números de 15 cifras cerca de x es de al menos
+    // 1e-15 |x|, así que r / 10000 es la forma de 15 cifras de x.
+    const double y = x * 10000.0;
+    if (std::fabs(y) < 1e15 && y == std::trunc(y) && x != 0) {
+        Decimal d;
+        d.negativo = y < 0;
+        d.cifras = std::to_string(static_cast<std::int64_t>(std::fabs(y)));
+        d.enteras = static_cast<int>(d.cifras.size()) - 4;
+        while (d.cifras.back() == '0') d.cifras.pop_back();
+        return d;
+    }
+    return descomponerPorTexto(x);
+}
+
+Decimal descomponerPorTexto(double x) {
     if (!std::isfinite(x)) throw Fallo(6, "Desbordamiento");
     Decimal d;
     if (x == 0) return d;

@@ -17,6 +17,9 @@ enum class Redondeo { MitadAlPar, MitadLejosDelCero };
 
 // Lanza Fallo(6, "Desbordamiento") para infinitos y NaN.
 Decimal descomponer(double x);
+// Lo mismo por el camino largo, el texto "%.14e"; descomponer toma un atajo
+// para los importes de hasta cuatro decimales y da siempre lo mismo que esta.
+Decimal descomponerPorTexto(double x);
 
 // |x| * 10^decimales redondeado a entero, como texto de cifras sin ceros a la
 // izquierda ("0" para cero). El signo queda en el Decimal.

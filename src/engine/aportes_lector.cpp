@@ -10,11 +10,6 @@ using common::Dinero;
 
 namespace {
 
-store::Conexion& baseDe(const ContextoFormula& ctx) {
-    if (!ctx.variables) throw common::Fallo(91, "Variable de objeto o bloque With no establecida");
-    return ctx.variables->base();
-}
-
 std::optional<std::string> formulaDe(store::Conexion& base, const char* concepto) {
     const auto r = base.consulta(
         "SELECT formula FROM conceptos WHERE tipo = 'Des' AND concepto = ? ORDER BY codigo "
@@ -63,14 +58,20 @@ PorcentajesFormula porcentajesDeConceptos(store::Conexion& base) {
 }
 
 double CalculoTasasDesNewAguinaldo(ContextoFormula& ctx, common::Dialogo& dialogo) {
+    double montograv = 0;
+    for (const auto& f : leerFilasDelMes(baseDe(ctx), TablaLiquidacion::Egresos, ctx.empresa,
+                                         ctx.nombre, ctx.periodo))
+        if (f.gravado == "Si" && f.concepto != "AGUINALDO") montograv += f.total.aDouble();
+    return tasasSobre(ctx, montograv, dialogo);
+}
+
+double tasasSobre(ContextoFormula& ctx, double montograv, common::Dialogo& dialogo) {
     auto& base = baseDe(ctx);
     DatosSNIS d;
-    for (const auto& f :
-         leerFilasDelMes(base, TablaLiquidacion::Egresos, ctx.empresa, ctx.nombre, ctx.periodo))
-        if (f.gravado == "Si" && f.concepto != "AGUINALDO") d.montograv += f.total.aDouble();
+    d.montograv = montograv;
     d.bpc = ctx.variables->valor("BPC");
     d.tipoaporte = ctx.tipoaporte;
-    if (const auto p = leerDatosPersona(base, ctx.empresa, ctx.nombre))
+    if (const auto p = datosPersona(ctx))
         conyugeEHijosSNIS(d, p->fila, ctx.periodo, &dialogo);
     const auto pf = porcentajesDeConceptos(base);
     return sumaTasas(porcentajeSNIS(d), pf.montepio, pf.frl);
@@ -103,7 +104,7 @@ DescuentoGenerado generarDescuento(ContextoFormula& ctx, const ConceptoDescuento
     e.tipoaporte = ctx.tipoaporte;
     e.bpc = ctx.variables->valor("BPC");
     e.montograv = ctx.montograv;
-    const auto persona = leerDatosPersona(base, ctx.empresa, ctx.nombre);
+    const auto persona = datosPersona(ctx);
     if (persona) {
         e.vinculofun = persona->vinculofun;
         e.cantbfc = persona->cantbfc;
@@ -123,6 +124,8 @@ DescuentoGenerado generarDescuento(ContextoFormula& ctx, const ConceptoDescuento
 
     DescuentoGenerado r;
     r.fila = ajustarAporte(e);
+    r.fila.explicacion =
+        "Fórmula " + c.formula + " = " + ctx.formulaSustituida + "; " + r.fila.explicacion;
     ctx.psnis = r.fila.psnis;
     ctx.total = r.fila.total.aDouble();
     if (op.tabla == TablaLiquidacion::Habydesc && hayEgresos(base, ctx.empresa, ctx.nombre, mes))

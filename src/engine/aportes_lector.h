@@ -49,9 +49,12 @@ struct PorcentajesFormula {
 };
 PorcentajesFormula porcentajesDeConceptos(store::Conexion& base);
 
-// CalculoTasasDesNewAguinaldo: SNIS sobre lo gravado del egreso (sin la fila
-// AGUINALDO) más MONTEPIO y FRL de sus fórmulas. Con la casilla del período
-// vacía la pantalla pasa el mes 01/01.
+// La suma de los tres porcentajes de aporte de la persona: SNIS por la escalera
+// sobre `montograv`, MONTEPIO y FRL de sus fórmulas.
+double tasasSobre(ContextoFormula& ctx, double montograv, common::Dialogo& dialogo);
+
+// CalculoTasasDesNewAguinaldo: las tasas sobre lo gravado del egreso (sin la
+// fila AGUINALDO). Con la casilla del período vacía la pantalla pasa el mes 01/01.
 double CalculoTasasDesNewAguinaldo(ContextoFormula& ctx, common::Dialogo& dialogo);
 
 }  // namespace nomira::engine

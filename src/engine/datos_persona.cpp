@@ -26,26 +26,36 @@ std::string codigoCategoria(store::Conexion& base, const std::string& ded, const
     return c.empty() ? "00" : c;
 }
 
+DatosPersona datosDe(master::Persona f) {
+    DatosPersona p;
+    p.tiposueldo = f.tiposueldo;
+    p.vinculofun = f.vinculofun;
+    p.socmedica = f.socmedica;
+    p.sueldo = common::textoANumero(f.sueldo);
+    p.cantbfc = common::textoANumero(f.cantbfc);
+    p.porcentajeben = {f.porcentajeben, f.porcentajeben2, f.porcentajeben3};
+    p.montoben = {f.montoben, f.montoben2, f.montoben3};
+    p.fechadesdeben = {f.fechadesdeben, f.fechadesdeben2, f.fechadesdeben3};
+    p.codigoded = {f.codigoded, f.codigoded2, f.codigoded3};
+    p.categoriaded = {f.categoriaded, f.categoriaded2, f.categoriaded3};
+    p.fechadesdeded = {f.fechadesdeded, f.fechadesdeded2, f.fechadesdeded3};
+    p.fila = std::move(f);
+    return p;
+}
+
 }  // namespace
 
 std::optional<DatosPersona> leerDatosPersona(store::Conexion& base, const std::string& empresa,
                                              const std::string& nombre) {
     auto f = master::leerPersona(base, empresa, nombre);
     if (!f) return std::nullopt;
-    DatosPersona p;
-    p.tiposueldo = f->tiposueldo;
-    p.vinculofun = f->vinculofun;
-    p.socmedica = f->socmedica;
-    p.sueldo = common::textoANumero(f->sueldo);
-    p.cantbfc = common::textoANumero(f->cantbfc);
-    p.porcentajeben = {f->porcentajeben, f->porcentajeben2, f->porcentajeben3};
-    p.montoben = {f->montoben, f->montoben2, f->montoben3};
-    p.fechadesdeben = {f->fechadesdeben, f->fechadesdeben2, f->fechadesdeben3};
-    p.codigoded = {f->codigoded, f->codigoded2, f->codigoded3};
-    p.categoriaded = {f->categoriaded, f->categoriaded2, f->categoriaded3};
-    p.fechadesdeded = {f->fechadesdeded, f->fechadesdeded2, f->fechadesdeded3};
-    p.fila = std::move(*f);
-    return p;
+    return datosDe(std::move(*f));
+}
+
+std::optional<DatosPersona> datosPersona(ContextoFormula& ctx) {
+    const auto& f = personaDelContexto(ctx);
+    if (!f) return std::nullopt;
+    return datosDe(*f);
 }
 
 Deducciones deduccionesDe(const DatosPersona& p, const common::Mes& periodo,

@@ -6,6 +6,7 @@
 
 #include "common/dialogo.h"
 #include "common/fechas.h"
+#include "engine/formula.h"
 #include "engine/irpf.h"
 #include "master/personal.h"
 #include "master/variables.h"
@@ -23,6 +24,8 @@ struct DatosPersona {
 
 std::optional<DatosPersona> leerDatosPersona(store::Conexion& base, const std::string& empresa,
                                              const std::string& nombre);
+// La persona del contexto, leída una vez por empresa y nombre.
+std::optional<DatosPersona> datosPersona(ContextoFormula& ctx);
 
 // Beneficiarios y casillas con sus códigos de catálogo, la edad al período y
 // el valor de la variable de las casillas "03".

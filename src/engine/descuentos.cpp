@@ -230,7 +230,7 @@ ResultadoEmpresa ActDesPermxEmpresa(store::Conexion& base, master::LectorVariabl
                                     const std::string& empresa, const common::Mes& mes,
                                     common::Dialogo& dialogo, const ProgresoEmpresa& progreso,
                                     const CancelarEmpresa& cancelar) {
-    auto porPersona = [&](const master::Persona& p) {
+    auto porPersona = [&](store::Conexion& base, const master::Persona& p) {
         ResultadoPersona r;
         r.empresa = empresa;
         r.nombre = p.nombre;

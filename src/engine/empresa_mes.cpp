@@ -4,6 +4,7 @@
 
 #include "common/numeros.h"
 #include "master/registro.h"
+#include "store/recordada.h"
 
 namespace nomira::engine {
 
@@ -24,7 +25,8 @@ ResultadoEmpresa recorrerEmpresa(store::Conexion& base, const std::string& empre
                                  const common::Mes& mes, const PorPersona& porPersona,
                                  const ProgresoEmpresa& progreso, const CancelarEmpresa& cancelar) {
     ResultadoEmpresa r;
-    const auto personas = personasPorCantbfc(base, empresa);
+    store::ConexionRecordada recordada(base);
+    const auto personas = personasPorCantbfc(recordada, empresa);
     for (std::size_t i = 0; i < personas.size(); ++i) {
         if (cancelar && cancelar()) {
             r.cancelado = true;
@@ -37,8 +39,8 @@ ResultadoEmpresa recorrerEmpresa(store::Conexion& base, const std::string& empre
             continue;
         }
         try {
-            store::Transaccion t(base);
-            auto hecho = porPersona(p);
+            store::Transaccion t(recordada);
+            auto hecho = porPersona(recordada, p);
             t.confirmar();
             r.personas.push_back(std::move(hecho));
         } catch (...) {

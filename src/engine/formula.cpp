@@ -130,12 +130,18 @@ void cargarPersona(ContextoFormula& ctx, const master::Persona& p) {
     ctx.cantbfc = common::textoANumero(p.cantbfc);
 }
 
+store::Conexion& baseDe(const ContextoFormula& ctx) {
+    if (ctx.base) return *ctx.base;
+    if (!ctx.variables) throw common::Fallo(91, "Variable de objeto o bloque With no establecida");
+    return ctx.variables->base();
+}
+
 const std::optional<master::Persona>& personaDelContexto(ContextoFormula& ctx) {
     auto& leida = ctx.personaLeida;
     if (!leida || leida->empresa != ctx.empresa || leida->nombre != ctx.nombre)
         leida = ContextoFormula::PersonaLeida{
             ctx.empresa, ctx.nombre,
-            master::leerPersona(variables(ctx).base(), ctx.empresa, ctx.nombre)};
+            master::leerPersona(baseDe(ctx), ctx.empresa, ctx.nombre)};
     return leida->fila;
 }
 
@@ -173,6 +179,7 @@ void calcularFormula(ContextoFormula& ctx, const OpcionesFormula& op, common::Di
         copia = copia.substr(0, a - 1) + common::numeroATexto(valor) + copia.substr(b);
     }
 
+    ctx.formulaSustituida = copia;
     // Sin corchetes: un texto vacío toma el importe del archivo de horas.
     const double total = copia.empty() ? ctx.importearchivo.aDouble() : evaluarExpresion(copia);
     ctx.total = total;

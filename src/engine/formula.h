@@ -85,7 +85,11 @@ struct ContextoFormula {
     std::string empresa, nombre;
     common::Mes periodo;    // el mes que se liquida (ver common::mesDeReferencia)
     std::string textoCant;  // la casilla de cantidad tal como se tecleó
+    std::string formulaSustituida;  // lo que se evaluó, para la explicación
     master::LectorVariables* variables = nullptr;
+    // La conexión de la corrida (la que recuerda lo leído en la de una
+    // empresa); sin ella, la de las variables.
+    store::Conexion* base = nullptr;
 
     // La fila de la persona, leída una vez por empresa y nombre.
     struct PersonaLeida {
@@ -94,6 +98,10 @@ struct ContextoFormula {
     };
     std::optional<PersonaLeida> personaLeida;
 };
+
+// La conexión por la que leen los cálculos del contexto. Sin variables es el
+// error 91, como un objeto sin asignar.
+store::Conexion& baseDe(const ContextoFormula& ctx);
 
 // sueldo, sueldo2, sueldo3, htrab y cantbfc desde la fila (lo vacío da 0).
 void cargarPersona(ContextoFormula& ctx, const master::Persona& p);

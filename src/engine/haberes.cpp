@@ -9,6 +9,7 @@
 #include "common/texto.h"
 #include "engine/explicacion.h"
 #include "engine/explicaciones.h"
+#include "engine/filas_persona.h"
 #include "engine/primas_antiguedad.h"
 #include "master/registro.h"
 
@@ -33,14 +34,6 @@ std::string fecha(const common::Mes& mes) {
     return mes.primerDia().iso();
 }
 
-std::optional<master::Concepto> conceptoPorNombre(store::Conexion& base,
-                                                  const std::string& nombre) {
-    const auto r =
-        base.consulta("SELECT * FROM conceptos WHERE concepto = ? ORDER BY codigo", {nombre});
-    if (r.vacio()) return std::nullopt;
-    return master::leerRegistro(r.primera(), master::camposConcepto());
-}
-
 // cant de las filas del mes con ese texto (las licencias de un SUELDO).
 std::vector<double> cantidadesDe(store::Conexion& base, const MesPersona& mp,
                                  const std::string& concepto) {
@@ -54,8 +47,8 @@ std::vector<double> cantidadesDe(store::Conexion& base, const MesPersona& mp,
 }
 
 std::string explicarFormula(const ContextoFormula& ctx) {
-    return "Fórmula " + ctx.formula + " con cantidad " + numero(ctx.cant) + ": " +
-           pesos(ctx.total) + ".";
+    return "Fórmula " + ctx.formula + " = " + ctx.formulaSustituida + " con cantidad " +
+           numero(ctx.cant) + ": " + pesos(ctx.total) + ".";
 }
 
 // La fila de DIASNOTRABAJADOS de un ingreso a mitad de mes.
@@ -237,7 +230,7 @@ ResultadoEmpresa ActHamPermxEmpresa(store::Conexion& base, const std::string& em
     }
     // Una lectura de las variables para toda la corrida.
     master::LectorVariables variables(base);
-    const auto porPersona = [&](const master::Persona& p) {
+    const auto porPersona = [&](store::Conexion& base, const master::Persona& p) {
         ContextoFormula ctx;
         auto mp = BuscarVerif(base, variables, empresa, p.nombre, mes, ctx, dialogo);
         if (!mp) return ResultadoPersona{empresa, p.nombre, mes, false, "", {}};

@@ -33,11 +33,6 @@ std::string dosCifras(int n) {
     return b;
 }
 
-store::Conexion& baseDe(const ContextoFormula& ctx) {
-    if (!ctx.variables) throw common::Fallo(91, "Variable de objeto o bloque With no establecida");
-    return ctx.variables->base();
-}
-
 std::string nroempDe(store::Conexion& base, const std::string& empresa) {
     const auto e = master::leerEmpresa(base, empresa);
     return e ? common::numeroATexto(common::textoANumero(e->nroemp)) : "0";

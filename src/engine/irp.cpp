@@ -44,7 +44,7 @@ double irpDe(double monto, const std::vector<FilaEscala>& franjas, double bpc) {
 
 ResultadoIRP CalculoIRP(ContextoFormula& ctx) {
     if (!ctx.variables) throw common::Fallo(91, "Variable de objeto o bloque With no establecida");
-    auto& base = ctx.variables->base();
+    auto& base = baseDe(ctx);
     ResultadoIRP r;
     r.cant = ctx.textoCant.empty() ? 1 : common::textoANumero(ctx.textoCant);
     double reliquidacion = 0;

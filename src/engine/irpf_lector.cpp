@@ -11,11 +11,6 @@ using common::Dinero;
 
 namespace {
 
-store::Conexion& baseDe(ContextoFormula& ctx) {
-    if (!ctx.variables) throw common::Fallo(91, "Variable de objeto o bloque With no establecida");
-    return ctx.variables->base();
-}
-
 Dinero sumaConPrefijo(const std::vector<FilaMes>& filas, const char* prefijo) {
     Dinero s;
     for (const auto& f : filas)
@@ -72,7 +67,7 @@ ResultadoIRPF CalculoIRPF(ContextoFormula& ctx, Dinero montoirpf, Dinero montono
                           const OpcionesIRPF& op, common::Dialogo& dialogo) {
     auto& base = baseDe(ctx);
     auto& vars = *ctx.variables;
-    const auto persona = leerDatosPersona(base, ctx.empresa, ctx.nombre);
+    const auto persona = datosPersona(ctx);
     const auto mes = ctx.periodo;
 
     EntradaIRPF e;
@@ -115,7 +110,7 @@ ResultadoIRPF CalculoIRPF(ContextoFormula& ctx, Dinero montoirpf, Dinero montono
 ResultadoIRPFDic CalculoIRPFDic(ContextoFormula& ctx, bool conEgresos, common::Dialogo& dialogo) {
     auto& base = baseDe(ctx);
     auto& vars = *ctx.variables;
-    const auto persona = leerDatosPersona(base, ctx.empresa, ctx.nombre);
+    const auto persona = datosPersona(ctx);
     const common::Mes enero{ctx.periodo.anio, 1}, diciembre{ctx.periodo.anio, 12};
 
     EntradaIRPFDic e;
@@ -160,7 +155,7 @@ Dinero CalculomontodeduccionesIRPF(ContextoFormula& ctx, const OpcionesIRPF& op,
                                    common::Dialogo& dialogo) {
     auto& base = baseDe(ctx);
     auto& vars = *ctx.variables;
-    const auto persona = leerDatosPersona(base, ctx.empresa, ctx.nombre);
+    const auto persona = datosPersona(ctx);
     Dinero total;
     if (persona)
         total = deduccionesDelMes(deduccionesDe(*persona, ctx.periodo, vars, &dialogo),

@@ -21,8 +21,8 @@ std::vector<std::string> aportesDeLicencia(double cantbfc, const std::string& ti
 IRPFLicencia irpfConAportesDeLicencia(ContextoFormula& ctx, Dinero montoirpf, Dinero montonominal,
                                       Dinero gravadoLicencia, common::Dialogo& dialogo) {
     if (!ctx.variables) throw common::Fallo(91, "Variable de objeto o bloque With no establecida");
-    auto& base = ctx.variables->base();
-    const auto persona = leerDatosPersona(base, ctx.empresa, ctx.nombre);
+    auto& base = baseDe(ctx);
+    const auto persona = datosPersona(ctx);
     const double cantbfc = persona ? persona->cantbfc : 0;
 
     IRPFLicencia r;

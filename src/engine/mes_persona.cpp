@@ -46,6 +46,7 @@ std::optional<MesPersona> BuscarVerif(store::Conexion& base, master::LectorVaria
     ctx.nombre = nombre;
     ctx.periodo = mes;
     ctx.variables = &variables;
+    ctx.base = &base;
     ctx.tipoaporte = mp.tipoaporte;
     ctx.personaLeida = ContextoFormula::PersonaLeida{empresa, nombre, mp.persona};
     cargarPersona(ctx, mp.persona);

@@ -11,6 +11,7 @@
 #include "engine/descuentos.h"
 #include "engine/explicacion.h"
 #include "engine/explicaciones.h"
+#include "engine/salario_vacacional.h"
 #include "engine/filas_persona.h"
 #include "engine/licencia_lector.h"
 #include "engine/primas_antiguedad.h"
@@ -237,6 +238,12 @@ std::optional<std::string> guardarRenglon(store::Conexion& base, MesPersona& mp,
     const auto nombre = common::mayusculas(c.concepto);
     const double total = common::textoANumero(textoTotal);
     store::Transaccion t(base);
+    std::string vacacional;
+    if (esConceptoLicencia(nombre))
+        if (const auto sv = CalculoSalarioVacacionalNew(
+                base, ctx, nombre, common::textoANumero(textoCant), Dinero::desdeDouble(total),
+                calculo.fechadesdelic, calculo.fechahastalic, dialogo))
+            vacacional = sv->explicacion;
     if (esConceptoLicencia(nombre) && mp.tiposueldo == "S") {
         // El mes paga el sueldo menos los días de licencia.
         const auto sueldo = Dinero::desdeDouble(ctx.sueldo - total);
@@ -264,6 +271,7 @@ std::optional<std::string> guardarRenglon(store::Conexion& base, MesPersona& mp,
     if (fila.total != calculo.total)
         explicacion += (explicacion.empty() ? "" : " ") + std::string("Total tecleado: ") +
                        pesos(fila.total) + ".";
+    if (!vacacional.empty()) explicacion += (explicacion.empty() ? "" : " ") + vacacional;
     guardarExplicacion(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, codigo,
                        explicacion);
     if (esConceptoHoras(nombre))

@@ -28,12 +28,12 @@ int numeroDeFallo(auto&& accion) {
 
 // El redondeo hecho todo sobre la forma decimal de 15 cifras, sin atajos.
 std::int64_t dzDecimal(double x) {
-    const Decimal d = descomponer(x);
+    const Decimal d = descomponerPorTexto(x);
     const auto v = std::stoll(escalarRedondeando(d, 4, Redondeo::MitadAlPar));
     return d.negativo ? -v : v;
 }
 
-TEST(Dinero, ElAtajoBinarioCoincideConLaFormaDecimal) {
+TEST(Dinero, LosAtajosBinariosCoincidenConLaFormaDecimal) {
     std::mt19937_64 azar(20261122);
     std::uniform_int_distribution<std::int64_t> cifras(-99999999999999, 99999999999999);
     std::uniform_int_distribution<int> escala(0, 12);
@@ -44,6 +44,10 @@ TEST(Dinero, ElAtajoBinarioCoincideConLaFormaDecimal) {
         for (const double v : {x, x + 0.00005, x - 0.00005, x / 3, x * 1e-6}) {
             if (std::fabs(v) >= 9e14) continue;
             ASSERT_EQ(dz(v), dzDecimal(v)) << std::setprecision(17) << v;
+            const auto rapida = descomponer(v), lenta = descomponerPorTexto(v);
+            ASSERT_EQ(rapida.cifras, lenta.cifras) << std::setprecision(17) << v;
+            ASSERT_EQ(rapida.enteras, lenta.enteras) << std::setprecision(17) << v;
+            ASSERT_EQ(rapida.negativo, lenta.negativo) << std::setprecision(17) << v;
         }
     }
 }

@@ -73,8 +73,8 @@ TEST_P(EmpresaMes, CancelarEntrePersonasYLasQueNoEstanEnElMes) {
     base->ejecuta("DELETE FROM habydesc");
     r = recorrerEmpresa(
         *base, "ACME", {2026, 3},
-        [&](const master::Persona& p) {
-            base->ejecuta(
+        [&](store::Conexion& c, const master::Persona& p) {
+            c.ejecuta(
                 "INSERT INTO habydesc (empresa, nombre, fecha, codigo) VALUES ('ACME', "
                 "?, '2026-03-01', 1)",
                 {p.nombre});

@@ -41,6 +41,20 @@ NOMIRA_PARA_CADA_MOTOR(Renglon);
 TEST_P(Renglon, DosLicenciasDeUnMensual) {
     persona("PEREZ, JUAN", {{"sueldo", "30000"}, {"tiposueldo", "S"}, {"fechaing", "2020-01-01"}});
     fila("PEREZ, JUAN", marzo, 1, "SUELDO", "Hab", 1, 30000);
+    concepto(606, "SALARIO VACACIONAL", "G", "", "Hab", "I", "No", "No", "No");
+    concepto(636, "SALARIO VACACIONAL 2DA ACT", "G", "", "Hab", "I", "No", "No", "No");
+    // El salario vacacional de cada licencia, en salvacacional: código, días,
+    // neto y período.
+    const auto vacacional = [&](long codigo) {
+        const auto r = base->consulta(
+            "SELECT cant, total, desdelic, hastalic FROM salvacacional WHERE codigo = ?",
+            {std::int64_t{codigo}});
+        return r.vacio() ? std::string("nada")
+                         : common::numeroATexto(r.primera().real("cant")) + " " +
+                               common::numeroATexto(r.primera().real("total")) + " " +
+                               r.primera().texto("desdelic") + " " +
+                               r.primera().texto("hastalic");
+    };
     const std::string periodo =
         "Período de Licencia (largo de fechas + el guión = 17)|Modifique las fechas desde y hasta.";
 
@@ -54,6 +68,9 @@ TEST_P(Renglon, DosLicenciasDeUnMensual) {
     EXPECT_EQ(total("PEREZ, JUAN", marzo, 20, nullptr, &cant), 10000);
     EXPECT_EQ(cant, 10);
     EXPECT_EQ(total("PEREZ, JUAN", marzo, 1), 20000);
+    // Gravado 30000 > 2.5 BPC (17160), sin cónyuge: SNIS 4.5 + MONTEPIO 15 +
+    // FRL 0.1 = 19.6%; 10000 x (1 - 0.196) = 8040.
+    EXPECT_EQ(vacacional(606), "10 8040 2026-03-01 2026-03-10");
 
     // Cinco días en la segunda actividad: pregunta por menos de 10; con Sí sigue.
     // El SUELDO se reescribe desde el sueldo de la ficha: 30000 - 5000.
@@ -67,6 +84,9 @@ TEST_P(Renglon, DosLicenciasDeUnMensual) {
                   periodo}));
     EXPECT_EQ(total("PEREZ, JUAN", marzo, 21), 5000);
     EXPECT_EQ(total("PEREZ, JUAN", marzo, 1), 25000);
+    // Gravado 20000 + 10000 de la primera: la misma escala; 5000 x 0.804 = 4020.
+    EXPECT_EQ(vacacional(636), "5 4020 2026-03-01 2026-03-10");
+    EXPECT_EQ(vacacional(606), "10 8040 2026-03-01 2026-03-10");
 
     // Con No no se calcula ni se guarda nada más.
     dialogo.respuestas = {false};

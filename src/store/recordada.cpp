@@ -1,0 +1,115 @@
+#include "store/recordada.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstring>
+
+namespace nomira::store {
+
+namespace {
+
+// La clave de una consulta: su texto y sus parámetros con su tipo, sin
+// ambigüedad entre un texto "1" y un entero 1.
+std::string clave(std::string_view sql, const std::vector<Valor>& parametros) {
+    std::string k(sql);
+    for (const auto& v : parametros) {
+        k += '\x1f';
+        k += static_cast<char>('0' + v.index());
+        if (const auto* s = std::get_if<std::string>(&v)) {
+            k += *s;
+        } else if (const auto* i = std::get_if<std::int64_t>(&v)) {
+            k += std::to_string(*i);
+        } else if (const auto* d = std::get_if<double>(&v)) {
+            char bytes[sizeof(double)];
+            std::memcpy(bytes, d, sizeof bytes);
+            k.append(bytes, sizeof bytes);
+        }
+    }
+    return k;
+}
+
+bool esPalabra(char c) {
+    return std::isalnum(static_cast<unsigned char>(c)) || c == '_';
+}
+
+}  // namespace
+
+std::vector<std::string> tablasDeLaSentencia(std::string_view sql) {
+    std::string texto(sql);
+    std::transform(texto.begin(), texto.end(), texto.begin(),
+                   [](unsigned char c) { return std::tolower(c); });
+    std::vector<std::string> palabras;
+    for (std::size_t i = 0; i < texto.size();) {
+        if (texto[i] == '\'') {  // un literal no nombra tablas
+            const auto fin = texto.find('\'', i + 1);
+            i = fin == std::string::npos ? texto.size() : fin + 1;
+        } else if (esPalabra(texto[i])) {
+            std::size_t j = i;
+            while (j < texto.size() && esPalabra(texto[j])) ++j;
+            palabras.push_back(texto.substr(i, j - i));
+            i = j;
+        } else {
+            ++i;
+        }
+    }
+    std::vector<std::string> tablas;
+    for (std::size_t i = 0; i + 1 < palabras.size(); ++i) {
+        const auto& p = palabras[i];
+        if (p != "from" && p != "join" && p != "into" && p != "update") continue;
+        const auto& t = palabras[i + 1];
+        if (t != "select" && std::find(tablas.begin(), tablas.end(), t) == tablas.end())
+            tablas.push_back(t);
+    }
+    return tablas;
+}
+
+Resultado ConexionRecordada::consulta(std::string_view sql, const std::vector<Valor>& parametros) {
+    auto k = clave(sql, parametros);
+    if (const auto it = memoria_.find(k); it != memoria_.end() && vigente(it->second)) {
+        ++recordadas_;
+        return it->second.resultado;
+    }
+    ++leidas_;
+    auto r = base_.consulta(sql, parametros);
+    const auto& tablas = tablasDe(sql);
+    if (!tablas.empty()) {
+        Recuerdo recuerdo{general_, {}, r};
+        for (const auto& t : tablas) recuerdo.tablas.emplace_back(t, generacion(t));
+        memoria_.insert_or_assign(std::move(k), std::move(recuerdo));
+    }
+    return r;
+}
+
+std::int64_t ConexionRecordada::ejecuta(std::string_view sql, const std::vector<Valor>& parametros) {
+    const auto& tablas = tablasDe(sql);
+    // DDL, SET y lo que no nombre tablas: se olvida todo.
+    if (tablas.empty()) ++general_;
+    for (const auto& t : tablas) ++generaciones_[t];
+    return base_.ejecuta(sql, parametros);
+}
+
+const std::vector<std::string>& ConexionRecordada::tablasDe(std::string_view sql) {
+    std::string texto(sql);
+    auto it = tablasPorTexto_.find(texto);
+    if (it == tablasPorTexto_.end())
+        it = tablasPorTexto_.emplace(std::move(texto), tablasDeLaSentencia(sql)).first;
+    return it->second;
+}
+
+void ConexionRecordada::deshacer() {
+    ++general_;
+    base_.deshacer();
+}
+
+std::uint64_t ConexionRecordada::generacion(const std::string& tabla) const {
+    const auto it = generaciones_.find(tabla);
+    return it == generaciones_.end() ? 0 : it->second;
+}
+
+bool ConexionRecordada::vigente(const Recuerdo& r) const {
+    if (r.general != general_) return false;
+    return std::all_of(r.tablas.begin(), r.tablas.end(),
+                       [&](const auto& t) { return generacion(t.first) == t.second; });
+}
+
+}  // namespace nomira::store

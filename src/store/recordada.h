@@ -1,0 +1,65 @@
+#pragma once
+// Una conexión que recuerda lo que leyó mientras dura una corrida larga (la
+// liquidación de toda una empresa): la misma consulta con los mismos
+// parámetros no vuelve a la base mientras nadie haya escrito, por esta misma
+// conexión, en alguna de las tablas que lee. Lo que se escribe pasa directo a
+// la base y hace olvidar lo leído de esas tablas; deshacer una transacción, o
+// una sentencia que no se reconoce, hace olvidar todo.
+//
+// Lo que otro proceso escriba durante la corrida no se ve hasta que la
+// conexión recordada se termina: la corrida trabaja sobre los conceptos, la
+// empresa y las personas como estaban al empezar.
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "store/conexion.h"
+
+namespace nomira::store {
+
+class ConexionRecordada : public Conexion {
+  public:
+    explicit ConexionRecordada(Conexion& base) : base_(base) {}
+
+    Motor motor() const override { return base_.motor(); }
+    const std::string& destino() const override { return base_.destino(); }
+    Resultado consulta(std::string_view sql, const std::vector<Valor>& parametros = {}) override;
+    std::int64_t ejecuta(std::string_view sql, const std::vector<Valor>& parametros = {}) override;
+    void comenzar() override { base_.comenzar(); }
+    void confirmar() override { base_.confirmar(); }
+    void deshacer() override;
+
+    // Cuántas consultas se respondieron de memoria y cuántas fueron a la base.
+    std::size_t recordadas() const { return recordadas_; }
+    std::size_t leidas() const { return leidas_; }
+
+  private:
+    // Cada escritura en una tabla sube su generación; un recuerdo vale mientras
+    // las tablas que leyó sigan en la generación en que las leyó. Olvidar todo
+    // es subir la generación general.
+    struct Recuerdo {
+        std::uint64_t general = 0;
+        std::vector<std::pair<std::string, std::uint64_t>> tablas;
+        Resultado resultado;
+    };
+    bool vigente(const Recuerdo& r) const;
+    // tablasDeLaSentencia, una vez por texto: son pocos y se repiten mucho.
+    const std::vector<std::string>& tablasDe(std::string_view sql);
+    std::uint64_t generacion(const std::string& tabla) const;
+
+    Conexion& base_;
+    std::unordered_map<std::string, Recuerdo> memoria_;
+    std::unordered_map<std::string, std::uint64_t> generaciones_;
+    std::unordered_map<std::string, std::vector<std::string>> tablasPorTexto_;
+    std::uint64_t general_ = 0;
+    std::size_t recordadas_ = 0, leidas_ = 0;
+};
+
+// Las tablas que nombra una sentencia: las que siguen a FROM, JOIN, INTO y
+// UPDATE, en minúsculas y sin repetir. Vacío si no nombra ninguna.
+std::vector<std::string> tablasDeLaSentencia(std::string_view sql);
+
+}  // namespace nomira::store
