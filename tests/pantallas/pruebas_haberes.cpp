@@ -410,6 +410,34 @@ TEST_F(PantallaHaberes, TodaLaEmpresaConSuAvanceYDetener) {
     QObject::disconnect(c);
 }
 
+TEST_F(PantallaHaberes, UnFalloDiceEnQueProcedimientoSeCorto) {
+    persona("A, UNO", "1", "10000", "2020-01-01");
+    persona("B, DOS", "2", "0", "2020-01-01");
+    // Un haber permanente que divide por el sueldo: con sueldo 0 falla.
+    sql("INSERT INTO conceptos (codigo, concepto, especificode, formula, tipo, unidad, "
+        "permanente, gravado, aguinaldo, lic, ipd) VALUES (99, 'PRIMA', 'G', '1000/[SUELDO]', "
+        "'Hab', 'I', 'Si', 'Si', 'No', 'No', 'Si')");
+    abrir("Form42");
+    teclear("Combo1", "ACME");
+    pulsar("ActHabPermxEmpresa");
+    ASSERT_FALSE(dialogo.mensajes.empty());
+    EXPECT_EQ(dialogo.ultimoMensaje().rfind("Error inesperado 11 en ActHamPermxEmpresa_Click del "
+                                            "Form42 \n",
+                                            0),
+              0u)
+        << dialogo.ultimoMensaje();
+    EXPECT_EQ(filas("nombre = 'A, UNO'"), 3);  // la primera persona quedó entera
+    EXPECT_EQ(filas("nombre = 'B, DOS'"), 0);
+    EXPECT_TRUE(w<QPushButton>("HabPerm")->isEnabled());  // la pantalla vuelve a estar a mano
+
+    teclear("Text1", "0226");
+    teclear("Combo2", "B, DOS");
+    pulsar("HabPerm");
+    EXPECT_EQ(dialogo.ultimoMensaje().rfind("Error inesperado 11 en HabPerm_Click del Form42", 0),
+              0u)
+        << dialogo.ultimoMensaje();
+}
+
 TEST_F(PantallaHaberes, ControlHLaAbreYF10AbreLosConceptos) {
     ventana::VentanaPrincipal principal(sesion);
     principal.show();

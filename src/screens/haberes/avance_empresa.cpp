@@ -9,7 +9,7 @@ AvanceEmpresa::AvanceEmpresa(QWidget* padre)
     : QWidget(padre),
       barra_(new QProgressBar),
       persona_(new QLabel),
-      detener_(new QPushButton("Detener")) {
+      detener_(new QPushButton("De&tener")) {
     barra_->setObjectName("avance");
     barra_->setFormat("%v de %m");
     barra_->setRange(0, 1);

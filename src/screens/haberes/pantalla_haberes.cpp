@@ -215,15 +215,15 @@ QLayout* PantallaHaberes::armarGeneraciones() {
     auto* marco = new QGroupBox("Haberes y descuentos permanentes");
     auto* botones = new QGridLayout(marco);
     const std::tuple<const char*, const char*, void (PantallaHaberes::*)()> kBotones[] = {
-        {"HabPerm", "Hab. Perm.", &PantallaHaberes::HabPerm_Click},
-        {"HabPerm2", "Elim. Hab. Perm.", &PantallaHaberes::HabPerm2_Click},
-        {"DescPerm", "Desc. Perm.", &PantallaHaberes::DescPerm_Click},
-        {"DescPerm2", "Elim. Desc. Perm.", &PantallaHaberes::DescPerm2_Click},
-        {"ActHabPermxEmpresa", "Act. Hab. Perm. x Empresa",
+        {"HabPerm", "&Hab. Perm.", &PantallaHaberes::HabPerm_Click},
+        {"HabPerm2", "E&lim. Hab. Perm.", &PantallaHaberes::HabPerm2_Click},
+        {"DescPerm", "&Desc. Perm.", &PantallaHaberes::DescPerm_Click},
+        {"DescPerm2", "Eli&m. Desc. Perm.", &PantallaHaberes::DescPerm2_Click},
+        {"ActHabPermxEmpresa", "Act. Hab. Perm. x &Empresa",
          &PantallaHaberes::ActHamPermxEmpresa_Click},
-        {"ActDesPermxEmpresa", "Act. Des. Perm. x Empresa",
+        {"ActDesPermxEmpresa", "Act. Des. Perm. x Empre&sa",
          &PantallaHaberes::ActDesPermxEmpresa_Click},
-        {"ComoSeCalculo", "¿Cómo se calculó?", &PantallaHaberes::ComoSeCalculo},
+        {"ComoSeCalculo", "¿&Cómo se calculó?", &PantallaHaberes::ComoSeCalculo},
     };
     int i = 0;
     for (const auto& [nombre, texto, accion] : kBotones) {
