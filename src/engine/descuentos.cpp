@@ -240,6 +240,7 @@ ResultadoEmpresa ActDesPermxEmpresa(store::Conexion& base, master::LectorVariabl
             return r;
         }
         ContextoFormula ctx;
+        ctx.personaLeida = ContextoFormula::PersonaLeida{empresa, p.nombre, p};
         auto mp = BuscarVerif(base, variables, empresa, p.nombre, mes, ctx, dialogo);
         if (!mp) return r;
         // Sin haberes no hay descuentos.

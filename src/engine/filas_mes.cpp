@@ -73,25 +73,56 @@ bool hayEgresos(store::Conexion& base, const std::string& empresa, const std::st
                 .vacio();
 }
 
-void escribirFila(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
-                  const std::string& nombre, const common::Mes& mes, const FilaGenerada& f) {
+namespace {
+
+// UPDATE por código (sólo si `probar`) y, si no cambió nada, INSERT.
+void escribir(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
+              const std::string& nombre, const common::Mes& mes, const FilaGenerada& f,
+              bool probar) {
     if (tabla == TablaLiquidacion::Aguinaldos)
         throw common::Fallo(5, "Las filas de aguinaldos no se escriben aquí");
     const std::string t = nombreTabla(tabla);
     const std::string fecha = mes.primerDia().iso();
     const std::int64_t codigo = f.codigo;
-    const auto cambiadas = base.ejecuta(
-        "UPDATE " + t +
-            " SET concepto = ?, unidad = ?, cant = ?, total = ? WHERE empresa = ? AND nombre = ? "
-            "AND fecha = ? AND codigo = ?",
-        {f.concepto, f.unidad, f.cant, f.total.aDouble(), empresa, nombre, fecha, codigo});
-    if (cambiadas > 0) return;
+    if (probar &&
+        base.ejecuta(
+            "UPDATE " + t +
+                " SET concepto = ?, unidad = ?, cant = ?, total = ? WHERE empresa = ? AND "
+                "nombre = ? AND fecha = ? AND codigo = ?",
+            {f.concepto, f.unidad, f.cant, f.total.aDouble(), empresa, nombre, fecha, codigo}) > 0)
+        return;
     base.ejecuta("INSERT INTO " + t +
                      " (empresa, nombre, fecha, codigo, concepto, tipo, unidad, permanente, "
                      "gravado, aguinaldo, cant, total, lic, ipd) VALUES (?, ?, ?, ?, ?, ?, ?, ?, "
                      "?, ?, ?, ?, ?, ?)",
                  {empresa, nombre, fecha, codigo, f.concepto, f.tipo, f.unidad, f.permanente,
                   f.gravado, f.aguinaldo, f.cant, f.total.aDouble(), f.lic, f.ipd});
+}
+
+}  // namespace
+
+void escribirFila(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
+                  const std::string& nombre, const common::Mes& mes, const FilaGenerada& f) {
+    escribir(base, tabla, empresa, nombre, mes, f, true);
+}
+
+std::set<long> codigosDelMes(store::Conexion& base, TablaLiquidacion tabla,
+                             const std::string& empresa, const std::string& nombre,
+                             const common::Mes& mes) {
+    std::set<long> codigos;
+    for (const auto& f : base.consulta("SELECT codigo FROM " + std::string(nombreTabla(tabla)) +
+                                           " WHERE empresa = ? AND nombre = ? AND fecha = ?",
+                                       {empresa, nombre, mes.primerDia().iso()})
+                             .filas)
+        codigos.insert(static_cast<long>(f.entero("codigo")));
+    return codigos;
+}
+
+void escribirFila(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
+                  const std::string& nombre, const common::Mes& mes, const FilaGenerada& f,
+                  std::set<long>& codigos) {
+    escribir(base, tabla, empresa, nombre, mes, f, codigos.count(f.codigo) > 0);
+    codigos.insert(f.codigo);
 }
 
 bool empiezaCon(const std::string& texto, const char* prefijo) {

@@ -2,6 +2,7 @@
 // Las filas ya liquidadas de una persona que leen los aportes y el IRPF:
 // habydesc, egresos y aguinaldos por mes o por tramo de meses, y salvacacional.
 // También la escritura de una fila generada (UPDATE por código o INSERT).
+#include <set>
 #include <string>
 #include <vector>
 
@@ -61,6 +62,15 @@ struct FilaGenerada {
 // concepto, unidad, cant y total; si no, la inserta con las catorce columnas.
 void escribirFila(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
                   const std::string& nombre, const common::Mes& mes, const FilaGenerada& fila);
+
+// Lo mismo sabiendo qué códigos tiene ya el mes (leídos una vez con
+// codigosDelMes y llevados al día aquí): un código nuevo va directo al INSERT.
+std::set<long> codigosDelMes(store::Conexion& base, TablaLiquidacion tabla,
+                             const std::string& empresa, const std::string& nombre,
+                             const common::Mes& mes);
+void escribirFila(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
+                  const std::string& nombre, const common::Mes& mes, const FilaGenerada& fila,
+                  std::set<long>& codigos);
 
 // --- Sumas por prefijo del texto de la fila ---
 

@@ -53,7 +53,7 @@ std::string explicarFormula(const ContextoFormula& ctx) {
 
 // La fila de DIASNOTRABAJADOS de un ingreso a mitad de mes.
 void escribirDiasNoTrabajados(store::Conexion& base, const MesPersona& mp, double sueldo, int dias,
-                              ResultadoPersona& r) {
+                              std::set<long>& codigos, ResultadoPersona& r) {
     const auto c = conceptoPorNombre(base, "DIASNOTRABAJADOS");
     if (!c) return;
     FilaLiquidada fl{filaDeConcepto(*c, "Hab"), ""};
@@ -62,7 +62,8 @@ void escribirDiasNoTrabajados(store::Conexion& base, const MesPersona& mp, doubl
     fl.explicacion = "Ingreso el " + mp.persona.fechaing + ": " + std::to_string(dias) +
                      " días sin trabajar, -(" + pesos(sueldo) + " / 30 x " + std::to_string(dias) +
                      ") = " + pesos(fl.fila.total) + ".";
-    escribirFila(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, fl.fila);
+    escribirFila(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, fl.fila,
+                 codigos);
     r.filas.push_back(std::move(fl));
 }
 
@@ -75,20 +76,28 @@ std::vector<master::Concepto> conceptosPermanentes(store::Conexion& base, const 
         if (auto c = conceptoPorNombre(base, "SUELDO FICTO")) lista.push_back(std::move(*c));
         return lista;
     }
-    // El LEFT JOIN repite un concepto por cada fila de concpermxpers que lo
-    // nombra (de cualquier persona): se toma una vez, la primera.
-    const auto r = base.consulta(
-        "SELECT conceptos.* FROM conceptos LEFT JOIN concpermxpers ON conceptos.codigo = "
-        "concpermxpers.codigo WHERE (concpermxpers.empresa = ? AND concpermxpers.nombre = ? AND "
-        "concpermxpers.tipo = 'Hab') OR ((conceptos.especificode = ? OR conceptos.especificode = "
-        "'G') AND conceptos.tipo = 'Hab' AND conceptos.permanente = 'Si') ORDER BY "
-        "conceptos.codigo",
-        {mp.empresa, mp.nombre, mp.tiposueldo});
+    // Los permanentes de todos (o de su tipo de sueldo) más los que concpermxpers
+    // le da a la persona, por código y cada código una vez. La primera consulta
+    // es la misma para todos los de un tipo de sueldo: en la corrida de la
+    // empresa se lee una vez.
+    const auto generales = base.consulta(
+        "SELECT * FROM conceptos WHERE (especificode = ? OR especificode = 'G') AND tipo = 'Hab' "
+        "AND permanente = 'Si' ORDER BY codigo",
+        {mp.tiposueldo});
+    const auto propios = base.consulta(
+        "SELECT conceptos.* FROM conceptos JOIN concpermxpers ON conceptos.codigo = "
+        "concpermxpers.codigo WHERE concpermxpers.empresa = ? AND concpermxpers.nombre = ? AND "
+        "concpermxpers.tipo = 'Hab' ORDER BY conceptos.codigo",
+        {mp.empresa, mp.nombre});
     std::set<std::string> vistos;
-    for (const auto& f : r.filas) {
-        auto c = master::leerRegistro(f, master::camposConcepto());
-        if (vistos.insert(c.codigo).second) lista.push_back(std::move(c));
-    }
+    for (const auto* r : {&generales, &propios})
+        for (const auto& f : r->filas) {
+            auto c = master::leerRegistro(f, master::camposConcepto());
+            if (vistos.insert(c.codigo).second) lista.push_back(std::move(c));
+        }
+    std::stable_sort(lista.begin(), lista.end(), [](const auto& a, const auto& b) {
+        return common::textoANumero(a.codigo) < common::textoANumero(b.codigo);
+    });
     return lista;
 }
 
@@ -147,6 +156,7 @@ ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula&
     if (borradas > 0 || opciones.calculoCant) refrescarDesglose(base, mp, ctx);
 
     const auto& cs = mp.consejo;
+    auto codigos = codigosDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes);
     for (const auto& c : conceptosPermanentes(base, mp, ctx.cantbfc)) {
         ctx.cantarchivo = 0;
         ctx.importearchivo = {};
@@ -178,7 +188,7 @@ ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula&
                 expl += " Con licencia: " + detalle;
             } else if (nombre == "SUELDO") {
                 if (const int dias = diasNoTrabajados(mp.persona.fechaing, mp.mes); dias > 0)
-                    escribirDiasNoTrabajados(base, mp, ctx.total, dias, r);
+                    escribirDiasNoTrabajados(base, mp, ctx.total, dias, codigos, r);
             }
         } else if (nombre == "SUELDO FICTO" && ctx.cantbfc != 30) {
             const auto mayor = mayorSueldoDeLaEmpresa(base, mp.empresa, mp.mes);
@@ -194,7 +204,8 @@ ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula&
         fl.fila.cant = cant;
         fl.fila.total = total;
         fl.explicacion = std::move(expl);
-        escribirFila(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, fl.fila);
+        escribirFila(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, fl.fila,
+                     codigos);
         r.filas.push_back(std::move(fl));
     }
     guardarExplicaciones(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, r.filas);
@@ -232,6 +243,7 @@ ResultadoEmpresa ActHamPermxEmpresa(store::Conexion& base, const std::string& em
     master::LectorVariables variables(base);
     const auto porPersona = [&](store::Conexion& base, const master::Persona& p) {
         ContextoFormula ctx;
+        ctx.personaLeida = ContextoFormula::PersonaLeida{empresa, p.nombre, p};
         auto mp = BuscarVerif(base, variables, empresa, p.nombre, mes, ctx, dialogo);
         if (!mp) return ResultadoPersona{empresa, p.nombre, mes, false, "", {}};
         return HabPerm(base, *mp, ctx, dialogo, opciones);

@@ -24,7 +24,13 @@ std::optional<MesPersona> BuscarVerif(store::Conexion& base, master::LectorVaria
         dialogo.avisar(common::TipoAviso::Advertencia, kSinEmpresa);
         return std::nullopt;
     }
-    auto p = master::leerPersona(base, empresa, nombre);
+    // La persona que el contexto ya trae (la corrida de la empresa la leyó con
+    // todas las demás) no se vuelve a leer.
+    ctx.empresa = empresa;
+    ctx.nombre = nombre;
+    ctx.base = &base;
+    ctx.variables = &variables;
+    auto p = personaDelContexto(ctx);
     if (!p) {
         dialogo.avisar(common::TipoAviso::Advertencia, kSinPersona);
         return std::nullopt;
@@ -42,11 +48,7 @@ std::optional<MesPersona> BuscarVerif(store::Conexion& base, master::LectorVaria
     mp.bpc = variables.valor("BPC");
     mp.consejo = consejoDeLaEmpresa(base, empresa);
 
-    ctx.empresa = empresa;
-    ctx.nombre = nombre;
     ctx.periodo = mes;
-    ctx.variables = &variables;
-    ctx.base = &base;
     ctx.tipoaporte = mp.tipoaporte;
     ctx.personaLeida = ContextoFormula::PersonaLeida{empresa, nombre, mp.persona};
     cargarPersona(ctx, mp.persona);

@@ -37,7 +37,8 @@ struct MesPersona {
 // BuscarVerif: la empresa (tipoaporte, consejo) y la persona (sueldo, tiposueldo,
 // htrab, cantbfc, sueldo2, sueldo3), y la base del mes (Desglose) volcada en ctx.
 // ctx queda con empresa, nombre, periodo y variables. Sin empresa o sin persona
-// avisa con el mensaje de la pantalla y devuelve nada.
+// avisa con el mensaje de la pantalla y devuelve nada. Si ctx ya trae leída esa
+// persona (personaLeida) no se la vuelve a leer: un contexto nuevo la lee.
 std::optional<MesPersona> BuscarVerif(store::Conexion& base, master::LectorVariables& variables,
                                       const std::string& empresa, const std::string& nombre,
                                       const common::Mes& mes, ContextoFormula& ctx,
