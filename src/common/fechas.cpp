@@ -71,7 +71,16 @@ std::optional<Fecha> Fecha::desdeTexto(std::string_view t) {
 }
 
 std::string Fecha::iso() const {
-    return fmt::format("{:04}-{:02}-{:02}", anio, mes, dia);
+    // A mano y no con format: cada consulta de un mes arma una.
+    if (anio < 0 || anio > 9999) return fmt::format("{:04}-{:02}-{:02}", anio, mes, dia);
+    std::string s = "0000-00-00";
+    const auto cifras = [&](std::size_t fin, int n, int ancho) {
+        for (int i = 0; i < ancho; ++i, n /= 10) s[fin - i] = static_cast<char>('0' + n % 10);
+    };
+    cifras(3, anio, 4);
+    cifras(6, mes, 2);
+    cifras(9, dia, 2);
+    return s;
 }
 
 std::string Fecha::ddmmyy() const {

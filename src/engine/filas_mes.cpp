@@ -34,17 +34,21 @@ std::vector<FilaMes> leerFilas(store::Conexion& base, TablaLiquidacion tabla,
                     nombreTabla(tabla)) +
         " WHERE empresa = ? AND nombre = ? AND fecha >= ? AND fecha <= ?" +
         (agui ? "" : " ORDER BY codigo");
+    // Por posición, la de la lista del SELECT: se leen muchas veces por persona.
+    // aguinaldos: concepto, tipo, total; las otras: codigo, concepto, tipo,
+    // gravado, ipd, total.
+    const std::size_t c = agui ? 0 : 1;
     std::vector<FilaMes> filas;
     for (const auto& f : base.consulta(sql, claves(empresa, nombre, desde, hasta)).filas) {
         FilaMes m;
         if (!agui) {
-            m.codigo = static_cast<long>(f.entero("codigo"));
-            m.gravado = f.texto("gravado");
-            m.ipd = f.texto("ipd");
+            m.codigo = static_cast<long>(f.entero(std::size_t{0}));
+            m.gravado = f.texto(std::size_t{3});
+            m.ipd = f.texto(std::size_t{4});
         }
-        m.concepto = f.texto("concepto");
-        m.tipo = f.texto("tipo");
-        m.total = common::Dinero::desdeDouble(f.real("total"));
+        m.concepto = f.texto(c);
+        m.tipo = f.texto(c + 1);
+        m.total = common::Dinero::desdeDouble(f.real(agui ? std::size_t{2} : std::size_t{5}));
         filas.push_back(std::move(m));
     }
     return filas;
