@@ -9,7 +9,9 @@
 #include "common/reloj.h"
 #include "engine/descuentos.h"
 #include "engine/explicacion.h"
+#include "engine/explicaciones.h"
 #include "engine/haberes.h"
+#include "engine/mes_en_pantalla.h"
 #include "engine/renglon.h"
 
 namespace nomira::cli {
@@ -79,26 +81,25 @@ int liquidacion(const Contexto& ctx, const OpcionesLiquidacion& o) {
     engine::ContextoFormula c;
     const auto mp = engine::BuscarVerif(*base, variables, o.empresa, o.nombre, *mes, c, dialogo);
     if (!mp) return 1;
-    const auto filas = base->consulta(
-        "SELECT codigo, concepto, tipo, cant, total FROM habydesc WHERE empresa = ? AND nombre = ? "
-        "AND fecha = ? ORDER BY tipo DESC, codigo",
-        {o.empresa, o.nombre, mes->primerDia().iso()});
-    common::Dinero totaldes;
-    for (const auto& f : filas.filas) {
-        const auto total = common::Dinero::desdeDouble(f.real("total"));
-        if (f.texto("tipo") == "Des") totaldes = totaldes + total;
-        std::cout << f.texto("codigo") << " | " << f.texto("concepto") << " | " << f.texto("tipo")
-                  << " | " << common::numeroATexto(f.real("cant")) << " | " << engine::pesos(total)
-                  << '\n';
+    // Los haberes primero, como las dos grillas.
+    auto filas = engine::filasParaGrillas(*base, o.empresa, o.nombre, *mes);
+    std::stable_partition(filas.begin(), filas.end(), [](const auto& f) { return f.tipo == "Hab"; });
+    for (const auto& f : filas) {
+        std::cout << f.codigo << " | " << f.concepto << " | " << f.tipo << " | "
+                  << common::numeroATexto(f.cant) << " | " << engine::pesos(f.total) << '\n';
+        if (!o.explicar) continue;
+        const auto texto = engine::leerExplicacion(*base, engine::TablaLiquidacion::Habydesc,
+                                                   o.empresa, o.nombre, *mes, f.codigo);
+        if (!texto.empty()) std::cout << "    " << texto << '\n';
     }
     const auto& d = mp->desglose;
-    const common::Dinero aCobrar = std::max(common::Dinero{}, d.totalhab - totaldes);
-    std::cout << "T.Haberes: " << engine::pesos(d.totalhab) << '\n'
-              << "Total Descuentos: " << engine::pesos(totaldes) << '\n'
-              << "Líquido Neto: " << engine::pesos(d.liquido.liquidoneto) << '\n'
-              << "Líquido a Cobrar: " << engine::pesos(aCobrar) << '\n'
-              << "M.Irpf: " << engine::pesos(d.montoirpf) << '\n'
-              << "M.Dedu.: " << engine::pesos(d.montonominal) << '\n';
+    const auto cifras = engine::cifrasDelMes(d, filas);
+    std::cout << "T.Haberes: " << engine::pesos(cifras.totalhab) << '\n'
+              << "Total Descuentos: " << engine::pesos(cifras.totaldes) << '\n'
+              << "Líquido Neto: " << engine::pesos(cifras.liquidoneto) << '\n'
+              << "Líquido a Cobrar: " << engine::pesos(cifras.aCobrar) << '\n'
+              << "M.Irpf: " << engine::pesos(cifras.montoirpf) << '\n'
+              << "M.Dedu.: " << engine::pesos(cifras.montodedu) << '\n';
     if (o.explicar) std::cout << d.explicacion << '\n' << d.liquido.explicacion << '\n';
     return 0;
 }
