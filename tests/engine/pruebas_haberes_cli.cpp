@@ -47,6 +47,14 @@ TEST(OrdenHaberes, EmpresaPersonaYDesglose) {
               "M.Irpf: 13,333.33\n"
               "M.Dedu.: 13,333.33\n");
 
+    // Con --explicar cada fila dice cómo se llegó a su importe, aun en otra corrida.
+    s = pruebas::cli(b + "liquidacion --empresa ACME --nombre 'GOMEZ, ANA' --mes 02/26 --explicar");
+    for (const char* linea : {"1 | SUELDO | Hab | 1 | 20,000.00\n    Fórmula [SUELDO] = 20000 con "
+                              "cantidad 1: 20,000.00.\n",
+                              "    Ingreso el 2026-02-11: 10 días sin trabajar, -(20,000.00 / 30 x "
+                              "10) = -6,666.67.\n"})
+        EXPECT_NE(s.texto.find(linea), std::string::npos) << linea << s.texto;
+
     s = pruebas::cli(b + "--no borrar --empresa ACME --nombre 'GOMEZ, ANA' --mes 02/26 --haberes");
     EXPECT_EQ(s.estado, 0);
     EXPECT_EQ(s.texto.find("filas borradas"), std::string::npos) << s.texto;
