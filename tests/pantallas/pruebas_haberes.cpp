@@ -20,6 +20,7 @@
 #include "frame/ventana/ventana_principal.h"
 #include "master/variables.h"
 #include "pantallas/apoyo_pantallas.h"
+#include "screens/haberes/textos_haberes.h"
 
 using namespace nomira;
 
@@ -458,6 +459,19 @@ TEST_F(PantallaHaberes, ControlHLaAbreYF10AbreLosConceptos) {
     // F8, F9 y F12 esperan a sus pantallas.
     for (const char* b : {"Imp.", "Copiar", "Validar"})
         EXPECT_FALSE(form42->findChild<QPushButton*>(b)->isEnabled()) << b;
+}
+
+TEST(TextosHaberes, ObservacionesPorMesYTituloDelMes) {
+    using pantallas::observacionDelMes;
+    // Sin mes entre corchetes se muestran siempre; con mes, sólo en ese mes.
+    EXPECT_EQ(observacionDelMes("  Embargo vigente ", "02/26"), "Embargo vigente");
+    EXPECT_EQ(observacionDelMes("Cobra por banco [02/26]", "02/26"), "Cobra por banco");
+    EXPECT_EQ(observacionDelMes("[03/26] Cobra por banco", "02/26"), std::nullopt);
+    // Sólo el mes, o nada: no hay cuadro.
+    EXPECT_EQ(observacionDelMes("[02/26]", "02/26"), std::nullopt);
+    EXPECT_EQ(observacionDelMes("", "02/26"), std::nullopt);
+    EXPECT_EQ(pantallas::tituloMesLiquidado({2026, 9}),
+              "La fecha corresponde a la liquidación de SETIEMBRE/26");
 }
 
 }  // namespace

@@ -87,6 +87,7 @@ bool PantallaHaberes::Text1_Enter() {
             mes_->clear();
             return;
         }
+        irpf_->limpiar();
         CargarNombredelPersonal();
         if (!nombre().empty() && BuscarVerif()) Consultar_Click();
         sigue = true;
