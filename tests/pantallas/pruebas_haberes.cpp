@@ -148,14 +148,19 @@ TEST_F(PantallaHaberes, UnMesEnteroDesdeElTeclado) {
     EXPECT_EQ(texto("Text6"), "1500");
     EXPECT_FALSE(w<QPushButton>("Agregar")->isEnabled());
     EXPECT_TRUE(w<QPushButton>("Modificar")->isEnabled());
+    // F6 guarda el total cambiado.
+    w("Text6")->setText("1400");
+    tecla(Qt::Key_F6);
+    EXPECT_EQ(columna("MSFlexGrid1", 4).back(), "1,400.00");
+    EXPECT_EQ(texto("Text2"), "");
 
     pulsar("DescPerm");
     EXPECT_EQ(columna("MSFlexGrid2", 0), (std::vector<std::string>{"701", "702", "703", "705"}));
     // TRANSPORTE no es gravado: 30000 x 15%, 4.5% y 0.10%; sin IRPF bajo 7 BPC.
-    EXPECT_EQ(texto("Text8"), "31,500.00");
+    EXPECT_EQ(texto("Text8"), "31,400.00");
     EXPECT_EQ(texto("Text9"), "5,880.00");
-    EXPECT_EQ(texto("Text10"), "25,620.00");
-    EXPECT_EQ(texto("Text11"), "25,620.00");
+    EXPECT_EQ(texto("Text10"), "25,520.00");
+    EXPECT_EQ(texto("Text11"), "25,520.00");
     // Las mismas cifras que el motor, leídas por su cuenta.
     EXPECT_EQ(texto("Text8"), pesos(sumaTipo("PEREZ, JUAN", "Hab")));
     EXPECT_EQ(texto("Text9"), pesos(sumaTipo("PEREZ, JUAN", "Des")));
@@ -170,8 +175,16 @@ TEST_F(PantallaHaberes, UnMesEnteroDesdeElTeclado) {
     EXPECT_EQ(texto("Text13"), pesos(mp->desglose.montoirpf.aDouble()));
     EXPECT_EQ(texto("Text18"), pesos(mp->desglose.montonominal.aDouble()));
     // El recuadro del IRPF quedó con la base del mes de la fila IRPF.
-    EXPECT_EQ(texto("Text14"), "31,500.00");
+    EXPECT_EQ(texto("Text14"), "31,400.00");
     EXPECT_EQ(texto("Text21"), "0.00");
+
+    // Un descuento tecleado que no es legal baja lo que se cobra, no el líquido neto.
+    teclear("Text2", "713");
+    teclear("Text5", "1");
+    teclear("Text6", "1000");
+    EXPECT_EQ(texto("Text9"), "6,880.00");
+    EXPECT_EQ(texto("Text10"), "25,520.00");
+    EXPECT_EQ(texto("Text11"), "24,520.00");
 
     // Con descuentos no entra un haber: el aviso, nada escrito, la fila limpia.
     teclear("Text2", "57");
@@ -200,13 +213,13 @@ TEST_F(PantallaHaberes, UnMesEnteroDesdeElTeclado) {
     tecla(Qt::Key_F7);
     EXPECT_EQ(dialogo.preguntas.back(), "Eliminar Concepto|¿Desea continuar?");
     EXPECT_EQ(filas("codigo = 701"), 0);
-    EXPECT_EQ(texto("Text9"), "1,380.00");
+    EXPECT_EQ(texto("Text9"), "2,380.00");
 
     // Borrar los descuentos del mes pregunta con su título; con No quedan.
     dialogo.respuestas = {false};
     pulsar("DescPerm2");
     EXPECT_EQ(dialogo.preguntas.back(), "Eliminar Desc.Perm.|¿Desea continuar?");
-    EXPECT_EQ(filas("tipo = 'Des'"), 3);
+    EXPECT_EQ(filas("tipo = 'Des'"), 4);
     pulsar("DescPerm2");
     EXPECT_EQ(filas("tipo = 'Des'"), 0);
     EXPECT_TRUE(columna("MSFlexGrid2", 0).empty());
