@@ -199,13 +199,20 @@ TEST_F(PantallaHaberes, UnMesEnteroDesdeElTeclado) {
     EXPECT_TRUE(w("Text2")->hasFocus());
     EXPECT_FALSE(w<QPushButton>("Agregar")->isEnabled());
 
-    // Cómo se calculó el SUELDO: la fila elegida en la grilla.
-    elegirFila("MSFlexGrid1", 0);
-    EXPECT_EQ(texto("Text2"), "1");
-    pulsar("ComoSeCalculo");
+    // Cómo se calculó el SUELDO: la fila en mano, con Alt+C.
+    teclear("Text2", "1");
+    QTest::keyClick(w("Text5"), Qt::Key_C, Qt::AltModifier);
+    QTest::qWait(300);  // el botón se suelta al rato, como con el ratón
     EXPECT_EQ(dialogo.mensajes.back().titulo, "¿Cómo se calculó?");
     EXPECT_EQ(dialogo.ultimoMensaje().rfind("SUELDO: ", 0), 0u) << dialogo.ultimoMensaje();
     EXPECT_GT(dialogo.ultimoMensaje().size(), std::string("SUELDO: ").size());
+    // La fila tecleada también guarda cómo se llegó a su importe; una grilla la trae.
+    elegirFila("MSFlexGrid2", 4);
+    EXPECT_EQ(texto("Text2"), "713");
+    pulsar("ComoSeCalculo");
+    EXPECT_EQ(dialogo.ultimoMensaje().rfind("TICKETS ALIMENTACION: ", 0), 0u)
+        << dialogo.ultimoMensaje();
+    EXPECT_NE(dialogo.ultimoMensaje().find("Total tecleado: 1,000.00."), std::string::npos);
 
     // F7 sobre un descuento elegido: pregunta y lo borra; las cifras lo siguen.
     elegirFila("MSFlexGrid2", 0);

@@ -166,15 +166,20 @@ void PantallaHaberes::mostrarIRPF(const std::string& concepto) {
 
 void PantallaHaberes::ComoSeCalculo() {
     intentar("ComoSeCalculo_Click", [this] {
-        auto* grilla = ultimaGrilla_;
-        if (!mp_ || !grilla || grilla->elegida(0).empty())
+        // La fila en mano, o la elegida en una grilla.
+        std::string codigo = s(codigo_), concepto = s(concepto_);
+        if (codigo.empty() && ultimaGrilla_) {
+            codigo = ultimaGrilla_->elegida(0);
+            concepto = ultimaGrilla_->elegida(1);
+        }
+        if (!mp_ || codigo.empty())
             return advertir("Debe elegir una fila de Haberes o de Descuentos.");
         const auto explicacion =
             engine::leerExplicacion(base(), engine::TablaLiquidacion::Habydesc, mp_->empresa,
-                                    mp_->nombre, mp_->mes, numero(grilla->elegida(0)));
-        const std::string texto = explicacion.empty() ? "La fila " + grilla->elegida(1) +
-                                                            " no tiene explicación guardada."
-                                                      : grilla->elegida(1) + ": " + explicacion;
+                                    mp_->nombre, mp_->mes, numero(codigo));
+        const std::string texto = explicacion.empty()
+                                      ? "La fila " + concepto + " no tiene explicación guardada."
+                                      : concepto + ": " + explicacion;
         dialogo().avisar(common::TipoAviso::Informacion, "¿Cómo se calculó?", texto);
     });
 }
