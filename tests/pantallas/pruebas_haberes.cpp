@@ -71,9 +71,9 @@ class PantallaHaberes : public pruebas::PantallaAbierta {
     // La empresa, el mes y la persona, como los escribe el empleado.
     void abrirMes(const QString& mes, const QString& nombre) {
         abrir("Form42");
-        teclear("Combo1", "ACME");
-        teclear("Text1", mes);
-        teclear("Combo2", nombre);
+        teclear("empresa", "ACME");
+        teclear("mes", mes);
+        teclear("nombre", nombre);
     }
 
     // La columna de una grilla, fila por fila.
@@ -115,112 +115,112 @@ class PantallaHaberes : public pruebas::PantallaAbierta {
 TEST_F(PantallaHaberes, UnMesEnteroDesdeElTeclado) {
     persona("PEREZ, JUAN", "1", "30000", "2020-01-01");
     abrirMes("0226", "PEREZ, JUAN");
-    EXPECT_EQ(texto("Text1"), "02/26");      // la barra llega sola
+    EXPECT_EQ(texto("mes"), "02/26");      // la barra llega sola
     EXPECT_TRUE(dialogo.preguntas.empty());  // es el mes anterior: nada que preguntar
-    EXPECT_EQ(texto("Text12"), "1");
-    EXPECT_TRUE(w("Text2")->hasFocus());
+    EXPECT_EQ(texto("nrofun"), "1");
+    EXPECT_TRUE(w("codigo")->hasFocus());
     EXPECT_FALSE(w<QPushButton>("Agregar")->isEnabled());
 
     pulsar("HabPerm");
-    EXPECT_EQ(columna("MSFlexGrid1", 1), (std::vector<std::string>{"SUELDO", "ANTIGUEDAD"}));
-    EXPECT_EQ(texto("Text8"), "30,000.00");
+    EXPECT_EQ(columna("haberes", 1), (std::vector<std::string>{"SUELDO", "ANTIGUEDAD"}));
+    EXPECT_EQ(texto("totalhab"), "30,000.00");
 
     // Una fila tecleada: Enter en el código la busca (nueva: Agregar), en la
     // cantidad la calcula (fórmula 0) y en el total la guarda.
-    teclear("Text2", "58");
-    EXPECT_EQ(texto("Text3"), "TRANSPORTE");
+    teclear("codigo", "58");
+    EXPECT_EQ(texto("concepto"), "TRANSPORTE");
     EXPECT_TRUE(w<QPushButton>("Agregar")->isEnabled());
     EXPECT_FALSE(w<QPushButton>("Modificar")->isEnabled());
-    EXPECT_TRUE(w("Text5")->hasFocus());
-    teclear("Text5", "1");
-    EXPECT_EQ(texto("Text6"), "0");
-    EXPECT_TRUE(w("Text6")->hasFocus());
-    teclear("Text6", "1500");
-    EXPECT_EQ(texto("Text2"), "");
-    EXPECT_TRUE(w("Text2")->hasFocus());
+    EXPECT_TRUE(w("cant")->hasFocus());
+    teclear("cant", "1");
+    EXPECT_EQ(texto("total"), "0");
+    EXPECT_TRUE(w("total")->hasFocus());
+    teclear("total", "1500");
+    EXPECT_EQ(texto("codigo"), "");
+    EXPECT_TRUE(w("codigo")->hasFocus());
     EXPECT_FALSE(w<QPushButton>("Agregar")->isEnabled());
-    EXPECT_EQ(columna("MSFlexGrid1", 4),
+    EXPECT_EQ(columna("haberes", 4),
               (std::vector<std::string>{"30,000.00", "0.00", "1,500.00"}));
 
     // Por el nombre: la fila ya está, así que queda para Modificar con lo guardado.
-    teclear("Text3", "transp");
-    EXPECT_EQ(texto("Text2"), "58");
-    EXPECT_EQ(texto("Text6"), "1500");
+    teclear("concepto", "transp");
+    EXPECT_EQ(texto("codigo"), "58");
+    EXPECT_EQ(texto("total"), "1500");
     EXPECT_FALSE(w<QPushButton>("Agregar")->isEnabled());
     EXPECT_TRUE(w<QPushButton>("Modificar")->isEnabled());
     // F6 guarda el total cambiado.
-    w("Text6")->setText("1400");
+    w("total")->setText("1400");
     tecla(Qt::Key_F6);
-    EXPECT_EQ(columna("MSFlexGrid1", 4).back(), "1,400.00");
-    EXPECT_EQ(texto("Text2"), "");
+    EXPECT_EQ(columna("haberes", 4).back(), "1,400.00");
+    EXPECT_EQ(texto("codigo"), "");
 
     pulsar("DescPerm");
-    EXPECT_EQ(columna("MSFlexGrid2", 0), (std::vector<std::string>{"701", "702", "703", "705"}));
+    EXPECT_EQ(columna("descuentos", 0), (std::vector<std::string>{"701", "702", "703", "705"}));
     // TRANSPORTE no es gravado: 30000 x 15%, 4.5% y 0.10%; sin IRPF bajo 7 BPC.
-    EXPECT_EQ(texto("Text8"), "31,400.00");
-    EXPECT_EQ(texto("Text9"), "5,880.00");
-    EXPECT_EQ(texto("Text10"), "25,520.00");
-    EXPECT_EQ(texto("Text11"), "25,520.00");
+    EXPECT_EQ(texto("totalhab"), "31,400.00");
+    EXPECT_EQ(texto("totaldes"), "5,880.00");
+    EXPECT_EQ(texto("liquidoneto"), "25,520.00");
+    EXPECT_EQ(texto("liquidoacobrar"), "25,520.00");
     // Las mismas cifras que el motor, leídas por su cuenta.
-    EXPECT_EQ(texto("Text8"), pesos(sumaTipo("PEREZ, JUAN", "Hab")));
-    EXPECT_EQ(texto("Text9"), pesos(sumaTipo("PEREZ, JUAN", "Des")));
+    EXPECT_EQ(texto("totalhab"), pesos(sumaTipo("PEREZ, JUAN", "Hab")));
+    EXPECT_EQ(texto("totaldes"), pesos(sumaTipo("PEREZ, JUAN", "Des")));
     const auto liquido = engine::CalculoLiquidoNeto(*sesion.base, "ACME", "PEREZ, JUAN", febrero,
                                                     engine::opcionesLiquidoForm42());
-    EXPECT_EQ(texto("Text10"), pesos(liquido.liquidoneto.aDouble()));
+    EXPECT_EQ(texto("liquidoneto"), pesos(liquido.liquidoneto.aDouble()));
     master::LectorVariables variables(*sesion.base);
     engine::ContextoFormula ctx;
     const auto mp =
         engine::BuscarVerif(*sesion.base, variables, "ACME", "PEREZ, JUAN", febrero, ctx, dialogo);
     ASSERT_TRUE(mp);
-    EXPECT_EQ(texto("Text13"), pesos(mp->desglose.montoirpf.aDouble()));
-    EXPECT_EQ(texto("Text18"), pesos(mp->desglose.montonominal.aDouble()));
+    EXPECT_EQ(texto("montoirpf"), pesos(mp->desglose.montoirpf.aDouble()));
+    EXPECT_EQ(texto("montodedu"), pesos(mp->desglose.montonominal.aDouble()));
     // El recuadro del IRPF quedó con la base del mes de la fila IRPF.
-    EXPECT_EQ(texto("Text14"), "31,400.00");
-    EXPECT_EQ(texto("Text21"), "0.00");
+    EXPECT_EQ(texto("totalinggravirpf"), "31,400.00");
+    EXPECT_EQ(texto("totalirpfmes"), "0.00");
 
     // Un descuento tecleado que no es legal baja lo que se cobra, no el líquido neto.
-    teclear("Text2", "713");
-    teclear("Text5", "1");
-    teclear("Text6", "1000");
-    EXPECT_EQ(texto("Text9"), "6,880.00");
-    EXPECT_EQ(texto("Text10"), "25,520.00");
-    EXPECT_EQ(texto("Text11"), "24,520.00");
+    teclear("codigo", "713");
+    teclear("cant", "1");
+    teclear("total", "1000");
+    EXPECT_EQ(texto("totaldes"), "6,880.00");
+    EXPECT_EQ(texto("liquidoneto"), "25,520.00");
+    EXPECT_EQ(texto("liquidoacobrar"), "24,520.00");
 
     // Con descuentos no entra un haber: el aviso, nada escrito, la fila limpia.
-    teclear("Text2", "57");
-    teclear("Text5", "1");
-    teclear("Text6", "200");
+    teclear("codigo", "57");
+    teclear("cant", "1");
+    teclear("total", "200");
     EXPECT_EQ(dialogo.ultimoMensaje(),
               "Ya hay Descuentos ingresados, para Agregar un Haber deberá eliminar todos los "
               "Descuentos o usar el botón Reliq. por retro.");
     EXPECT_EQ(dialogo.mensajes.back().titulo, "Mensaje de advertencia");
     EXPECT_EQ(filas("codigo = 57"), 0);
-    EXPECT_EQ(texto("Text2"), "");
-    EXPECT_TRUE(w("Text2")->hasFocus());
+    EXPECT_EQ(texto("codigo"), "");
+    EXPECT_TRUE(w("codigo")->hasFocus());
     EXPECT_FALSE(w<QPushButton>("Agregar")->isEnabled());
 
     // Cómo se calculó el SUELDO: la fila en mano, con Alt+C.
-    teclear("Text2", "1");
-    QTest::keyClick(w("Text5"), Qt::Key_C, Qt::AltModifier);
+    teclear("codigo", "1");
+    QTest::keyClick(w("cant"), Qt::Key_C, Qt::AltModifier);
     QTest::qWait(300);  // el botón se suelta al rato, como con el ratón
     EXPECT_EQ(dialogo.mensajes.back().titulo, "¿Cómo se calculó?");
     EXPECT_EQ(dialogo.ultimoMensaje().rfind("SUELDO: ", 0), 0u) << dialogo.ultimoMensaje();
     EXPECT_GT(dialogo.ultimoMensaje().size(), std::string("SUELDO: ").size());
     // La fila tecleada también guarda cómo se llegó a su importe; una grilla la trae.
-    elegirFila("MSFlexGrid2", 4);
-    EXPECT_EQ(texto("Text2"), "713");
+    elegirFila("descuentos", 4);
+    EXPECT_EQ(texto("codigo"), "713");
     pulsar("ComoSeCalculo");
     EXPECT_EQ(dialogo.ultimoMensaje().rfind("TICKETS ALIMENTACION: ", 0), 0u)
         << dialogo.ultimoMensaje();
     EXPECT_NE(dialogo.ultimoMensaje().find("Total tecleado: 1,000.00."), std::string::npos);
 
     // F7 sobre un descuento elegido: pregunta y lo borra; las cifras lo siguen.
-    elegirFila("MSFlexGrid2", 0);
+    elegirFila("descuentos", 0);
     EXPECT_TRUE(w<QPushButton>("Eliminar")->isEnabled());
     tecla(Qt::Key_F7);
     EXPECT_EQ(dialogo.preguntas.back(), "Eliminar Concepto|¿Desea continuar?");
     EXPECT_EQ(filas("codigo = 701"), 0);
-    EXPECT_EQ(texto("Text9"), "2,380.00");
+    EXPECT_EQ(texto("totaldes"), "2,380.00");
 
     // Borrar los descuentos del mes pregunta con su título; con No quedan.
     dialogo.respuestas = {false};
@@ -229,8 +229,8 @@ TEST_F(PantallaHaberes, UnMesEnteroDesdeElTeclado) {
     EXPECT_EQ(filas("tipo = 'Des'"), 4);
     pulsar("DescPerm2");
     EXPECT_EQ(filas("tipo = 'Des'"), 0);
-    EXPECT_TRUE(columna("MSFlexGrid2", 0).empty());
-    EXPECT_EQ(texto("Text9"), "0.00");
+    EXPECT_TRUE(columna("descuentos", 0).empty());
+    EXPECT_EQ(texto("totaldes"), "0.00");
 }
 
 TEST_F(PantallaHaberes, LicenciaConSusPreguntasYElPeriodo) {
@@ -245,25 +245,25 @@ TEST_F(PantallaHaberes, LicenciaConSusPreguntasYElPeriodo) {
         "hasta.";
 
     // Cinco días: la pregunta por menos de 10; con No no se calcula nada.
-    teclear("Text2", "30");
+    teclear("codigo", "30");
     dialogo.respuestas = {false};
-    teclear("Text5", "5");
+    teclear("cant", "5");
     EXPECT_EQ(dialogo.preguntas, std::vector<std::string>{menosDe10});
-    EXPECT_TRUE(w("Text5")->hasFocus());
+    EXPECT_TRUE(w("cant")->hasFocus());
     EXPECT_EQ(filas("codigo = 30"), 0);
 
     // Con Sí pide el período (el propuesto) y la fila se guarda con el Enter del total.
     dialogo.preguntas.clear();
-    teclear("Text5", "5");
+    teclear("cant", "5");
     EXPECT_EQ(dialogo.preguntas, (std::vector<std::string>{menosDe10, periodo}));
-    EXPECT_EQ(texto("Text6"), "5000");  // 30000 / 30 x 5
-    teclear("Text6", "5000");
+    EXPECT_EQ(texto("total"), "5000");  // 30000 / 30 x 5
+    teclear("total", "5000");
     EXPECT_EQ(filas("codigo = 30 AND cant = 5"), 1);
     EXPECT_EQ(sumaTipo("GOMEZ, ANA", "Hab"), 30000);  // SUELDO 25000 + LICENCIA 5000
 
     // Cero días: el aviso.
-    teclear("Text2", "30");
-    teclear("Text5", "0");
+    teclear("codigo", "30");
+    teclear("cant", "0");
     EXPECT_EQ(dialogo.ultimoMensaje(), "La cantidad de días de licencia no puede ser cero.");
 }
 
@@ -276,42 +276,42 @@ TEST_F(PantallaHaberes, DiciembreMuestraElCierreDelAnio) {
             "'Si')",
             {common::Mes{2025, m}.primerDia().iso()});
     abrir("Form42");
-    teclear("Combo1", "ACME");
-    teclear("Text1", "1225");  // Sí a la pregunta del mes
-    teclear("Combo2", "ROSSI, ANA");
+    teclear("empresa", "ACME");
+    teclear("mes", "1225");  // Sí a la pregunta del mes
+    teclear("nombre", "ROSSI, ANA");
     pulsar("HabPerm");
     auto* detalle = pantalla->findChild<QWidget*>("detalleAnio");
     ASSERT_NE(detalle, nullptr);
     EXPECT_FALSE(detalle->isVisible());
 
     // La fila IRPF tecleada en diciembre: el detalle del año con lo de la fila.
-    teclear("Text2", "705");
-    teclear("Text5", "");
+    teclear("codigo", "705");
+    teclear("cant", "");
     EXPECT_TRUE(detalle->isVisible());
     EXPECT_EQ(texto("inggrav"), "1,440,000.00");  // doce meses de 120000
-    EXPECT_EQ(texto("Text21"), pesos(w("Text6")->text().toDouble()));
-    EXPECT_NE(texto("Text21"), "0.00");  // el año pasa la franja sin impuesto
+    EXPECT_EQ(texto("totalirpfmes"), pesos(w("total")->text().toDouble()));
+    EXPECT_NE(texto("totalirpfmes"), "0.00");  // el año pasa la franja sin impuesto
 
     // Otra persona limpia el recuadro; F2 relee lo que otra PC escribió.
-    teclear("Combo2", "ROSSI, ANA");
+    teclear("nombre", "ROSSI, ANA");
     EXPECT_FALSE(detalle->isVisible());
-    EXPECT_EQ(texto("Text21"), "");
+    EXPECT_EQ(texto("totalirpfmes"), "");
     sql("INSERT INTO habydesc (empresa, nombre, fecha, codigo, concepto, tipo, cant, total) "
         "VALUES ('ACME', 'ROSSI, ANA', '2025-12-01', 58, 'TRANSPORTE', 'Hab', 1, 700)");
     tecla(Qt::Key_F2);
-    EXPECT_EQ(columna("MSFlexGrid1", 1).back(), "TRANSPORTE");
-    EXPECT_EQ(texto("Text8"), "120,700.00");
+    EXPECT_EQ(columna("haberes", 1).back(), "TRANSPORTE");
+    EXPECT_EQ(texto("totalhab"), "120,700.00");
 }
 
 TEST_F(PantallaHaberes, ElMesQueNoEsElAnteriorSePregunta) {
     persona("PEREZ, JUAN", "1", "30000", "2020-01-01");
     persona("NUEVO, LUIS", "2", "20000", "2026-01-10");
     abrir("Form42");
-    teclear("Combo1", "ACME");
-    EXPECT_TRUE(w("Text1")->hasFocus());  // Enter pasa de la empresa al mes
+    teclear("empresa", "ACME");
+    EXPECT_TRUE(w("mes")->hasFocus());  // Enter pasa de la empresa al mes
 
     // Forma equivocada: el aviso y nada más.
-    teclear("Text1", "1326");
+    teclear("mes", "1326");
     EXPECT_EQ(dialogo.ultimoMensaje(),
               "Debe completar los campos Empresa, Nombre del Personal y la FMesCargo debe tener "
               "el formato: MM/aa.");
@@ -319,20 +319,20 @@ TEST_F(PantallaHaberes, ElMesQueNoEsElAnteriorSePregunta) {
 
     // Diciembre no es el anterior: con No el mes se borra y el foco se queda.
     dialogo.respuestas = {false};
-    teclear("Text1", "1225");
+    teclear("mes", "1225");
     EXPECT_EQ(dialogo.preguntas.back(),
               "La fecha corresponde a la liquidación de DICIEMBRE/25|¿Desea continuar?");
-    EXPECT_EQ(texto("Text1"), "");
-    EXPECT_TRUE(w("Text1")->hasFocus());
+    EXPECT_EQ(texto("mes"), "");
+    EXPECT_TRUE(w("mes")->hasFocus());
 
     // Con Sí la lista de personas es la de diciembre: el que entró en enero no está.
-    teclear("Text1", "1225");
-    auto* nombres = w<QComboBox>("Combo2");
+    teclear("mes", "1225");
+    auto* nombres = w<QComboBox>("nombre");
     EXPECT_GE(nombres->findText("PEREZ, JUAN"), 1);
     EXPECT_EQ(nombres->findText("NUEVO, LUIS"), -1);
     EXPECT_TRUE(nombres->hasFocus());
     dialogo.preguntas.clear();
-    teclear("Text1", "0226");
+    teclear("mes", "0226");
     EXPECT_TRUE(dialogo.preguntas.empty());
     EXPECT_GE(nombres->findText("NUEVO, LUIS"), 1);
 }
@@ -345,38 +345,38 @@ TEST_F(PantallaHaberes, AnteriorYSiguienteSoloEntreActivos) {
     persona("CINCO, E", "5", "1000", "2020-01-01", "", "[02/26] Cobra por banco desde este mes.");
     persona("SEIS, F", "6", "1000", "2020-01-01", "", "[01/26] Ya no cobra horas extras.");
     abrirMes("0226", "UNO, A");
-    EXPECT_EQ(texto("Text12"), "1");
+    EXPECT_EQ(texto("nrofun"), "1");
     dialogo.mensajes.clear();
 
     // El 2 egresó, el 3 trabaja en su segunda actividad desde mayo, el 4 no existe.
     pulsar("Prox");
-    EXPECT_EQ(w<QComboBox>("Combo2")->currentText(), "CINCO, E");
-    EXPECT_EQ(texto("Text12"), "5");
+    EXPECT_EQ(w<QComboBox>("nombre")->currentText(), "CINCO, E");
+    EXPECT_EQ(texto("nrofun"), "5");
     ASSERT_EQ(dialogo.mensajes.size(), 1u);  // sus observaciones son de este mes
     EXPECT_EQ(dialogo.ultimoMensaje(), "Cobra por banco desde este mes.");
     EXPECT_EQ(dialogo.mensajes.back().titulo, "Mensaje de información");
     pulsar("Prox");
-    EXPECT_EQ(texto("Text12"), "6");
+    EXPECT_EQ(texto("nrofun"), "6");
     EXPECT_EQ(dialogo.mensajes.size(), 1u);  // las del 6 son de enero
     pulsar("Prox");
-    EXPECT_EQ(texto("Text12"), "6");  // no hay más
+    EXPECT_EQ(texto("nrofun"), "6");  // no hay más
     pulsar("Ant");
     pulsar("Ant");
-    EXPECT_EQ(w<QComboBox>("Combo2")->currentText(), "UNO, A");
+    EXPECT_EQ(w<QComboBox>("nombre")->currentText(), "UNO, A");
     // La lista del mes no trae a quien egresó.
-    EXPECT_EQ(w<QComboBox>("Combo2")->findText("DOS, B"), -1);
+    EXPECT_EQ(w<QComboBox>("nombre")->findText("DOS, B"), -1);
 
     // Por número: uno que no existe.
-    teclear("Text12", "4");
-    EXPECT_EQ(w<QComboBox>("Combo2")->currentText(), "NO EXISTE");
+    teclear("nrofun", "4");
+    EXPECT_EQ(w<QComboBox>("nombre")->currentText(), "NO EXISTE");
     EXPECT_EQ(dialogo.ultimoMensaje(),
               "El Nombre del Personal no existe en esta Empresa, deberá 1ero ingresarlo en la "
               "ventana Personal.");
-    teclear("Text12", "3");
-    EXPECT_EQ(w<QComboBox>("Combo2")->currentText(), "TRES, C");
-    w("Text12")->clear();
-    w<QComboBox>("Combo1")->setCurrentText("");
-    teclear("Text12", "3");
+    teclear("nrofun", "3");
+    EXPECT_EQ(w<QComboBox>("nombre")->currentText(), "TRES, C");
+    w("nrofun")->clear();
+    w<QComboBox>("empresa")->setCurrentText("");
+    teclear("nrofun", "3");
     EXPECT_EQ(dialogo.ultimoMensaje(), "Debe completar los campos Empresa y Nro Fun.");
 }
 
@@ -385,13 +385,13 @@ TEST_F(PantallaHaberes, TodaLaEmpresaConSuAvanceYDetener) {
     persona("B, DOS", "2", "20000", "2020-01-01");
     persona("C, TRES", "3", "30000", "2020-01-01");
     abrir("Form42");
-    teclear("Combo1", "ACME");
+    teclear("empresa", "ACME");
     // Sólo la empresa: con el mes escrito no corre.
-    w("Text1")->setText("02/26");
+    w("mes")->setText("02/26");
     pulsar("ActHabPermxEmpresa");
     EXPECT_EQ(dialogo.ultimoMensaje(), "Debe completar solamente el campo Empresa.");
     EXPECT_EQ(filas("1 = 1"), 0);
-    w("Text1")->clear();
+    w("mes")->clear();
 
     // Detener durante la primera persona: ella queda, las demás no.
     auto* avance = w<QProgressBar>("avance");
@@ -419,7 +419,7 @@ TEST_F(PantallaHaberes, TodaLaEmpresaConSuAvanceYDetener) {
     vistos.clear();
     c = QObject::connect(avance, &QProgressBar::valueChanged, [&](int v) { vistos.push_back(v); });
     // Alt+E es "Act. Hab. Perm. x &Empresa"; el botón se suelta al rato, como con el ratón.
-    QTest::keyClick(w("Text2"), Qt::Key_E, Qt::AltModifier);
+    QTest::keyClick(w("codigo"), Qt::Key_E, Qt::AltModifier);
     QTest::qWait(300);
     EXPECT_EQ(vistos, (std::vector<int>{0, 1, 2, 3}));  // la barra vuelve a empezar
     EXPECT_EQ(dialogo.ultimoMensaje(), "Actualización finalizada.");
@@ -441,7 +441,7 @@ TEST_F(PantallaHaberes, UnFalloDiceEnQueProcedimientoSeCorto) {
         "permanente, gravado, aguinaldo, lic, ipd) VALUES (99, 'PRIMA', 'G', '1000/[SUELDO]', "
         "'Hab', 'I', 'Si', 'Si', 'No', 'No', 'Si')");
     abrir("Form42");
-    teclear("Combo1", "ACME");
+    teclear("empresa", "ACME");
     pulsar("ActHabPermxEmpresa");
     ASSERT_FALSE(dialogo.mensajes.empty());
     EXPECT_EQ(dialogo.ultimoMensaje().rfind("Error inesperado 11 en ActHamPermxEmpresa_Click del "
@@ -453,8 +453,8 @@ TEST_F(PantallaHaberes, UnFalloDiceEnQueProcedimientoSeCorto) {
     EXPECT_EQ(filas("nombre = 'B, DOS'"), 0);
     EXPECT_TRUE(w<QPushButton>("HabPerm")->isEnabled());  // la pantalla vuelve a estar a mano
 
-    teclear("Text1", "0226");
-    teclear("Combo2", "B, DOS");
+    teclear("mes", "0226");
+    teclear("nombre", "B, DOS");
     pulsar("HabPerm");
     EXPECT_EQ(dialogo.ultimoMensaje().rfind("Error inesperado 11 en HabPerm_Click del Form42", 0),
               0u)
@@ -474,7 +474,7 @@ TEST_F(PantallaHaberes, ControlHLaAbreYF10AbreLosConceptos) {
     ASSERT_NE(form42, nullptr);
     EXPECT_EQ(form42->windowTitle(), "Haberes y Descuentos");
     QApplication::setActiveWindow(form42);
-    QTest::keyClick(form42->findChild<QLineEdit*>("Text2"), Qt::Key_F10);
+    QTest::keyClick(form42->findChild<QLineEdit*>("codigo"), Qt::Key_F10);
     EXPECT_NE(form42->findChild<QWidget*>("Form4"), nullptr);
     // F8, F9 y F12 esperan a sus pantallas.
     for (const char* b : {"Imp.", "Copiar", "Validar"})

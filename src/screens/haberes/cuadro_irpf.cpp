@@ -15,15 +15,15 @@ struct Casilla {
 };
 
 // Las del mes y, aparte, las del cierre del año.
-constexpr Casilla kMes[] = {{"Text14", "totalinggravirpf"},
-                            {"Text22", "montonominal"},
-                            {"Text15", "totalmontoded."},
-                            {"Text16", "totalirpf"},
-                            {"Text17", "totaldeducciones"},
-                            {"Text20", "- irpf"},
-                            {"Text21", "total"}};
+constexpr Casilla kMes[] = {{"totalinggravirpf", "totalinggravirpf"},
+                            {"montonominal", "montonominal"},
+                            {"totalmontoded", "totalmontoded."},
+                            {"totalirpf", "totalirpf"},
+                            {"totaldeducciones", "totaldeducciones"},
+                            {"menosirpf", "- irpf"},
+                            {"totalirpfmes", "total"}};
 constexpr Casilla kAnio[] = {
-    {"inggrav", "inggrav año"}, {"ingbase", "ingbase año"}, {"Text19", "irpf ag. y vac."}};
+    {"inggrav", "inggrav año"}, {"ingbase", "ingbase año"}, {"irpfagvac", "irpf ag. y vac."}};
 
 void poner(QGridLayout* capa, QWidget* dueno, const Casilla& c, int fila, int columna) {
     auto* caja = new QLineEdit(dueno);
@@ -76,13 +76,13 @@ void CuadroIRPF::limpiar() {
 void CuadroIRPF::mostrarMes(const engine::ResultadoIRPF& r, common::Dinero montoirpf,
                             common::Dinero montonominal) {
     limpiar();
-    casilla("Text14")->setText(pesos(montoirpf));
-    casilla("Text22")->setText(pesos(montonominal));
-    casilla("Text15")->setText(pesos(r.totalmontoded));
-    casilla("Text16")->setText(pesos(r.irpfbruto));
-    casilla("Text17")->setText(pesos(r.credito));
-    casilla("Text20")->setText(pesos(r.restadoAguinaldo + r.irpfsalvac));
-    casilla("Text21")->setText(pesos(r.total));
+    casilla("totalinggravirpf")->setText(pesos(montoirpf));
+    casilla("montonominal")->setText(pesos(montonominal));
+    casilla("totalmontoded")->setText(pesos(r.totalmontoded));
+    casilla("totalirpf")->setText(pesos(r.irpfbruto));
+    casilla("totaldeducciones")->setText(pesos(r.credito));
+    casilla("menosirpf")->setText(pesos(r.restadoAguinaldo + r.irpfsalvac));
+    casilla("totalirpfmes")->setText(pesos(r.total));
 }
 
 void CuadroIRPF::mostrarDiciembre(const engine::ResultadoIRPFDic& r) {
@@ -90,13 +90,13 @@ void CuadroIRPF::mostrarDiciembre(const engine::ResultadoIRPFDic& r) {
     detalleAnio_->show();
     casilla("inggrav")->setText(pesos(r.inggrav));
     casilla("ingbase")->setText(pesos(r.ingbase));
-    casilla("Text19")->setText(pesos(r.irpfag));
-    casilla("Text14")->setText(pesos(r.inggrav));
-    casilla("Text15")->setText(pesos(r.totalmontoded));
-    casilla("Text16")->setText(pesos(r.escala));
-    casilla("Text17")->setText(pesos(r.credito));
-    casilla("Text20")->setText(pesos(r.retenido));
-    casilla("Text21")->setText(pesos(r.total));
+    casilla("irpfagvac")->setText(pesos(r.irpfag));
+    casilla("totalinggravirpf")->setText(pesos(r.inggrav));
+    casilla("totalmontoded")->setText(pesos(r.totalmontoded));
+    casilla("totalirpf")->setText(pesos(r.escala));
+    casilla("totaldeducciones")->setText(pesos(r.credito));
+    casilla("menosirpf")->setText(pesos(r.retenido));
+    casilla("totalirpfmes")->setText(pesos(r.total));
 }
 
 }  // namespace nomira::pantallas

@@ -77,7 +77,7 @@ void PantallaHaberes::olvidarMes() {
     for (auto& [nombre, c] : cifras_) c->clear();
 }
 
-bool PantallaHaberes::Text1_Enter() {
+bool PantallaHaberes::mesEnter() {
     bool sigue = false;
     intentar("Text1_KeyPress", [&] {
         const auto texto = mes_->text().trimmed().toStdString();
@@ -106,7 +106,7 @@ void PantallaHaberes::elegirPersona() {
     });
 }
 
-bool PantallaHaberes::Text12_Enter() {
+bool PantallaHaberes::nrofunEnter() {
     intentar("Text12_KeyPress", [this] {
         const auto numero = nrofun_->text().trimmed().toStdString();
         if (empresa().empty() || numero.empty()) return advertir(kFaltaNroFun);
@@ -150,12 +150,12 @@ void PantallaHaberes::Consultar_Click() {
         desplegar(haberes_, filas, "Hab");
         desplegar(descuentos_, filas, "Des");
         const auto c = engine::cifrasDelMes(mp_->desglose, filas);
-        for (auto [nombre, importe] : {std::pair{"Text8", c.totalhab},
-                                       {"Text9", c.totaldes},
-                                       {"Text10", c.liquidoneto},
-                                       {"Text11", c.aCobrar},
-                                       {"Text13", c.montoirpf},
-                                       {"Text18", c.montodedu}})
+        for (auto [nombre, importe] : {std::pair{"totalhab", c.totalhab},
+                                       {"totaldes", c.totaldes},
+                                       {"liquidoneto", c.liquidoneto},
+                                       {"liquidoacobrar", c.aCobrar},
+                                       {"montoirpf", c.montoirpf},
+                                       {"montodedu", c.montodedu}})
             cifras_.at(nombre)->setText(q(pesos(importe)));
     });
 }

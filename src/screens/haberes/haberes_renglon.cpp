@@ -84,7 +84,7 @@ bool PantallaHaberes::Descripcion_Click() {
     return false;
 }
 
-bool PantallaHaberes::Text5_Enter() {
+bool PantallaHaberes::cantEnter() {
     intentar("Text5_KeyPress", [this] {
         if (!mp_ || !buscado_) return advertir(kFaltaCodigo);
         calculo_ =
@@ -101,7 +101,7 @@ bool PantallaHaberes::Text5_Enter() {
     return false;
 }
 
-bool PantallaHaberes::Text6_Enter() {
+bool PantallaHaberes::totalEnter() {
     if (boton("Agregar")->isEnabled())
         Agregar_Click();
     else if (boton("Modificar")->isEnabled())

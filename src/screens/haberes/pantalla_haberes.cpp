@@ -59,9 +59,9 @@ void PantallaHaberes::armar() {
     todo->addLayout(armarRenglon());
 
     haberes_ = new ventana::Grilla;
-    haberes_->setObjectName("MSFlexGrid1");
+    haberes_->setObjectName("haberes");
     descuentos_ = new ventana::Grilla;
-    descuentos_->setObjectName("MSFlexGrid2");
+    descuentos_->setObjectName("descuentos");
     auto* grillas = new QHBoxLayout;
     for (auto [grilla, titulo] : {std::pair{haberes_, "Haberes"}, {descuentos_, "Descuentos"}}) {
         auto* marco = new QGroupBox(titulo);
@@ -116,11 +116,11 @@ void PantallaHaberes::armar() {
 }
 
 QLayout* PantallaHaberes::armarCabecera() {
-    empresa_ = combo("Combo1");
-    nombre_ = combo("Combo2");
+    empresa_ = combo("empresa");
+    nombre_ = combo("nombre");
     mes_ = new ventana::CampoFecha(nullptr, ventana::FormaFecha::Mes);
-    mes_->setObjectName("Text1");
-    nrofun_ = campo("Text12", 6);
+    mes_->setObjectName("mes");
+    nrofun_ = campo("nrofun", 6);
     auto* ant = botonSuelto("Ant", "< &Ant");
     auto* prox = botonSuelto("Prox", "&Prox >");
     auto* reliq = botonSuelto("Reliq", "Reliq por retro.");
@@ -137,8 +137,8 @@ QLayout* PantallaHaberes::armarCabecera() {
         codigo_->setFocus();
         return false;
     });
-    alPulsarEnter(mes_, [this] { return Text1_Enter(); });
-    alPulsarEnter(nrofun_, [this] { return Text12_Enter(); });
+    alPulsarEnter(mes_, [this] { return mesEnter(); });
+    alPulsarEnter(nrofun_, [this] { return nrofunEnter(); });
     connect(ant, &QPushButton::clicked, this, [this] { moverPersona(-1); });
     connect(prox, &QPushButton::clicked, this, [this] { moverPersona(+1); });
 
@@ -162,19 +162,19 @@ QLayout* PantallaHaberes::armarCabecera() {
 }
 
 QLayout* PantallaHaberes::armarRenglon() {
-    codigo_ = campo("Text2", 6);
+    codigo_ = campo("codigo", 6);
     concepto_ = new QLineEdit;
-    concepto_->setObjectName("Text3");
-    unidad_ = campo("Text4", 3);
+    concepto_->setObjectName("concepto");
+    unidad_ = campo("unidad", 3);
     unidad_->setReadOnly(true);
     unidad_->setFocusPolicy(Qt::NoFocus);
-    cant_ = campo("Text5", 10);
-    total_ = campo("Text6", 14);
+    cant_ = campo("cant", 10);
+    total_ = campo("total", 14);
     for (auto* c : {cant_, total_}) c->setAlignment(Qt::AlignRight);
     alPulsarEnter(codigo_, [this] { return Buscar_Click(); });
     alPulsarEnter(concepto_, [this] { return Descripcion_Click(); });
-    alPulsarEnter(cant_, [this] { return Text5_Enter(); });
-    alPulsarEnter(total_, [this] { return Text6_Enter(); });
+    alPulsarEnter(cant_, [this] { return cantEnter(); });
+    alPulsarEnter(total_, [this] { return totalEnter(); });
 
     auto* capa = new QGridLayout;
     int columna = 0;
@@ -192,12 +192,12 @@ QLayout* PantallaHaberes::armarRenglon() {
 
 QLayout* PantallaHaberes::armarCifras() {
     auto* capa = new QHBoxLayout;
-    for (auto [nombre, rotulo] : {std::pair{"Text8", "T.Haberes"},
-                                  {"Text9", "Total Descuentos"},
-                                  {"Text10", "Líquido Neto"},
-                                  {"Text11", "Líquido a Cobrar"},
-                                  {"Text13", "M.Irpf"},
-                                  {"Text18", "M.Dedu."}}) {
+    for (auto [nombre, rotulo] : {std::pair{"totalhab", "T.Haberes"},
+                                  {"totaldes", "Total Descuentos"},
+                                  {"liquidoneto", "Líquido Neto"},
+                                  {"liquidoacobrar", "Líquido a Cobrar"},
+                                  {"montoirpf", "M.Irpf"},
+                                  {"montodedu", "M.Dedu."}}) {
         auto* c = campo(nombre, 12);
         c->setReadOnly(true);
         c->setFocusPolicy(Qt::NoFocus);

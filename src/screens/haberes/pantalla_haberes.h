@@ -46,9 +46,9 @@ class PantallaHaberes : public ventana::Pantalla {
     std::string nombre() const;
     std::optional<common::Mes> mes() const;
     void CargarNombredelPersonal();
-    bool Text1_Enter();
+    bool mesEnter();
     void elegirPersona();
-    bool Text12_Enter();
+    bool nrofunEnter();
     void moverPersona(int paso);
     bool BuscarVerif();
     void Consultar_Click();
@@ -59,8 +59,8 @@ class PantallaHaberes : public ventana::Pantalla {
     // La fila en mano.
     bool Buscar_Click();
     bool Descripcion_Click();
-    bool Text5_Enter();
-    bool Text6_Enter();
+    bool cantEnter();
+    bool totalEnter();
     void Agregar_Click();
     void Modificar_Click();
     void Eliminar_Click();
