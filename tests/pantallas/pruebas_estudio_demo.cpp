@@ -25,12 +25,12 @@ TEST(PantallasEstudioDemo, LaFichaDeUnaPersonaLlegaConSusListasYSusDatos) {
     master::crearEstudioDemo(*sesion.base);
 
     pantallas::PantallaPersonal personal(sesion);
-    auto* empresas = personal.findChild<QComboBox*>("Combo1");
+    auto* empresas = personal.findChild<QComboBox*>("empresa");
     ASSERT_NE(empresas, nullptr);
     for (const auto& e : master::empresasDemo())
         EXPECT_NE(empresas->findText(QString::fromStdString(e)), -1) << e;
     empresas->setCurrentText("FÁBRICA DE EJEMPLO S.A.");
-    auto* nombres = personal.findChild<QComboBox*>("Combo2");
+    auto* nombres = personal.findChild<QComboBox*>("nombre");
     ASSERT_NE(nombres, nullptr);
     EXPECT_NE(nombres->findText("RODRÍGUEZ INVENTADO, CARLOS"), -1);
     nombres->setCurrentText("RODRÍGUEZ INVENTADO, CARLOS");

@@ -75,8 +75,8 @@ TEST_F(PantallasPersonal, AltaConElTecladoYLaGrillaLaEncuentra) {
     // Agregar sin empresa se niega.
     QTest::keyClick(&personal, Qt::Key_F5);
     EXPECT_EQ(dialogo.ultimoMensaje(), "Debe completar el campo Empresa.");
-    campo<QComboBox>(&personal, "Combo1")->setCurrentText("ACME");
-    campo<QComboBox>(&personal, "Combo2")->setCurrentText("PEREZ, ANA");
+    campo<QComboBox>(&personal, "empresa")->setCurrentText("ACME");
+    campo<QComboBox>(&personal, "nombre")->setCurrentText("PEREZ, ANA");
     QTest::keyClick(&personal, Qt::Key_F2);  // Buscar: no está, abre la ficha para agregarla
     auto* ficha = personal.ficha();
     ASSERT_NE(ficha, nullptr);
@@ -100,7 +100,7 @@ TEST_F(PantallasPersonal, AltaConElTecladoYLaGrillaLaEncuentra) {
     EXPECT_TRUE(campo(ficha, "credencial")->hasFocus());
     escribir(ficha, "nrosuc", "1");
 
-    ficha->findChild<QTabWidget*>("TabStrip1")->setCurrentIndex(1);
+    ficha->findChild<QTabWidget*>("paginas")->setCurrentIndex(1);
     escribir(ficha, "fechaing", "010324");
     escribir(ficha, "sector", "Ventas");
     // La categoría se elige entre las del sector, según el grupo de la empresa.
@@ -157,7 +157,7 @@ TEST_F(PantallasPersonal, AltaConElTecladoYLaGrillaLaEncuentra) {
     EXPECT_EQ(grilla->model()->index(0, 1).data().toString(), "PEREZ, ANA");
     EXPECT_EQ(grilla->model()->index(0, 4).data().toString(), "01/03/24");
     // El nombre quedó en la lista de nombres de la empresa.
-    EXPECT_GE(campo<QComboBox>(&personal, "Combo2")->findText("PEREZ, ANA"), 0);
+    EXPECT_GE(campo<QComboBox>(&personal, "nombre")->findText("PEREZ, ANA"), 0);
 }
 
 TEST_F(PantallasPersonal, BuscarUnaPersonaGuardadaYEliminarla) {
@@ -169,13 +169,13 @@ TEST_F(PantallasPersonal, BuscarUnaPersonaGuardadaYEliminarla) {
     sesion.base->ejecuta("INSERT INTO habydesc (empresa, nombre) VALUES ('ACME', 'GOMEZ, LUIS')");
     pantallas::PantallaPersonal personal(sesion);
     personal.show();
-    campo<QComboBox>(&personal, "Combo1")->setCurrentText("OTRA");
-    campo<QComboBox>(&personal, "Combo2")->setCurrentText("GOMEZ, LUIS");
+    campo<QComboBox>(&personal, "empresa")->setCurrentText("OTRA");
+    campo<QComboBox>(&personal, "nombre")->setCurrentText("GOMEZ, LUIS");
     personal.buscar();
     EXPECT_EQ(dialogo.ultimoMensaje(),
               "No existe la Empresa, deberá 1ero ingresarla en la ventana Empresas.");
-    campo<QComboBox>(&personal, "Combo1")->setCurrentText("ACME");
-    campo<QComboBox>(&personal, "Combo2")->setCurrentText("GOMEZ, LUIS");
+    campo<QComboBox>(&personal, "empresa")->setCurrentText("ACME");
+    campo<QComboBox>(&personal, "nombre")->setCurrentText("GOMEZ, LUIS");
     personal.buscar();
     auto* ficha = personal.ficha();
     ASSERT_NE(ficha, nullptr);
@@ -189,5 +189,5 @@ TEST_F(PantallasPersonal, BuscarUnaPersonaGuardadaYEliminarla) {
     EXPECT_EQ(dialogo.preguntas.back(), "Eliminar Personal|¿Desea continuar?");
     EXPECT_FALSE(master::leerPersona(*sesion.base, "ACME", "GOMEZ, LUIS"));
     EXPECT_EQ(sesion.base->consulta("SELECT * FROM habydesc").filas.size(), 0u);
-    EXPECT_EQ(campo<QComboBox>(&personal, "Combo2")->findText("GOMEZ, LUIS"), -1);
+    EXPECT_EQ(campo<QComboBox>(&personal, "nombre")->findText("GOMEZ, LUIS"), -1);
 }

@@ -11,7 +11,7 @@ namespace nomira::pantallas {
 FichaPersonal::FichaPersonal(frame::Sesion& sesion, QWidget* padre)
     : Pantalla(sesion, "Form31", "Datos del Personal", padre) {
     paginas_ = new QTabWidget;
-    paginas_->setObjectName("TabStrip1");
+    paginas_->setObjectName("paginas");
     paginas_->addTab(paginaPersonales(), "Datos Personales");
     paginas_->addTab(paginaPrimeraActividad(), "D.Lab. 1ra Act.");
     paginas_->addTab(paginaOtraActividad(1), "D.Lab. 2da Act.");

@@ -36,7 +36,7 @@ QString q(const std::string& s) {
 PantallaPersonal::PantallaPersonal(frame::Sesion& sesion, QWidget* padre)
     : Pantalla(sesion, "Form3", "Personal", padre) {
     empresa_ = new QComboBox;
-    empresa_->setObjectName("Combo1");
+    empresa_->setObjectName("empresa");
     empresa_->setEditable(true);
     empresa_->setInsertPolicy(QComboBox::NoInsert);
     empresa_->addItem("");
@@ -45,19 +45,19 @@ PantallaPersonal::PantallaPersonal(frame::Sesion& sesion, QWidget* padre)
     });
     empresa_->setCurrentText("");
     nombre_ = new QComboBox;
-    nombre_->setObjectName("Combo2");
+    nombre_->setObjectName("nombre");
     nombre_->setEditable(true);
     nombre_->setInsertPolicy(QComboBox::NoInsert);
     connect(empresa_, &QComboBox::currentTextChanged, this, [this] { cargarNombres(); });
     activos_ = new ventana::GrupoOpciones("", {{"Activos", "Activos"}, {"Todos", "Todos"}});
     activos_->setObjectName("activos");
     clave_ = new QComboBox;
-    clave_->setObjectName("Combo3");
+    clave_->setObjectName("buscarPorClave");
     clave_->addItem("");
     for (const auto& [texto, orden] : kClaves) clave_->addItem(texto);
     connect(clave_, &QComboBox::activated, this, [this] { ordenar(); });
     buscarPor_ = new QLineEdit;
-    buscarPor_->setObjectName("Text2");
+    buscarPor_->setObjectName("buscarPor");
     alPulsarEnter(buscarPor_, [this] {
         ordenar();
         return false;
