@@ -135,6 +135,7 @@ ImporteImpuesto calcularImpuesto(store::Conexion& base, const MesPersona& mp, Co
         const auto dic = CalculoIRPFDic(ctx, false, dialogo);
         r.total = dic.total;
         r.explicacion = dic.explicacion;
+        r.irpfDiciembre = dic;
         return r;
     }
     const auto irpf = CalculoIRPF(ctx, mp.desglose.montoirpf, mp.desglose.montonominal,
@@ -142,6 +143,7 @@ ImporteImpuesto calcularImpuesto(store::Conexion& base, const MesPersona& mp, Co
     r.total = irpf.total;
     r.concepto = textoFilaIRPF(concepto, irpf, mp.desglose.montoirpf);
     r.explicacion = irpf.explicacion;
+    r.irpfMes = irpf;
     return r;
 }
 

@@ -3,12 +3,15 @@
 // toda una empresa (ActDesPermxEmpresa_Click): el adelanto de licencia de
 // jornaleros y por hora, el arrastre de un mes anterior negativo, los
 // descuentos permanentes en orden de código con sus aportes, IRP e IRPF.
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "common/dialogo.h"
 #include "common/fechas.h"
 #include "engine/empresa_mes.h"
+#include "engine/irpf.h"
+#include "engine/irpf_dic.h"
 #include "engine/mes_persona.h"
 #include "master/variables.h"
 #include "store/conexion.h"
@@ -39,6 +42,9 @@ struct ImporteImpuesto {
     double cant = 1;
     common::Dinero total;
     std::string concepto, explicacion;
+    // Las cifras del cálculo, para el recuadro del IRPF de la pantalla.
+    std::optional<ResultadoIRPF> irpfMes;
+    std::optional<ResultadoIRPFDic> irpfDiciembre;
 };
 ImporteImpuesto calcularImpuesto(store::Conexion& base, const MesPersona& mp, ContextoFormula& ctx,
                                  const std::string& concepto, common::Dialogo& dialogo);

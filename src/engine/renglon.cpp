@@ -212,6 +212,7 @@ std::optional<CalculoRenglon> calcularRenglon(store::Conexion& base, MesPersona&
         r.cant = imp.cant;
         r.total = imp.total;
         r.explicacion = imp.explicacion;
+        r.impuesto = imp;
         return r;
     }
     if (esConceptoLicencia(nombre))

@@ -7,6 +7,7 @@
 
 #include "common/dialogo.h"
 #include "common/dinero.h"
+#include "engine/descuentos.h"
 #include "engine/mes_persona.h"
 #include "master/conceptos.h"
 
@@ -47,6 +48,7 @@ struct CalculoRenglon {
     common::Dinero total;
     std::string fechadesdelic, fechahastalic;  // el período de una licencia
     std::string explicacion;
+    std::optional<ImporteImpuesto> impuesto;  // IRP e IRPF: el cálculo entero
 };
 // Nada si una respuesta No cortó el cálculo de una licencia.
 std::optional<CalculoRenglon> calcularRenglon(store::Conexion& base, MesPersona& mp,

@@ -79,7 +79,7 @@ void PantallaHaberes::DescPerm_Click() {
         // su detalle sólo se ve al teclear la fila.
         if (mes()->mes != 12)
             for (const auto& f : r.filas)
-                if (f.fila.concepto.rfind("IRPF", 0) == 0) mostrarIRPF("IRPF");
+                if (f.fila.concepto.rfind("IRPF", 0) == 0) mostrarIRPFDelMes();
     });
 }
 

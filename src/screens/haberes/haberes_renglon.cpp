@@ -94,7 +94,7 @@ bool PantallaHaberes::cantEnter() {
         concepto_->setText(q(calculo_->texto));
         cant_->setText(q(common::numeroATexto(calculo_->cant)));
         total_->setText(q(common::numeroATexto(calculo_->total.aDouble())));
-        mostrarIRPF(buscado_->concepto.concepto);
+        if (calculo_->impuesto) mostrarIRPF(*calculo_->impuesto);
         total_->setFocus();
         total_->end(false);
     });
@@ -152,16 +152,22 @@ void PantallaHaberes::Eliminar_Click() {
     });
 }
 
-void PantallaHaberes::mostrarIRPF(const std::string& concepto) {
-    if (!mp_ || common::mayusculas(concepto) != "IRPF") return;
+void PantallaHaberes::mostrarIRPF(const engine::ImporteImpuesto& imp) {
+    if (!mp_) return;
+    if (imp.irpfDiciembre)
+        irpf_->mostrarDiciembre(*imp.irpfDiciembre);
+    else if (imp.irpfMes)
+        irpf_->mostrarMes(*imp.irpfMes, mp_->desglose.montoirpf, mp_->desglose.montonominal);
+}
+
+void PantallaHaberes::mostrarIRPFDelMes() {
+    // Después de Desc. Perm.: el IRPF del mes con lo ya escrito, sin sus avisos.
+    if (!mp_) return;
     DialogoCallado callado;
-    if (mp_->mes.mes == 12)
-        irpf_->mostrarDiciembre(engine::CalculoIRPFDic(ctx_, false, callado));
-    else
-        irpf_->mostrarMes(
-            engine::CalculoIRPF(ctx_, mp_->desglose.montoirpf, mp_->desglose.montonominal,
-                                engine::opcionesIRPFForm42(), callado),
-            mp_->desglose.montoirpf, mp_->desglose.montonominal);
+    engine::ImporteImpuesto imp;
+    imp.irpfMes = engine::CalculoIRPF(ctx_, mp_->desglose.montoirpf, mp_->desglose.montonominal,
+                                      engine::opcionesIRPFForm42(), callado);
+    mostrarIRPF(imp);
 }
 
 void PantallaHaberes::ComoSeCalculo() {

@@ -14,6 +14,7 @@
 #include <string>
 #include <utility>
 
+#include "engine/descuentos.h"
 #include "engine/empresa_mes.h"
 #include "engine/mes_persona.h"
 #include "engine/renglon.h"
@@ -66,7 +67,8 @@ class PantallaHaberes : public ventana::Pantalla {
     void Eliminar_Click();
     void guardar(const char* procedimiento);
     void limpiarRenglon();
-    void mostrarIRPF(const std::string& concepto);
+    void mostrarIRPF(const engine::ImporteImpuesto& imp);
+    void mostrarIRPFDelMes();
     void ComoSeCalculo();
 
     // Las generaciones.
