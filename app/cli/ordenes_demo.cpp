@@ -6,10 +6,9 @@
 
 #include "cli/ordenes.h"
 #include "common/reloj.h"
-#include "engine/descuentos.h"
 #include "engine/explicacion.h"
-#include "engine/haberes.h"
 #include "engine/horas.h"
+#include "engine/liquidacion_empresa.h"
 #include "frame/arranque.h"
 #include "frame/carpeta.h"
 #include "master/datos_iniciales.h"
@@ -69,51 +68,6 @@ void escribirHoras(const common::Mes& mes) {
         std::cout << "Horas de " << mes.texto() << ": " << r.string() << '\n';
 }
 
-struct ResumenEmpresa {
-    std::size_t personas = 0;
-    common::Dinero haberes, descuentos;
-};
-
-// Haberes con las horas del reloj y luego descuentos, como los dos botones de
-// toda la empresa en la pantalla del mes.
-ResumenEmpresa liquidarEmpresa(store::Conexion& base, const std::string& empresa,
-                               const common::Mes& mes, common::Dialogo& dialogo) {
-    engine::OpcionesHaberes opciones;
-    opciones.calculoCant = [](engine::ContextoFormula& c, common::Dialogo& d) {
-        engine::CalculoCant(c, d);
-    };
-    // Un fallo sale con el cuadro de la acción de la pantalla que lo produjo.
-    const auto correr = [](const char* procedimiento, const auto& accion) {
-        try {
-            auto r = accion();
-            if (r.fallo) std::rethrow_exception(r.fallo);
-            return r;
-        } catch (const common::Fallo& f) {
-            throw common::Fallo(f.numero(),
-                                common::textoErrorInesperado(f, procedimiento, "Form42"));
-        }
-    };
-    correr("ActHamPermxEmpresa_Click",
-           [&] { return engine::ActHamPermxEmpresa(base, empresa, mes, dialogo, opciones); });
-    master::LectorVariables variables(base);
-    const auto d = correr("ActDesPermxEmpresa_Click", [&] {
-        return engine::ActDesPermxEmpresa(base, variables, empresa, mes, dialogo);
-    });
-    ResumenEmpresa r;
-    for (const auto& p : d.personas) r.personas += p.hecho;
-    for (const auto& f : base.consulta("SELECT tipo, total FROM habydesc WHERE empresa = ? AND "
-                                       "fecha = ?",
-                                       {empresa, mes.primerDia().iso()})
-                             .filas) {
-        const auto total = common::Dinero::desdeDouble(f.real("total"));
-        if (f.texto("tipo") == "Hab")
-            r.haberes += total;
-        else
-            r.descuentos += total;
-    }
-    return r;
-}
-
 struct OpcionesDemo {
     bool liquidar = false;
 };
@@ -142,7 +96,12 @@ int demo(const Contexto& ctx, const OpcionesDemo& o) {
     auto dialogo = ctx.dialogo();
     try {
         for (const auto& e : empresas) {
-            const auto r = liquidarEmpresa(*base, e, mes, dialogo);
+            // Haberes con las horas del reloj y luego descuentos.
+            engine::OpcionesHaberes opciones;
+            opciones.calculoCant = [](engine::ContextoFormula& c, common::Dialogo& d) {
+                engine::CalculoCant(c, d);
+            };
+            const auto r = engine::liquidarMesDeEmpresa(*base, e, mes, dialogo, opciones);
             std::cout << e << ", mes " << mes.texto() << '\n'
                       << "  Personas liquidadas: " << r.personas << '\n'
                       << "  T.Haberes: " << engine::pesos(r.haberes) << '\n'

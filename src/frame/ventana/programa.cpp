@@ -9,6 +9,8 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "common/reloj.h"
+#include "engine/liquidacion_empresa.h"
 #include "frame/arranque.h"
 #include "frame/carpeta.h"
 #include "frame/dialogo_consola.h"
@@ -17,6 +19,7 @@
 #include "frame/ventana/dialogo_qt.h"
 #include "frame/ventana/primer_usuario.h"
 #include "frame/ventana/ventana_principal.h"
+#include "master/estudio_demo.h"
 
 namespace nomira::ventana {
 
@@ -28,7 +31,9 @@ std::string argumento(int argc, char** argv, const std::string& nombre) {
     return {};
 }
 
-// Capturas: una base propia (la indicada o una nueva y vacía), usuario de categoría 1.
+// Capturas: una base propia, usuario de categoría 1. Sin base indicada, una
+// nueva con el estudio de demostración y su mes anterior liquidado, para que
+// las pantallas se vean con datos.
 int capturar(const std::string& carpeta, const std::string& base) {
     frame::Sesion sesion;
     frame::DialogoConsola dialogo(std::cerr, false);
@@ -39,6 +44,10 @@ int capturar(const std::string& carpeta, const std::string& base) {
                               ("nomira-captura-" + std::to_string(::getpid()) + ".db");
         std::filesystem::remove(temporal);
         sesion.base = frame::crearBaseNueva(temporal.string());
+        master::crearEstudioDemo(*sesion.base);
+        const auto mes = *common::Mes::desdeTexto(common::CalculaMesAnterior(common::hoy()));
+        for (const auto& e : master::empresasDemo())
+            engine::liquidarMesDeEmpresa(*sesion.base, e, mes, dialogo);
     } else {
         sesion.base = frame::abrirBase(base);
     }
