@@ -48,12 +48,13 @@ int haberes(const Contexto& ctx, const OpcionesLiquidacion& o) {
     try {
         if (!o.nombre.empty()) {
             const auto r =
-                engine::generarHaberesPermanentes(*base, o.empresa, o.nombre, *mes, dialogo);
+                engine::generarHaberesPermanentes(*base, o.empresa, o.nombre, *mes, dialogo,
+                                                  engine::conArchivoDeHoras());
             for (const auto& f : r.filas) mostrar(f, o.explicar);
             return r.hecho ? 0 : 1;
         }
         const auto r = engine::ActHamPermxEmpresa(
-            *base, o.empresa, *mes, dialogo, {},
+            *base, o.empresa, *mes, dialogo, engine::conArchivoDeHoras(),
             [](std::size_t i, std::size_t n, const std::string& nombre) {
                 std::cerr << "persona " << i << " de " << n << ": " << nombre << '\n';
             });

@@ -10,6 +10,7 @@
 #include "engine/explicacion.h"
 #include "engine/explicaciones.h"
 #include "engine/filas_persona.h"
+#include "engine/horas.h"
 #include "engine/primas_antiguedad.h"
 #include "master/registro.h"
 
@@ -99,6 +100,10 @@ std::vector<master::Concepto> conceptosPermanentes(store::Conexion& base, const 
         return common::textoANumero(a.codigo) < common::textoANumero(b.codigo);
     });
     return lista;
+}
+
+OpcionesHaberes conArchivoDeHoras() {
+    return {[](ContextoFormula& ctx, common::Dialogo& dialogo) { CalculoCant(ctx, dialogo); }};
 }
 
 int diasNoTrabajados(const std::string& fechaing, const common::Mes& mes) {

@@ -23,6 +23,10 @@ struct OpcionesHaberes {
     ImportarHoras calculoCant;
 };
 
+// Con el archivo de horas del mes (CalculoCant), como lo hacen la pantalla y
+// las órdenes.
+OpcionesHaberes conArchivoDeHoras();
+
 // Los conceptos que se generan para la persona: "SUELDO FICTO" si tiene
 // cantbfc, si no los permanentes generales o de su tipo de sueldo más los de
 // concpermxpers, por código y sin repetir.

@@ -79,11 +79,7 @@ class EstudioDemo : public store::prueba::BasePrueba {
 
     // Los dos botones de toda la empresa, con el archivo de horas del reloj.
     void liquidar(const std::string& empresa) {
-        OpcionesHaberes opciones;
-        opciones.calculoCant = [](ContextoFormula& ctx, common::Dialogo& d) {
-            CalculoCant(ctx, d);
-        };
-        const auto h = ActHamPermxEmpresa(c(), empresa, kMes, dialogo, opciones);
+        const auto h = ActHamPermxEmpresa(c(), empresa, kMes, dialogo, conArchivoDeHoras());
         ASSERT_FALSE(h.fallo) << h.personaFallida;
         master::LectorVariables variables(c());
         const auto d = ActDesPermxEmpresa(c(), variables, empresa, kMes, dialogo);

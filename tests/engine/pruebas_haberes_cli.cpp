@@ -1,6 +1,9 @@
 // nomira-cli haberes, liquidacion y borrar sobre una base SQLite nueva.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+
 #include "apoyo/carpeta_temporal.h"
 #include "apoyo/cli.h"
 #include "store/conexion.h"
@@ -64,6 +67,30 @@ TEST(OrdenHaberes, EmpresaPersonaYDesglose) {
     s = pruebas::cli(b + "haberes --empresa ACME --nombre NADIE --mes 02/26");
     EXPECT_EQ(s.estado, 1);
     EXPECT_NE(s.texto.find("El Nombre del Personal no existe en esta Empresa"), std::string::npos);
+}
+
+TEST(OrdenHaberes, LeeElArchivoDeHorasDelMesComoLaPantalla) {
+    pruebas::CarpetaTemporal tmp;
+    const std::string db = tmp.archivo("n.db");
+    ASSERT_EQ(pruebas::cli("--base " + db + " init").estado, 0);
+    {
+        auto base = store::abrir(db);
+        base->ejecuta("INSERT INTO empresas (empresa, nroemp) VALUES ('ACME', 5)");
+        base->ejecuta(
+            "INSERT INTO personal (empresa, nombre, nrofun, sueldo, tiposueldo, fechaing) VALUES "
+            "('ACME', 'DIAZ, LUIS', 7, '1000', 'J', '2020-01-01')");
+    }
+    // horas.txt da la carpeta y el prefijo; el archivo de febrero de la empresa 5.
+    std::filesystem::create_directories(tmp.archivo("Software/Nomira"));
+    std::ofstream(tmp.archivo("Software/Nomira/horas.txt")) << tmp.archivo("HORAS") << '\n';
+    std::ofstream(tmp.archivo("HORAS02265.txt")) << "7|10|20\n";
+
+    // JORNALES: 20 jornales de 1000.
+    const std::string b = "--base " + db + " ";
+    auto s = pruebas::cli(b + "haberes --empresa ACME --nombre 'DIAZ, LUIS' --mes 02/26");
+    EXPECT_EQ(s.estado, 0) << s.texto;
+    s = pruebas::cli(b + "liquidacion --empresa ACME --nombre 'DIAZ, LUIS' --mes 02/26");
+    EXPECT_NE(s.texto.find("10 | JORNALES | Hab | 20 | 20,000.00"), std::string::npos) << s.texto;
 }
 
 }  // namespace

@@ -3,22 +3,12 @@
 #include "common/fallo.h"
 #include "engine/descuentos.h"
 #include "engine/haberes.h"
-#include "engine/horas.h"
 #include "screens/haberes/pantalla_haberes.h"
 #include "screens/haberes/textos_haberes.h"
 
 namespace nomira::pantallas {
 
 namespace {
-
-engine::OpcionesHaberes conHoras() {
-    engine::OpcionesHaberes op;
-    // El archivo de horas del mes, si lo hay, suma sus cantidades a los haberes.
-    op.calculoCant = [](engine::ContextoFormula& ctx, common::Dialogo& d) {
-        engine::CalculoCant(ctx, d);
-    };
-    return op;
-}
 
 // Mientras corre toda la empresa sólo queda a mano el botón de detenerla.
 class Bloqueo {
@@ -63,7 +53,7 @@ void PantallaHaberes::HabPerm_Click() {
     intentar("HabPerm_Click", [this] {
         if (!hayMesDePersona()) return;
         engine::generarHaberesPermanentes(base(), empresa(), nombre(), *mes(), dialogo(),
-                                          conHoras());
+                                          engine::conArchivoDeHoras());
         irpf_->limpiar();
         releer();
     });
@@ -124,7 +114,7 @@ std::optional<engine::ResultadoEmpresa> PantallaHaberes::correrEmpresa(
 void PantallaHaberes::ActHamPermxEmpresa_Click() {
     intentar("ActHamPermxEmpresa_Click", [this] {
         const auto r = correrEmpresa([this](const common::Mes& m) {
-            return engine::ActHamPermxEmpresa(base(), empresa(), m, dialogo(), conHoras(),
+            return engine::ActHamPermxEmpresa(base(), empresa(), m, dialogo(), engine::conArchivoDeHoras(),
                                               avance_->progreso(), avance_->cancelar());
         });
         if (r && !r->cancelado) informar(engine::kActualizacionFinalizada);
