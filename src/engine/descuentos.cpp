@@ -182,7 +182,10 @@ std::vector<FilaLiquidada> generarDescuentos(store::Conexion& base, MesPersona& 
             fila.concepto = imp.concepto;
             fila.cant = imp.cant;
             fila.total = imp.total;
-            hechas.push_back(escribir(base, mp, fila, imp.explicacion));
+            auto hecha = escribir(base, mp, fila, imp.explicacion);
+            hecha.irpfMes = imp.irpfMes;
+            hecha.irpfDiciembre = imp.irpfDiciembre;
+            hechas.push_back(std::move(hecha));
             continue;
         }
         ConceptoDescuento d{codigo,     c->concepto,  c->formula, c->unidad, c->permanente,

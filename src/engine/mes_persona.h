@@ -4,6 +4,7 @@
 // generación (las filas escritas con la explicación de cada importe).
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "common/dialogo.h"
@@ -12,6 +13,8 @@
 #include "engine/calculo_licencia.h"
 #include "engine/filas_mes.h"
 #include "engine/formula.h"
+#include "engine/irpf.h"
+#include "engine/irpf_dic.h"
 #include "master/conceptos.h"
 #include "master/empresas.h"
 #include "master/personal.h"
@@ -56,10 +59,16 @@ FilaGenerada filaDeConcepto(const master::Concepto& c, const std::string& tipo);
 // mismo año. Una fecha vacía no excluye.
 bool activaEnElMes(const master::Persona& p, const common::Mes& mes);
 
-// Una fila escrita y cómo se llegó a su importe.
+// Una fila escrita y cómo se llegó a su importe; una fila de IRPF, además, con
+// las cifras de su cálculo (las del recuadro del IRPF de la pantalla).
 struct FilaLiquidada {
+    FilaLiquidada() = default;
+    FilaLiquidada(FilaGenerada f, std::string e) : fila(std::move(f)), explicacion(std::move(e)) {}
+
     FilaGenerada fila;
     std::string explicacion;
+    std::optional<ResultadoIRPF> irpfMes;
+    std::optional<ResultadoIRPFDic> irpfDiciembre;
 };
 
 // Lo que deja la generación de una persona. Sin `hecho`, un mensaje del sistema

@@ -5,6 +5,8 @@
 // persona activa, y las corridas de toda la empresa con su avance y Detener.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
@@ -115,7 +117,7 @@ class PantallaHaberes : public pruebas::PantallaAbierta {
 TEST_F(PantallaHaberes, UnMesEnteroDesdeElTeclado) {
     persona("PEREZ, JUAN", "1", "30000", "2020-01-01");
     abrirMes("0226", "PEREZ, JUAN");
-    EXPECT_EQ(texto("mes"), "02/26");      // la barra llega sola
+    EXPECT_EQ(texto("mes"), "02/26");        // la barra llega sola
     EXPECT_TRUE(dialogo.preguntas.empty());  // es el mes anterior: nada que preguntar
     EXPECT_EQ(texto("nrofun"), "1");
     EXPECT_TRUE(w("codigo")->hasFocus());
@@ -139,8 +141,7 @@ TEST_F(PantallaHaberes, UnMesEnteroDesdeElTeclado) {
     EXPECT_EQ(texto("codigo"), "");
     EXPECT_TRUE(w("codigo")->hasFocus());
     EXPECT_FALSE(w<QPushButton>("Agregar")->isEnabled());
-    EXPECT_EQ(columna("haberes", 4),
-              (std::vector<std::string>{"30,000.00", "0.00", "1,500.00"}));
+    EXPECT_EQ(columna("haberes", 4), (std::vector<std::string>{"30,000.00", "0.00", "1,500.00"}));
 
     // Por el nombre: la fila ya está, así que queda para Modificar con lo guardado.
     teclear("concepto", "transp");
@@ -301,6 +302,17 @@ TEST_F(PantallaHaberes, DiciembreMuestraElCierreDelAnio) {
     tecla(Qt::Key_F2);
     EXPECT_EQ(columna("haberes", 1).back(), "TRANSPORTE");
     EXPECT_EQ(texto("totalhab"), "120,700.00");
+
+    // Desc. Perm.: el recuadro con el cierre del año de la fila IRPF que escribió.
+    pulsar("DescPerm");
+    EXPECT_TRUE(detalle->isVisible());
+    const auto conceptos = columna("descuentos", 1);
+    const auto it = std::find_if(conceptos.begin(), conceptos.end(),
+                                 [](const auto& c) { return c.rfind("IRPF", 0) == 0; });
+    ASSERT_NE(it, conceptos.end());
+    EXPECT_EQ(texto("totalirpfmes").toStdString(),
+              columna("descuentos", 4).at(it - conceptos.begin()));
+    EXPECT_NE(texto("totalirpfmes"), "0.00");
 }
 
 TEST_F(PantallaHaberes, ElMesQueNoEsElAnteriorSePregunta) {

@@ -65,11 +65,13 @@ void PantallaHaberes::DescPerm_Click() {
         master::LectorVariables variables(base());
         const auto r = engine::DescPerm(base(), variables, empresa(), nombre(), *mes(), dialogo());
         releer();
-        // El cierre de diciembre ya cuenta la fila recién escrita como retenida:
-        // su detalle sólo se ve al teclear la fila.
-        if (mes()->mes != 12)
-            for (const auto& f : r.filas)
-                if (f.fila.concepto.rfind("IRPF", 0) == 0) mostrarIRPFDelMes();
+        for (const auto& f : r.filas)
+            if (f.irpfMes || f.irpfDiciembre) {
+                engine::ImporteImpuesto imp;
+                imp.irpfMes = f.irpfMes;
+                imp.irpfDiciembre = f.irpfDiciembre;
+                mostrarIRPF(imp);
+            }
     });
 }
 
@@ -114,8 +116,9 @@ std::optional<engine::ResultadoEmpresa> PantallaHaberes::correrEmpresa(
 void PantallaHaberes::ActHamPermxEmpresa_Click() {
     intentar("ActHamPermxEmpresa_Click", [this] {
         const auto r = correrEmpresa([this](const common::Mes& m) {
-            return engine::ActHamPermxEmpresa(base(), empresa(), m, dialogo(), engine::conArchivoDeHoras(),
-                                              avance_->progreso(), avance_->cancelar());
+            return engine::ActHamPermxEmpresa(base(), empresa(), m, dialogo(),
+                                              engine::conArchivoDeHoras(), avance_->progreso(),
+                                              avance_->cancelar());
         });
         if (r && !r->cancelado) informar(engine::kActualizacionFinalizada);
     });

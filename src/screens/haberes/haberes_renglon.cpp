@@ -23,21 +23,6 @@ long numero(const std::string& texto) {
     return static_cast<long>(common::textoANumero(texto));
 }
 
-// Las cifras del recuadro del IRPF salen de repetir el cálculo: sus avisos ya
-// se dieron con el de la fila.
-class DialogoCallado : public common::Dialogo {
-  public:
-    bool confirmar(const std::string&, const std::string&, bool porDefectoSi) override {
-        return porDefectoSi;
-    }
-    std::optional<std::string> pedirTexto(const std::string&, const std::string&,
-                                          const std::string& inicial) override {
-        return inicial;
-    }
-    void avisar(common::TipoAviso, const std::string&, const std::string&) override {}
-    using common::Dialogo::avisar;
-};
-
 }  // namespace
 
 void PantallaHaberes::limpiarRenglon() {
@@ -158,16 +143,6 @@ void PantallaHaberes::mostrarIRPF(const engine::ImporteImpuesto& imp) {
         irpf_->mostrarDiciembre(*imp.irpfDiciembre);
     else if (imp.irpfMes)
         irpf_->mostrarMes(*imp.irpfMes, mp_->desglose.montoirpf, mp_->desglose.montonominal);
-}
-
-void PantallaHaberes::mostrarIRPFDelMes() {
-    // Después de Desc. Perm.: el IRPF del mes con lo ya escrito, sin sus avisos.
-    if (!mp_) return;
-    DialogoCallado callado;
-    engine::ImporteImpuesto imp;
-    imp.irpfMes = engine::CalculoIRPF(ctx_, mp_->desglose.montoirpf, mp_->desglose.montonominal,
-                                      engine::opcionesIRPFForm42(), callado);
-    mostrarIRPF(imp);
 }
 
 void PantallaHaberes::ComoSeCalculo() {

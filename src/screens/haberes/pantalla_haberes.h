@@ -68,7 +68,6 @@ class PantallaHaberes : public ventana::Pantalla {
     void guardar(const char* procedimiento);
     void limpiarRenglon();
     void mostrarIRPF(const engine::ImporteImpuesto& imp);
-    void mostrarIRPFDelMes();
     void ComoSeCalculo();
 
     // Las generaciones.
