@@ -1,5 +1,7 @@
 #include "engine/filas_mes.h"
 
+#include "store/recordada.h"
+
 namespace nomira::engine {
 
 const char* nombreTabla(TablaLiquidacion t) {
@@ -21,19 +23,25 @@ std::vector<store::Valor> claves(const std::string& empresa, const std::string& 
     return {empresa, nombre, desde.primerDia().iso(), hasta.primerDia().iso()};
 }
 
+// La consulta de leerFilas; en habydesc y egresos, codigo, concepto, tipo,
+// gravado, ipd y total por código.
+std::string sqlFilas(TablaLiquidacion tabla) {
+    const bool agui = tabla == TablaLiquidacion::Aguinaldos;
+    return std::string("SELECT ") +
+           (agui ? "concepto, tipo, total FROM aguinaldos"
+                 : std::string("codigo, concepto, tipo, gravado, ipd, total FROM ") +
+                       nombreTabla(tabla)) +
+           " WHERE empresa = ? AND nombre = ? AND fecha >= ? AND fecha <= ?" +
+           (agui ? "" : " ORDER BY codigo");
+}
+
 }  // namespace
 
 std::vector<FilaMes> leerFilas(store::Conexion& base, TablaLiquidacion tabla,
                                const std::string& empresa, const std::string& nombre,
                                const common::Mes& desde, const common::Mes& hasta) {
     const bool agui = tabla == TablaLiquidacion::Aguinaldos;
-    const std::string sql =
-        std::string("SELECT ") +
-        (agui ? "concepto, tipo, total FROM aguinaldos"
-              : std::string("codigo, concepto, tipo, gravado, ipd, total FROM ") +
-                    nombreTabla(tabla)) +
-        " WHERE empresa = ? AND nombre = ? AND fecha >= ? AND fecha <= ?" +
-        (agui ? "" : " ORDER BY codigo");
+    const std::string sql = sqlFilas(tabla);
     // Por posición, la de la lista del SELECT: se leen muchas veces por persona.
     // aguinaldos: concepto, tipo, total; las otras: codigo, concepto, tipo,
     // gravado, ipd, total.
@@ -79,7 +87,32 @@ bool hayEgresos(store::Conexion& base, const std::string& empresa, const std::st
 
 namespace {
 
-// UPDATE por código (sólo si `probar`) y, si no cambió nada, INSERT.
+// Lo que una escritura de la fila `f` le hace a las filas del mes tal como las
+// devuelve leerFilas: cambia concepto y total de las de su código, o la agrega
+// después de las de código menor o igual.
+void actualizarLeidas(store::Resultado& r, const FilaGenerada& f, bool insertada) {
+    const auto codigoDe = [](const store::Fila& x) { return x.entero(std::size_t{0}); };
+    const std::int64_t codigo = f.codigo;
+    if (!insertada) {
+        for (auto& x : r.filas) {
+            if (codigoDe(x) != codigo) continue;
+            std::vector<store::Valor> v;
+            for (std::size_t i = 0; i < x.tamano(); ++i) v.push_back(x.valor(i));
+            v[1] = f.concepto;
+            v[5] = f.total.aDouble();
+            x = store::Fila(&r.columnas, std::move(v));
+        }
+        return;
+    }
+    auto pos = r.filas.begin();
+    while (pos != r.filas.end() && codigoDe(*pos) <= codigo) ++pos;
+    r.filas.insert(pos, store::Fila(&r.columnas, {codigo, f.concepto, f.tipo, f.gravado, f.ipd,
+                                                  f.total.aDouble()}));
+}
+
+// UPDATE por código (sólo si `probar`) y, si no cambió nada, INSERT. Por una
+// conexión que recuerda lo leído, las filas del mes ya leídas se llevan al día
+// en lugar de volver a leerse.
 void escribir(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
               const std::string& nombre, const common::Mes& mes, const FilaGenerada& f,
               bool probar) {
@@ -88,19 +121,31 @@ void escribir(store::Conexion& base, TablaLiquidacion tabla, const std::string& 
     const std::string t = nombreTabla(tabla);
     const std::string fecha = mes.primerDia().iso();
     const std::int64_t codigo = f.codigo;
+    auto* recordada = dynamic_cast<store::ConexionRecordada*>(&base);
+    const auto delMes = claves(empresa, nombre, mes, mes);
+    const auto escribirLeidas = [&](const std::string& sql, const std::vector<store::Valor>& p,
+                                    bool insertada) {
+        if (!recordada) return base.ejecuta(sql, p);
+        return recordada->ejecutaConCambio(sql, p, sqlFilas(tabla), delMes,
+                                           [&](store::Resultado& r, std::int64_t afectadas) {
+                                               if (afectadas > 0) actualizarLeidas(r, f, insertada);
+                                           });
+    };
     if (probar &&
-        base.ejecuta(
+        escribirLeidas(
             "UPDATE " + t +
-                " SET concepto = ?, unidad = ?, cant = ?, total = ? WHERE empresa = ? AND "
-                "nombre = ? AND fecha = ? AND codigo = ?",
-            {f.concepto, f.unidad, f.cant, f.total.aDouble(), empresa, nombre, fecha, codigo}) > 0)
+                " SET concepto = ?, unidad = ?, cant = ?, total = ? WHERE empresa = ? "
+                "AND nombre = ? AND fecha = ? AND codigo = ?",
+            {f.concepto, f.unidad, f.cant, f.total.aDouble(), empresa, nombre, fecha, codigo},
+            false) > 0)
         return;
-    base.ejecuta("INSERT INTO " + t +
-                     " (empresa, nombre, fecha, codigo, concepto, tipo, unidad, permanente, "
-                     "gravado, aguinaldo, cant, total, lic, ipd) VALUES (?, ?, ?, ?, ?, ?, ?, ?, "
-                     "?, ?, ?, ?, ?, ?)",
-                 {empresa, nombre, fecha, codigo, f.concepto, f.tipo, f.unidad, f.permanente,
-                  f.gravado, f.aguinaldo, f.cant, f.total.aDouble(), f.lic, f.ipd});
+    escribirLeidas("INSERT INTO " + t +
+                       " (empresa, nombre, fecha, codigo, concepto, tipo, unidad, permanente, "
+                       "gravado, aguinaldo, cant, total, lic, ipd) VALUES (?, ?, ?, ?, ?, ?, ?, "
+                       "?, ?, ?, ?, ?, ?, ?)",
+                   {empresa, nombre, fecha, codigo, f.concepto, f.tipo, f.unidad, f.permanente,
+                    f.gravado, f.aguinaldo, f.cant, f.total.aDouble(), f.lic, f.ipd},
+                   true);
 }
 
 }  // namespace

@@ -80,7 +80,8 @@ Resultado ConexionRecordada::consulta(std::string_view sql, const std::vector<Va
     return r;
 }
 
-std::int64_t ConexionRecordada::ejecuta(std::string_view sql, const std::vector<Valor>& parametros) {
+std::int64_t ConexionRecordada::ejecuta(std::string_view sql,
+                                        const std::vector<Valor>& parametros) {
     const auto& tablas = tablasDe(sql);
     // DDL, SET y lo que no nombre tablas: se olvida todo.
     if (tablas.empty()) ++general_;
@@ -94,6 +95,22 @@ const std::vector<std::string>& ConexionRecordada::tablasDe(std::string_view sql
     if (it == tablasPorTexto_.end())
         it = tablasPorTexto_.emplace(std::move(texto), tablasDeLaSentencia(sql)).first;
     return it->second;
+}
+
+std::int64_t ConexionRecordada::ejecutaConCambio(std::string_view sql,
+                                                 const std::vector<Valor>& parametros,
+                                                 std::string_view consulta,
+                                                 const std::vector<Valor>& parametrosConsulta,
+                                                 const Cambio& cambio) {
+    const auto it = memoria_.find(clave(consulta, parametrosConsulta));
+    const bool vigenteAntes = it != memoria_.end() && vigente(it->second);
+    const auto afectadas = ejecuta(sql, parametros);
+    if (vigenteAntes) {
+        cambio(it->second.resultado, afectadas);
+        it->second.general = general_;
+        for (auto& [tabla, gen] : it->second.tablas) gen = generacion(tabla);
+    }
+    return afectadas;
 }
 
 void ConexionRecordada::deshacer() {

@@ -10,10 +10,11 @@
 // conexión recordada se termina: la corrida trabaja sobre los conceptos, la
 // empresa y las personas como estaban al empezar.
 #include <cstdint>
+#include <functional>
 #include <string>
-#include <utility>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "store/conexion.h"
@@ -31,6 +32,16 @@ class ConexionRecordada : public Conexion {
     void comenzar() override { base_.comenzar(); }
     void confirmar() override { base_.confirmar(); }
     void deshacer() override;
+
+    // Una escritura cuyo efecto sobre una consulta recordada se conoce (la fila
+    // que se agrega o se cambia): se ejecuta y, si la consulta estaba vigente, se
+    // le aplica el cambio y sigue vigente en lugar de volver a leerse. El cambio
+    // recibe lo recordado y las filas que afectó la escritura.
+    using Cambio = std::function<void(Resultado&, std::int64_t afectadas)>;
+    std::int64_t ejecutaConCambio(std::string_view sql, const std::vector<Valor>& parametros,
+                                  std::string_view consulta,
+                                  const std::vector<Valor>& parametrosConsulta,
+                                  const Cambio& cambio);
 
     // Cuántas consultas se respondieron de memoria y cuántas fueron a la base.
     std::size_t recordadas() const { return recordadas_; }
