@@ -63,8 +63,7 @@ void escribirDiasNoTrabajados(store::Conexion& base, const MesPersona& mp, doubl
     fl.explicacion = "Ingreso el " + mp.persona.fechaing + ": " + std::to_string(dias) +
                      " días sin trabajar, -(" + pesos(sueldo) + " / 30 x " + std::to_string(dias) +
                      ") = " + pesos(fl.fila.total) + ".";
-    escribirFila(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, fl.fila,
-                 codigos);
+    escribirFila(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, fl.fila, codigos);
     r.filas.push_back(std::move(fl));
 }
 
@@ -178,8 +177,9 @@ ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula&
             total = common::Dinero::desdeDouble(std::floor(ctx.total));
             expl += " Sin decimales: " + pesos(total) + ".";
         } else if (esConceptoAntiguedad(nombre)) {
-            if (auto prima = CalculoAntiguedad(base, *ctx.variables, mp.empresa, mp.nombre,
-                                               ctx.textoCant, mp.mes, dialogo)) {
+            if (auto prima =
+                    CalculoAntiguedad(base, *ctx.variables, mp.empresa, mp.nombre, ctx.textoCant,
+                                      mp.mes, dialogo, "Form42", &mp.persona)) {
                 cant = prima->cant;
                 total = prima->total;
                 expl = prima->explicacion;

@@ -60,9 +60,11 @@ std::optional<PrimaAntiguedad> calcularPrimaAntiguedad(const master::Persona& p,
 // Desde la base: la persona, el consejo de la empresa, BPC, SALMIN y el sueldo
 // mínimo de la categoría. periodo es el del mes tecleado o, vacío, el anterior.
 // Un fallo se avisa como "Error inesperado" con el miembro y deja la fórmula.
+// Con `leida`, la persona ya leída del mes, no se la vuelve a leer.
 std::optional<PrimaAntiguedad> CalculoAntiguedad(
     store::Conexion& base, master::LectorVariables& variables, const std::string& empresa,
     const std::string& nombre, const std::string& textoCant, const common::Mes& periodo,
-    common::Dialogo& dialogo, const std::string& pantalla = "Form42");
+    common::Dialogo& dialogo, const std::string& pantalla = "Form42",
+    const master::Persona* leida = nullptr);
 
 }  // namespace nomira::engine

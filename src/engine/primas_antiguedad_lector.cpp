@@ -22,11 +22,15 @@ double sueldoMinimo(store::Conexion& base, const ConsejoSalarios& c, const std::
 std::optional<PrimaAntiguedad> CalculoAntiguedad(
     store::Conexion& base, master::LectorVariables& variables, const std::string& empresa,
     const std::string& nombre, const std::string& textoCant, const common::Mes& periodo,
-    common::Dialogo& dialogo, const std::string& pantalla) {
+    common::Dialogo& dialogo, const std::string& pantalla, const master::Persona* leida) {
     int miembro = 0;
     try {
-        const auto persona = master::leerPersona(base, empresa, nombre);
-        if (!persona) return std::nullopt;
+        std::optional<master::Persona> propia;
+        if (!leida) {
+            propia = master::leerPersona(base, empresa, nombre);
+            if (!propia) return std::nullopt;
+        }
+        const master::Persona* persona = leida ? leida : &*propia;
         const auto consejo = consejoDeLaEmpresa(base, empresa);
         miembro = miembroPorConsejo(consejo.grupo, consejo.subgrupo).value_or(0);
         const auto baseDe = [&](const MiembroAntiguedad& m, const ActividadAntiguedad& a) {

@@ -11,10 +11,10 @@
 #include "engine/descuentos.h"
 #include "engine/explicacion.h"
 #include "engine/explicaciones.h"
-#include "engine/salario_vacacional.h"
 #include "engine/filas_persona.h"
 #include "engine/licencia_lector.h"
 #include "engine/primas_antiguedad.h"
+#include "engine/salario_vacacional.h"
 
 namespace nomira::engine {
 
@@ -148,7 +148,7 @@ CalculoRenglon calcularConFormula(store::Conexion& base, MesPersona& mp, Context
 
     if (esConceptoAntiguedad(nombre))
         if (const auto p = CalculoAntiguedad(base, *ctx.variables, mp.empresa, mp.nombre, textoCant,
-                                             mp.mes, dialogo)) {
+                                             mp.mes, dialogo, "Form42", &mp.persona)) {
             r.cant = p->cant;
             r.total = p->total;
             r.explicacion = p->explicacion;
