@@ -51,7 +51,15 @@ std::vector<std::string> textosDe(const T& registro, const Campos<T>& campos) {
 template <class T>
 T leerRegistro(const store::Fila& fila, const Campos<T>& campos) {
     T r;
-    for (const auto& campo : campos) r.*campo.miembro = fila.texto(campo.columna);
+    // Con SELECT * las columnas llegan en el orden de la lista: se prueba primero
+    // la misma posición.
+    const auto& columnas = fila.columnas();
+    for (std::size_t i = 0; i < campos.size(); ++i) {
+        const auto& campo = campos[i];
+        r.*campo.miembro = i < columnas.size() && columnas[i] == campo.columna
+                               ? fila.texto(i)
+                               : fila.texto(campo.columna);
+    }
     return r;
 }
 
