@@ -50,7 +50,6 @@ std::optional<MesPersona> BuscarVerif(store::Conexion& base, master::LectorVaria
 
     ctx.periodo = mes;
     ctx.tipoaporte = mp.tipoaporte;
-    ctx.personaLeida = ContextoFormula::PersonaLeida{empresa, nombre, mp.persona};
     cargarPersona(ctx, mp.persona);
     refrescarDesglose(base, mp, ctx);
     return mp;

@@ -240,17 +240,18 @@ std::optional<std::string> guardarRenglon(store::Conexion& base, MesPersona& mp,
     const double total = common::textoANumero(textoTotal);
     store::Transaccion t(base);
     std::string vacacional;
-    if (esConceptoLicencia(nombre))
+    if (esConceptoLicencia(nombre)) {
         if (const auto sv = CalculoSalarioVacacionalNew(
                 base, ctx, nombre, common::textoANumero(textoCant), Dinero::desdeDouble(total),
                 calculo.fechadesdelic, calculo.fechahastalic, dialogo))
             vacacional = sv->explicacion;
-    if (esConceptoLicencia(nombre) && mp.tiposueldo == "S") {
-        // El mes paga el sueldo menos los días de licencia.
-        const auto sueldo = Dinero::desdeDouble(ctx.sueldo - total);
-        reescribirSueldo(base, mp, sueldo,
-                         "Sueldo " + pesos(ctx.sueldo) + " menos la licencia " + pesos(total) +
-                             " = " + pesos(sueldo) + ".");
+        // El mes de un mensual paga el sueldo menos los días de licencia.
+        if (mp.tiposueldo == "S") {
+            const auto sueldo = Dinero::desdeDouble(ctx.sueldo - total);
+            reescribirSueldo(base, mp, sueldo,
+                             "Sueldo " + pesos(ctx.sueldo) + " menos la licencia " + pesos(total) +
+                                 " = " + pesos(sueldo) + ".");
+        }
     }
     if (nombre == "RET. JUD. S/VAC") {
         base.ejecuta(
