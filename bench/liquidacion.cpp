@@ -114,10 +114,9 @@ void BM_LiquidacionDeLaEmpresa(benchmark::State& state) {
                             "tipo, unidad, permanente, gravado, aguinaldo, cant, total, lic, "
                             "ipd) VALUES ('ACME', ?, '2026-02-01', ?, ?, ?, ?, ?, ?, ?, ?, ?, "
                             "?, ?)",
-                            {p.nombre, std::int64_t{f.fila.codigo}, f.fila.concepto,
-                             f.fila.tipo, f.fila.unidad, f.fila.permanente, f.fila.gravado,
-                             f.fila.aguinaldo, f.fila.cant, f.fila.total.aDouble(), f.fila.lic,
-                             f.fila.ipd});
+                            {p.nombre, std::int64_t{f.fila.codigo}, f.fila.concepto, f.fila.tipo,
+                             f.fila.unidad, f.fila.permanente, f.fila.gravado, f.fila.aguinaldo,
+                             f.fila.cant, f.fila.total.aDouble(), f.fila.lic, f.fila.ipd});
             t.confirmar();
         }
         segInsert = segundosDesde(b);

@@ -13,9 +13,9 @@
 namespace nomira::cli {
 
 struct Contexto {
-    std::string base;                // --base, o base.txt
-    std::optional<bool> respuesta;   // --si / --no
-    std::function<int()> accion;     // la orden elegida
+    std::string base;               // --base, o base.txt
+    std::optional<bool> respuesta;  // --si / --no
+    std::function<int()> accion;    // la orden elegida
 
     std::string destino() const;
     std::unique_ptr<store::Conexion> abrir() const;

@@ -97,8 +97,8 @@ int demo(const Contexto& ctx, const OpcionesDemo& o) {
     try {
         for (const auto& e : empresas) {
             // Haberes con las horas del reloj y luego descuentos.
-            const auto r = engine::liquidarMesDeEmpresa(*base, e, mes, dialogo,
-                                                        engine::conArchivoDeHoras());
+            const auto r =
+                engine::liquidarMesDeEmpresa(*base, e, mes, dialogo, engine::conArchivoDeHoras());
             std::cout << e << ", mes " << mes.texto() << '\n'
                       << "  Personas liquidadas: " << r.personas << '\n'
                       << "  T.Haberes: " << engine::pesos(r.haberes) << '\n'

@@ -47,9 +47,8 @@ int haberes(const Contexto& ctx, const OpcionesLiquidacion& o) {
     const char* procedimiento = o.nombre.empty() ? "ActHamPermxEmpresa_Click" : "HabPerm_Click";
     try {
         if (!o.nombre.empty()) {
-            const auto r =
-                engine::generarHaberesPermanentes(*base, o.empresa, o.nombre, *mes, dialogo,
-                                                  engine::conArchivoDeHoras());
+            const auto r = engine::generarHaberesPermanentes(*base, o.empresa, o.nombre, *mes,
+                                                             dialogo, engine::conArchivoDeHoras());
             for (const auto& f : r.filas) mostrar(f, o.explicar);
             return r.hecho ? 0 : 1;
         }
@@ -84,7 +83,8 @@ int liquidacion(const Contexto& ctx, const OpcionesLiquidacion& o) {
     if (!mp) return 1;
     // Los haberes primero, como las dos grillas.
     auto filas = engine::filasParaGrillas(*base, o.empresa, o.nombre, *mes);
-    std::stable_partition(filas.begin(), filas.end(), [](const auto& f) { return f.tipo == "Hab"; });
+    std::stable_partition(filas.begin(), filas.end(),
+                          [](const auto& f) { return f.tipo == "Hab"; });
     for (const auto& f : filas) {
         std::cout << f.codigo << " | " << f.concepto << " | " << f.tipo << " | "
                   << common::numeroATexto(f.cant) << " | " << engine::pesos(f.total) << '\n';

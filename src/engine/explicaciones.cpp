@@ -4,9 +4,9 @@
 
 namespace nomira::engine {
 
-void guardarExplicaciones(store::Conexion& base, TablaLiquidacion tabla,
-                          const std::string& empresa, const std::string& nombre,
-                          const common::Mes& mes, const std::vector<FilaLiquidada>& filas) {
+void guardarExplicaciones(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
+                          const std::string& nombre, const common::Mes& mes,
+                          const std::vector<FilaLiquidada>& filas) {
     // Un código escrito dos veces queda con la última.
     std::map<long, const std::string*> porCodigo;
     for (const auto& f : filas)
@@ -22,13 +22,13 @@ void guardarExplicaciones(store::Conexion& base, TablaLiquidacion tabla,
         borrar.emplace_back(std::int64_t{codigo});
         marcas += marcas.empty() ? "?" : ", ?";
         tuplas += tuplas.empty() ? "(?, ?, ?, ?, ?, ?)" : ", (?, ?, ?, ?, ?, ?)";
-        insertar.insert(insertar.end(),
-                        {empresa, nombre, fecha, t, std::int64_t{codigo}, *texto});
+        insertar.insert(insertar.end(), {empresa, nombre, fecha, t, std::int64_t{codigo}, *texto});
     }
-    base.ejecuta("DELETE FROM explicaciones WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
-                 "tabla = ? AND codigo IN (" +
-                     marcas + ")",
-                 borrar);
+    base.ejecuta(
+        "DELETE FROM explicaciones WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
+        "tabla = ? AND codigo IN (" +
+            marcas + ")",
+        borrar);
     base.ejecuta(
         "INSERT INTO explicaciones (empresa, nombre, fecha, tabla, codigo, texto) VALUES " + tuplas,
         insertar);

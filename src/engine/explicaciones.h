@@ -15,9 +15,9 @@ namespace nomira::engine {
 
 // Las explicaciones de las filas de una generación, en una sentencia; reemplazan
 // las que hubiera de esos códigos. Las filas sin explicación no tocan nada.
-void guardarExplicaciones(store::Conexion& base, TablaLiquidacion tabla,
-                          const std::string& empresa, const std::string& nombre,
-                          const common::Mes& mes, const std::vector<FilaLiquidada>& filas);
+void guardarExplicaciones(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
+                          const std::string& nombre, const common::Mes& mes,
+                          const std::vector<FilaLiquidada>& filas);
 
 void guardarExplicacion(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
                         const std::string& nombre, const common::Mes& mes, long codigo,

@@ -140,8 +140,7 @@ const std::optional<master::Persona>& personaDelContexto(ContextoFormula& ctx) {
     auto& leida = ctx.personaLeida;
     if (!leida || leida->empresa != ctx.empresa || leida->nombre != ctx.nombre)
         leida = ContextoFormula::PersonaLeida{
-            ctx.empresa, ctx.nombre,
-            master::leerPersona(baseDe(ctx), ctx.empresa, ctx.nombre)};
+            ctx.empresa, ctx.nombre, master::leerPersona(baseDe(ctx), ctx.empresa, ctx.nombre)};
     return leida->fila;
 }
 

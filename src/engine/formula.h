@@ -83,8 +83,8 @@ struct ContextoFormula {
 
     // Lo que la sustitución necesita para llegar a la base.
     std::string empresa, nombre;
-    common::Mes periodo;    // el mes que se liquida (ver common::mesDeReferencia)
-    std::string textoCant;  // la casilla de cantidad tal como se tecleó
+    common::Mes periodo;            // el mes que se liquida (ver common::mesDeReferencia)
+    std::string textoCant;          // la casilla de cantidad tal como se tecleó
     std::string formulaSustituida;  // lo que se evaluó, para la explicación
     master::LectorVariables* variables = nullptr;
     // La conexión de la corrida (la que recuerda lo leído en la de una

@@ -26,8 +26,9 @@ TotalesEmpresa liquidarMesDeEmpresa(store::Conexion& base, const std::string& em
     correr("ActHamPermxEmpresa_Click",
            [&] { return ActHamPermxEmpresa(base, empresa, mes, dialogo, opciones); });
     master::LectorVariables variables(base);
-    const auto d = correr("ActDesPermxEmpresa_Click",
-                          [&] { return ActDesPermxEmpresa(base, variables, empresa, mes, dialogo); });
+    const auto d = correr("ActDesPermxEmpresa_Click", [&] {
+        return ActDesPermxEmpresa(base, variables, empresa, mes, dialogo);
+    });
     TotalesEmpresa t;
     for (const auto& p : d.personas) t.personas += p.hecho;
     for (const auto& f :

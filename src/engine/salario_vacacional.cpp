@@ -1,11 +1,13 @@
 #include "engine/salario_vacacional.h"
 
+#include <algorithm>
+
 #include "common/fechas.h"
+#include "common/numeros.h"
 #include "engine/aportes.h"
 #include "engine/aportes_lector.h"
 #include "engine/explicacion.h"
 #include "engine/filas_persona.h"
-#include "common/numeros.h"
 
 namespace nomira::engine {
 
@@ -20,8 +22,8 @@ store::Valor fechaONulo(const std::string& ddmmyy) {
 
 std::string conceptoVacacionalDe(const std::string& conceptoLicencia) {
     const std::string licencia = "LICENCIA";
-    return "SALARIO VACACIONAL" + conceptoLicencia.substr(std::min(licencia.size(),
-                                                                   conceptoLicencia.size()));
+    return "SALARIO VACACIONAL" +
+           conceptoLicencia.substr(std::min(licencia.size(), conceptoLicencia.size()));
 }
 
 std::optional<SalarioVacacional> CalculoSalarioVacacionalNew(
@@ -36,8 +38,8 @@ std::optional<SalarioVacacional> CalculoSalarioVacacionalNew(
 
     const double tasas = tasasSobre(ctx, ctx.montograv.aDouble(), dialogo);
     s.total = CalculoDtosobreHaberesNew(monto, tasas);
-    s.explicacion = s.concepto + ": licencia " + pesos(monto) + " menos aportes " +
-                    numero(tasas) + "% = " + pesos(s.total) + ".";
+    s.explicacion = s.concepto + ": licencia " + pesos(monto) + " menos aportes " + numero(tasas) +
+                    "% = " + pesos(s.total) + ".";
 
     const std::string fecha = ctx.periodo.primerDia().iso();
     const std::int64_t codigo = s.codigo;

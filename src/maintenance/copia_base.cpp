@@ -47,7 +47,8 @@ std::vector<TablaCopiada> copiarBase(store::Conexion& origen, store::Conexion& d
             tablas.push_back(t);
     for (const auto& tabla : tablas)
         if (contar(destino, tabla.nombre) != 0)
-            throw store::ErrorBase(3012, "El destino ya tiene datos en la tabla " + tabla.nombre + ".");
+            throw store::ErrorBase(3012,
+                                   "El destino ya tiene datos en la tabla " + tabla.nombre + ".");
 
     std::vector<TablaCopiada> copiadas;
     for (const auto& tabla : tablas) {
@@ -56,7 +57,8 @@ std::vector<TablaCopiada> copiarBase(store::Conexion& origen, store::Conexion& d
         std::vector<store::Valor> valores(tabla.columnas.size());
         for (const auto& fila : filas.filas) {
             for (std::size_t i = 0; i < tabla.columnas.size(); ++i)
-                valores[i] = paraDestino(fila.valor(tabla.columnas[i].nombre), tabla.columnas[i].tipo);
+                valores[i] =
+                    paraDestino(fila.valor(tabla.columnas[i].nombre), tabla.columnas[i].tipo);
             destino.ejecuta(sql, valores);
         }
         const auto enDestino = contar(destino, tabla.nombre);

@@ -125,8 +125,8 @@ void ConexionSqlite::enlazar(sqlite3_stmt* s, const std::vector<Valor>& parametr
         else if (const auto* t = std::get_if<std::string>(&v))
             // Sin copia: los parámetros viven hasta que liberar() borra los enlaces,
             // antes de volver de la consulta o la ejecución.
-            codigo = sqlite3_bind_text(s, i + 1, t->data(), static_cast<int>(t->size()),
-                                       SQLITE_STATIC);
+            codigo =
+                sqlite3_bind_text(s, i + 1, t->data(), static_cast<int>(t->size()), SQLITE_STATIC);
         else
             codigo = sqlite3_bind_null(s, i + 1);
         if (codigo != SQLITE_OK) fallar(codigo);

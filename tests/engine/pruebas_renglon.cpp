@@ -52,8 +52,7 @@ TEST_P(Renglon, DosLicenciasDeUnMensual) {
         return r.vacio() ? std::string("nada")
                          : common::numeroATexto(r.primera().real("cant")) + " " +
                                common::numeroATexto(r.primera().real("total")) + " " +
-                               r.primera().texto("desdelic") + " " +
-                               r.primera().texto("hastalic");
+                               r.primera().texto("desdelic") + " " + r.primera().texto("hastalic");
     };
     const std::string periodo =
         "Período de Licencia (largo de fechas + el guión = 17)|Modifique las fechas desde y hasta.";

@@ -19,7 +19,7 @@ using store::Valor;
 namespace {
 
 class CopiaBase : public store::prueba::BaseVacia {
-protected:
+  protected:
     std::unique_ptr<store::Conexion> sqlite(const std::string& nombre) {
         const auto ruta = std::filesystem::temp_directory_path() /
                           ("nomira-copia-" + std::to_string(::getpid()) + "-" + nombre);
@@ -55,16 +55,21 @@ void llenar(store::Conexion& c) {
     c.ejecuta("UPDATE configuracion SET usu1 = 'ADMIN', cat1 = '1', tiporec = 'Courier New'");
     c.ejecuta("INSERT INTO empresas (empresa, nroemp, fechainsc) VALUES (?, ?, ?)",
               {std::string("O'Hara & Cía."), std::int64_t{7}, std::string("2024-02-29")});
-    c.ejecuta("INSERT INTO personal (empresa, nombre, sueldo, fechaing, fechaeg) VALUES (?, ?, ?, ?, ?)",
-              {std::string("O'Hara & Cía."), std::string("PEÑA_DÍAZ, JOSÉ"), std::string("25000.50"),
-               std::string("2020-01-31"), Nulo{}});
+    c.ejecuta(
+        "INSERT INTO personal (empresa, nombre, sueldo, fechaing, fechaeg) VALUES (?, ?, ?, ?, ?)",
+        {std::string("O'Hara & Cía."), std::string("PEÑA_DÍAZ, JOSÉ"), std::string("25000.50"),
+         std::string("2020-01-31"), Nulo{}});
     for (int i = 1; i <= 30; ++i)
-        c.ejecuta("INSERT INTO habydesc (empresa, nombre, fecha, codigo, concepto, tipo, cant, total) "
-                  "VALUES (?, ?, ?, ?, ?, ?, ?, ?)",
-                  {std::string("O'Hara & Cía."), std::string("PEÑA_DÍAZ, JOSÉ"), std::string("2026-02-01"),
-                   std::int64_t{i}, "CONCEPTO " + std::to_string(i), std::string(i % 2 ? "Hab" : "Des"),
-                   0.5 * i, common::Dinero::desdeDouble(1234567.8901 / i).aDouble()});
-    c.ejecuta("INSERT INTO definiciondevariables (nombre, fecha, valor) VALUES ('BPC', '2026-01-01', 6864)");
+        c.ejecuta(
+            "INSERT INTO habydesc (empresa, nombre, fecha, codigo, concepto, tipo, cant, total) "
+            "VALUES (?, ?, ?, ?, ?, ?, ?, ?)",
+            {std::string("O'Hara & Cía."), std::string("PEÑA_DÍAZ, JOSÉ"),
+             std::string("2026-02-01"), std::int64_t{i}, "CONCEPTO " + std::to_string(i),
+             std::string(i % 2 ? "Hab" : "Des"), 0.5 * i,
+             common::Dinero::desdeDouble(1234567.8901 / i).aDouble()});
+    c.ejecuta(
+        "INSERT INTO definiciondevariables (nombre, fecha, valor) VALUES ('BPC', '2026-01-01', "
+        "6864)");
     c.ejecuta("INSERT INTO paises (nombre) VALUES ('01-URUGUAY')");
 }
 
@@ -74,7 +79,8 @@ TEST_P(CopiaBase, IdaYVueltaDejaLasMismasFilas) {
     auto origen = sqlite("origen.db");
     llenar(*origen);
     std::vector<std::string> avance;
-    const auto copiadas = maintenance::copiarBase(*origen, c(), [&](const auto& t) { avance.push_back(t.tabla); });
+    const auto copiadas =
+        maintenance::copiarBase(*origen, c(), [&](const auto& t) { avance.push_back(t.tabla); });
     ASSERT_EQ(copiadas.size(), store::esquema().size() + store::tablasAuxiliares().size());
     EXPECT_EQ(avance.front(), "personal");
     const auto habydesc = std::find_if(copiadas.begin(), copiadas.end(),
@@ -102,7 +108,8 @@ NOMIRA_PARA_CADA_MOTOR(CopiaBase);
 class Respaldo : public store::prueba::BasePrueba {};
 
 TEST_P(Respaldo, LaCopiaTieneLosDatosYNoQuedaNadaAMedias) {
-    const auto carpeta = std::filesystem::temp_directory_path() / ("nomira-respaldo-" + std::to_string(::getpid()));
+    const auto carpeta =
+        std::filesystem::temp_directory_path() / ("nomira-respaldo-" + std::to_string(::getpid()));
     std::filesystem::create_directories(carpeta);
     c().ejecuta("INSERT INTO empresas (empresa, nroemp) VALUES ('O''Hara', 3)");
     const auto copia = carpeta / "copia.bak";
@@ -117,7 +124,8 @@ TEST_P(Respaldo, LaCopiaTieneLosDatosYNoQuedaNadaAMedias) {
         EXPECT_EQ(firma, "PGDMP");
     } else {
         auto vuelta = store::abrir(copia.string());
-        EXPECT_EQ(vuelta->consulta("SELECT empresa FROM empresas").primera().texto("empresa"), "O'Hara");
+        EXPECT_EQ(vuelta->consulta("SELECT empresa FROM empresas").primera().texto("empresa"),
+                  "O'Hara");
     }
     // Un destino imposible falla sin dejar rastro.
     EXPECT_ANY_THROW(maintenance::respaldarBase(c(), carpeta / "no" / "existe.bak"));

@@ -30,7 +30,9 @@ TEST(TablasDeLaSentencia, LasQueSiguenAFromJoinIntoYUpdate) {
 
 TEST_P(Recordada, RespondeDeMemoriaHastaQueSeEscribeLoLeido) {
     ConexionRecordada r(c());
-    const auto paises = [&] { return r.consulta("SELECT nombre FROM paises ORDER BY nombre").filas.size(); };
+    const auto paises = [&] {
+        return r.consulta("SELECT nombre FROM paises ORDER BY nombre").filas.size();
+    };
     const auto deptos = [&](const std::string& n) {
         return r.consulta("SELECT nombre FROM depto WHERE nombre = ?", {n}).filas.size();
     };

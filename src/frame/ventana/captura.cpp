@@ -52,7 +52,8 @@ int capturarPantallas(frame::Sesion& sesion, const std::filesystem::path& carpet
         QApplication::processEvents();
     }
     ventana.ejecutar("Contenido");
-    if (auto* ayuda = ventana.findChild<QWidget*>("Ayuda")) escritas += guardar(ayuda, carpeta, "Ayuda");
+    if (auto* ayuda = ventana.findChild<QWidget*>("Ayuda"))
+        escritas += guardar(ayuda, carpeta, "Ayuda");
     ventana.terminar();
     return escritas;
 }

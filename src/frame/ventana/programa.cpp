@@ -1,11 +1,11 @@
 #include "frame/ventana/programa.h"
 
+#include <unistd.h>
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QTranslator>
-#include <unistd.h>
 #include <QMessageBox>
+#include <QTranslator>
 #include <cstdlib>
 #include <iostream>
 
