@@ -273,15 +273,11 @@ long eliminarDelMes(store::Conexion& base, const std::string& empresa, const std
                     common::Dialogo& dialogo) {
     if (!dialogo.confirmar(titulo, "¿Desea continuar?")) return -1;
     store::Transaccion t(base);
-    const std::vector<store::Valor> claves = {empresa, nombre, mes.primerDia().iso()};
-    const auto borradas = base.ejecuta(
-        std::string("DELETE FROM habydesc WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
-                    "tipo = '") +
-            tipo + "'",
-        claves);
+    const auto borradas =
+        borrarTipoDelMes(base, TablaLiquidacion::Habydesc, empresa, nombre, mes, tipo);
     if (std::string(tipo) == "Hab" && borradas > 0)
         base.ejecuta("DELETE FROM salvacacional WHERE empresa = ? AND nombre = ? AND fecha = ?",
-                     claves);
+                     {empresa, nombre, mes.primerDia().iso()});
     podarExplicaciones(base, TablaLiquidacion::Habydesc, empresa, mes, nombre);
     t.confirmar();
     return static_cast<long>(borradas);

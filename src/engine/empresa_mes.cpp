@@ -9,15 +9,21 @@
 namespace nomira::engine {
 
 std::vector<master::Persona> personasPorCantbfc(store::Conexion& base, const std::string& empresa) {
-    std::vector<master::Persona> personas;
+    std::vector<master::Persona> leidas;
     for (const auto& f :
          base.consulta("SELECT * FROM personal WHERE empresa = ? ORDER BY nombre", {empresa}).filas)
-        personas.push_back(master::leerRegistro(f, master::camposPersona()));
+        leidas.push_back(master::leerRegistro(f, master::camposPersona()));
     // cantbfc es texto en la tabla: se ordena por su valor, así un vacío o un
-    // Null cuenta 0 igual en los dos motores.
-    std::stable_sort(personas.begin(), personas.end(), [](const auto& a, const auto& b) {
-        return common::textoANumero(a.cantbfc) < common::textoANumero(b.cantbfc);
-    });
+    // Null cuenta 0 igual en los dos motores. Se ordenan las posiciones y no
+    // las fichas, que son grandes.
+    std::vector<std::pair<double, std::size_t>> orden;
+    for (std::size_t i = 0; i < leidas.size(); ++i)
+        orden.emplace_back(common::textoANumero(leidas[i].cantbfc), i);
+    std::stable_sort(orden.begin(), orden.end(),
+                     [](const auto& a, const auto& b) { return a.first < b.first; });
+    std::vector<master::Persona> personas;
+    personas.reserve(leidas.size());
+    for (const auto& [cantbfc, i] : orden) personas.push_back(std::move(leidas[i]));
     return personas;
 }
 

@@ -1,37 +1,98 @@
 #include "engine/explicaciones.h"
 
 #include <map>
+#include <set>
 
 namespace nomira::engine {
+
+namespace {
+
+// Las explicaciones de una persona, un mes y una tabla van en una sola fila de
+// explicacionesmes: cada una es "código␟texto" y se separan con ␞ (los
+// separadores de unidad y de registro de ASCII, que ningún texto lleva).
+constexpr char kUnidad = '\x1f';
+constexpr char kRegistro = '\x1e';
+
+using PorCodigo = std::map<long, std::string>;
+
+PorCodigo desarmar(const std::string& texto, PorCodigo m = {}) {
+    std::size_t i = 0;
+    while (i < texto.size()) {
+        auto fin = texto.find(kRegistro, i);
+        if (fin == std::string::npos) fin = texto.size();
+        const auto corte = texto.find(kUnidad, i);
+        if (corte != std::string::npos && corte < fin)
+            m[std::stol(texto.substr(i, corte - i))] = texto.substr(corte + 1, fin - corte - 1);
+        i = fin + 1;
+    }
+    return m;
+}
+
+std::string armar(const PorCodigo& m) {
+    std::string texto;
+    for (const auto& [codigo, explicacion] : m) {
+        if (!texto.empty()) texto += kRegistro;
+        texto += std::to_string(codigo) + kUnidad + explicacion;
+    }
+    return texto;
+}
+
+std::vector<store::Valor> clave(TablaLiquidacion tabla, const std::string& empresa,
+                                const std::string& nombre, const common::Mes& mes) {
+    return {empresa, nombre, mes.primerDia().iso(), std::string(nombreTabla(tabla))};
+}
+
+constexpr const char* kDonde = " WHERE empresa = ? AND nombre = ? AND fecha = ? AND tabla = ?";
+
+// Las de la persona en el mes y si había fila guardada.
+std::pair<PorCodigo, bool> leer(store::Conexion& base, const std::vector<store::Valor>& k) {
+    const auto r = base.consulta(std::string("SELECT texto FROM explicacionesmes") + kDonde, k);
+    PorCodigo m;
+    for (const auto& f : r.filas) m = desarmar(f.texto(std::size_t{0}), std::move(m));
+    return {std::move(m), !r.vacio()};
+}
+
+void escribir(store::Conexion& base, std::vector<store::Valor> k, const PorCodigo& m,
+              bool habia) {
+    if (habia && m.empty()) {
+        base.ejecuta(std::string("DELETE FROM explicacionesmes") + kDonde, k);
+        return;
+    }
+    const auto texto = armar(m);
+    if (habia) {
+        k.insert(k.begin(), texto);
+        base.ejecuta(std::string("UPDATE explicacionesmes SET texto = ?") + kDonde, k);
+    } else if (!m.empty()) {
+        k.push_back(texto);
+        base.ejecuta(
+            "INSERT INTO explicacionesmes (empresa, nombre, fecha, tabla, texto) VALUES (?, ?, "
+            "?, ?, ?)",
+            k);
+    }
+}
+
+// Deja en `m` sólo las de los códigos que siguen teniendo fila.
+bool podar(PorCodigo& m, const std::set<long>& codigos) {
+    const auto antes = m.size();
+    std::erase_if(m, [&](const auto& e) { return !codigos.count(e.first); });
+    return m.size() != antes;
+}
+
+}  // namespace
 
 void guardarExplicaciones(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
                           const std::string& nombre, const common::Mes& mes,
                           const std::vector<FilaLiquidada>& filas) {
+    const auto k = clave(tabla, empresa, nombre, mes);
+    auto [m, habia] = leer(base, k);
+    bool cambio = false;
     // Un código escrito dos veces queda con la última.
-    std::map<long, const std::string*> porCodigo;
     for (const auto& f : filas)
-        if (!f.explicacion.empty()) porCodigo[f.fila.codigo] = &f.explicacion;
-    if (porCodigo.empty()) return;
-
-    const std::string t = nombreTabla(tabla);
-    const std::string fecha = mes.primerDia().iso();
-    std::vector<store::Valor> borrar = {empresa, nombre, fecha, t};
-    std::vector<store::Valor> insertar;
-    std::string marcas, tuplas;
-    for (const auto& [codigo, texto] : porCodigo) {
-        borrar.emplace_back(std::int64_t{codigo});
-        marcas += marcas.empty() ? "?" : ", ?";
-        tuplas += tuplas.empty() ? "(?, ?, ?, ?, ?, ?)" : ", (?, ?, ?, ?, ?, ?)";
-        insertar.insert(insertar.end(), {empresa, nombre, fecha, t, std::int64_t{codigo}, *texto});
-    }
-    base.ejecuta(
-        "DELETE FROM explicaciones WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
-        "tabla = ? AND codigo IN (" +
-            marcas + ")",
-        borrar);
-    base.ejecuta(
-        "INSERT INTO explicaciones (empresa, nombre, fecha, tabla, codigo, texto) VALUES " + tuplas,
-        insertar);
+        if (!f.explicacion.empty()) {
+            m[f.fila.codigo] = f.explicacion;
+            cambio = true;
+        }
+    if (cambio) escribir(base, k, m, habia);
 }
 
 void guardarExplicacion(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
@@ -45,26 +106,41 @@ void guardarExplicacion(store::Conexion& base, TablaLiquidacion tabla, const std
 std::string leerExplicacion(store::Conexion& base, TablaLiquidacion tabla,
                             const std::string& empresa, const std::string& nombre,
                             const common::Mes& mes, long codigo) {
-    const auto r = base.consulta(
-        "SELECT texto FROM explicaciones WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
-        "tabla = ? AND codigo = ?",
-        {empresa, nombre, mes.primerDia().iso(), std::string(nombreTabla(tabla)),
-         std::int64_t{codigo}});
-    return r.vacio() ? std::string() : r.primera().texto("texto");
+    const auto m = leer(base, clave(tabla, empresa, nombre, mes)).first;
+    const auto it = m.find(codigo);
+    return it == m.end() ? std::string() : it->second;
 }
 
 void podarExplicaciones(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
                         const common::Mes& mes, const std::string& nombre) {
     const std::string t = nombreTabla(tabla);
-    std::vector<store::Valor> valores = {empresa, mes.primerDia().iso(), t};
-    if (!nombre.empty()) valores.emplace_back(nombre);
-    base.ejecuta("DELETE FROM explicaciones WHERE empresa = ? AND fecha = ? AND tabla = ?" +
-                     std::string(nombre.empty() ? "" : " AND nombre = ?") +
-                     " AND NOT EXISTS (SELECT 1 FROM " + t +
-                     " f WHERE f.empresa = explicaciones.empresa AND f.nombre = "
-                     "explicaciones.nombre AND f.fecha = explicaciones.fecha AND f.codigo = "
-                     "explicaciones.codigo)",
-                 valores);
+    const std::string fecha = mes.primerDia().iso();
+    const std::string porPersona = nombre.empty() ? "" : " AND nombre = ?";
+    std::vector<store::Valor> donde = {empresa, fecha};
+    if (!nombre.empty()) donde.emplace_back(nombre);
+
+    std::map<std::string, std::set<long>> codigos;
+    for (const auto& f : base.consulta("SELECT nombre, codigo FROM " + t +
+                                           " WHERE empresa = ? AND fecha = ?" + porPersona,
+                                       donde)
+                             .filas)
+        codigos[f.texto(std::size_t{0})].insert(static_cast<long>(f.entero(std::size_t{1})));
+
+    auto conTabla = donde;
+    conTabla.insert(conTabla.begin() + 2, t);
+    std::map<std::string, PorCodigo> guardadas;
+    for (const auto& f :
+         base.consulta("SELECT nombre, texto FROM explicacionesmes WHERE empresa = ? AND fecha = "
+                       "? AND tabla = ?" +
+                           porPersona,
+                       conTabla)
+             .filas) {
+        auto& m = guardadas[f.texto(std::size_t{0})];
+        m = desarmar(f.texto(std::size_t{1}), std::move(m));
+    }
+    for (auto& [persona, m] : guardadas)
+        if (podar(m, codigos[persona]))
+            escribir(base, clave(tabla, empresa, persona, mes), m, true);
 }
 
 }  // namespace nomira::engine

@@ -1,5 +1,7 @@
 #include "engine/filas_mes.h"
 
+#include <algorithm>
+
 #include "store/recordada.h"
 
 namespace nomira::engine {
@@ -24,12 +26,12 @@ std::vector<store::Valor> claves(const std::string& empresa, const std::string& 
 }
 
 // La consulta de leerFilas; en habydesc y egresos, codigo, concepto, tipo,
-// gravado, ipd y total por código.
+// gravado, ipd, total y cant por código.
 std::string sqlFilas(TablaLiquidacion tabla) {
     const bool agui = tabla == TablaLiquidacion::Aguinaldos;
     return std::string("SELECT ") +
            (agui ? "concepto, tipo, total FROM aguinaldos"
-                 : std::string("codigo, concepto, tipo, gravado, ipd, total FROM ") +
+                 : std::string("codigo, concepto, tipo, gravado, ipd, total, cant FROM ") +
                        nombreTabla(tabla)) +
            " WHERE empresa = ? AND nombre = ? AND fecha >= ? AND fecha <= ?" +
            (agui ? "" : " ORDER BY codigo");
@@ -44,7 +46,7 @@ std::vector<FilaMes> leerFilas(store::Conexion& base, TablaLiquidacion tabla,
     const std::string sql = sqlFilas(tabla);
     // Por posición, la de la lista del SELECT: se leen muchas veces por persona.
     // aguinaldos: concepto, tipo, total; las otras: codigo, concepto, tipo,
-    // gravado, ipd, total.
+    // gravado, ipd, total, cant.
     const std::size_t c = agui ? 0 : 1;
     std::vector<FilaMes> filas;
     for (const auto& f : base.consulta(sql, claves(empresa, nombre, desde, hasta)).filas) {
@@ -53,6 +55,7 @@ std::vector<FilaMes> leerFilas(store::Conexion& base, TablaLiquidacion tabla,
             m.codigo = static_cast<long>(f.entero(std::size_t{0}));
             m.gravado = f.texto(std::size_t{3});
             m.ipd = f.texto(std::size_t{4});
+            m.cant = f.real(std::size_t{6});
         }
         m.concepto = f.texto(c);
         m.tipo = f.texto(c + 1);
@@ -100,6 +103,7 @@ void actualizarLeidas(store::Resultado& r, const FilaGenerada& f, bool insertada
             for (std::size_t i = 0; i < x.tamano(); ++i) v.push_back(x.valor(i));
             v[1] = f.concepto;
             v[5] = f.total.aDouble();
+            v[6] = f.cant;
             x = store::Fila(&r.columnas, std::move(v));
         }
         return;
@@ -107,7 +111,12 @@ void actualizarLeidas(store::Resultado& r, const FilaGenerada& f, bool insertada
     auto pos = r.filas.begin();
     while (pos != r.filas.end() && codigoDe(*pos) <= codigo) ++pos;
     r.filas.insert(pos, store::Fila(&r.columnas, {codigo, f.concepto, f.tipo, f.gravado, f.ipd,
-                                                  f.total.aDouble()}));
+                                                  f.total.aDouble(), f.cant}));
+}
+
+// Quita de las filas del mes recordadas las del tipo borrado.
+void quitarLeidas(store::Resultado& r, const std::string& tipo) {
+    std::erase_if(r.filas, [&](const store::Fila& x) { return x.texto(std::size_t{2}) == tipo; });
 }
 
 // UPDATE por código (sólo si `probar`) y, si no cambió nada, INSERT. Por una
@@ -131,6 +140,10 @@ void escribir(store::Conexion& base, TablaLiquidacion tabla, const std::string& 
                                                if (afectadas > 0) actualizarLeidas(r, f, insertada);
                                            });
     };
+    // Si las filas del mes están recordadas, ya se sabe si el código tiene fila.
+    if (const auto* leidas = recordada ? recordada->recordado(sqlFilas(tabla), delMes) : nullptr)
+        probar = std::any_of(leidas->filas.begin(), leidas->filas.end(),
+                             [&](const store::Fila& x) { return x.entero(std::size_t{0}) == codigo; });
     if (probar &&
         escribirLeidas(
             "UPDATE " + t +
@@ -159,12 +172,21 @@ std::set<long> codigosDelMes(store::Conexion& base, TablaLiquidacion tabla,
                              const std::string& empresa, const std::string& nombre,
                              const common::Mes& mes) {
     std::set<long> codigos;
-    for (const auto& f : base.consulta("SELECT codigo FROM " + std::string(nombreTabla(tabla)) +
-                                           " WHERE empresa = ? AND nombre = ? AND fecha = ?",
-                                       {empresa, nombre, mes.primerDia().iso()})
-                             .filas)
-        codigos.insert(static_cast<long>(f.entero("codigo")));
+    for (const auto& f : leerFilasDelMes(base, tabla, empresa, nombre, mes)) codigos.insert(f.codigo);
     return codigos;
+}
+
+std::int64_t borrarTipoDelMes(store::Conexion& base, TablaLiquidacion tabla,
+                              const std::string& empresa, const std::string& nombre,
+                              const common::Mes& mes, const std::string& tipo) {
+    const std::string sql = "DELETE FROM " + std::string(nombreTabla(tabla)) +
+                            " WHERE empresa = ? AND nombre = ? AND fecha = ? AND tipo = ?";
+    const std::vector<store::Valor> p = {empresa, nombre, mes.primerDia().iso(), tipo};
+    auto* recordada = dynamic_cast<store::ConexionRecordada*>(&base);
+    if (!recordada) return base.ejecuta(sql, p);
+    return recordada->ejecutaConCambio(
+        sql, p, sqlFilas(tabla), claves(empresa, nombre, mes, mes),
+        [&](store::Resultado& r, std::int64_t) { quitarLeidas(r, tipo); });
 }
 
 void escribirFila(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,

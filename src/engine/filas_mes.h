@@ -23,6 +23,7 @@ struct FilaMes {
     long codigo = 0;
     std::string concepto, tipo, gravado, ipd;
     common::Dinero total;
+    double cant = 0;
 };
 
 // Las filas de la persona con fecha del primer día de `desde` al de `hasta`,
@@ -71,6 +72,11 @@ std::set<long> codigosDelMes(store::Conexion& base, TablaLiquidacion tabla,
 void escribirFila(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
                   const std::string& nombre, const common::Mes& mes, const FilaGenerada& fila,
                   std::set<long>& codigos);
+
+// Borra las filas del mes de ese tipo ("Hab" o "Des") y devuelve cuántas.
+std::int64_t borrarTipoDelMes(store::Conexion& base, TablaLiquidacion tabla,
+                              const std::string& empresa, const std::string& nombre,
+                              const common::Mes& mes, const std::string& tipo);
 
 // --- Sumas por prefijo del texto de la fila ---
 

@@ -39,11 +39,9 @@ std::string fecha(const common::Mes& mes) {
 std::vector<double> cantidadesDe(store::Conexion& base, const MesPersona& mp,
                                  const std::string& concepto) {
     std::vector<double> cants;
-    for (const auto& f : base.consulta("SELECT cant FROM habydesc WHERE empresa = ? AND nombre = ? "
-                                       "AND fecha = ? AND concepto = ? ORDER BY codigo",
-                                       {mp.empresa, mp.nombre, fecha(mp.mes), concepto})
-                             .filas)
-        cants.push_back(f.real("cant"));
+    for (const auto& f :
+         leerFilasDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes))
+        if (f.concepto == concepto) cants.push_back(f.cant);
     return cants;
 }
 
@@ -149,10 +147,8 @@ ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula&
         r.aviso = kYaEnEgresos;
         return r;
     }
-    const auto borradas = base.ejecuta(
-        "DELETE FROM habydesc WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
-        "tipo = 'Des'",
-        {mp.empresa, mp.nombre, fecha(mp.mes)});
+    const auto borradas =
+        borrarTipoDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, "Des");
     if (borradas > 0)
         podarExplicaciones(base, TablaLiquidacion::Habydesc, mp.empresa, mp.mes, mp.nombre);
     if (opciones.calculoCant) opciones.calculoCant(ctx, dialogo);

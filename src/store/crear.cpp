@@ -26,7 +26,7 @@ constexpr Indice kIndices[] = {
     {"definiciondevariables", "nombre, fecha"},
     {"conceptos", "codigo"},
     {"concpermxpers", "empresa, nombre"},
-    {"explicaciones", "empresa, nombre, fecha"},
+    {"explicacionesmes", "empresa, nombre, fecha"},
 };
 
 void crearIndice(Conexion& c, const Indice& i) {
@@ -42,6 +42,11 @@ bool indiceDe(const Indice& i, const std::vector<Tabla>& tablas) {
                        [&](const Tabla& t) { return t.nombre == i.tabla; });
 }
 
+bool existeTabla(Conexion& c, const std::string& nombre) {
+    auto tablas = tablasDeLaBase(c);
+    return std::find(tablas.begin(), tablas.end(), nombre) != tablas.end();
+}
+
 void crearTablas(Conexion& c) {
     for (const auto& t : esquema()) c.ejecuta(ddl(t, c.motor()));
     for (const auto& i : kIndices)
@@ -54,6 +59,20 @@ void crearTablasAuxiliares(Conexion& c) {
     for (const auto& t : tablasAuxiliares()) c.ejecuta(ddl(t, c.motor()));
     for (const auto& i : kIndices)
         if (indiceDe(i, tablasAuxiliares())) crearIndice(c, i);
+}
+
+// De la versión 2 a la 3: las explicaciones pasan de una fila por fila
+// liquidada (tabla explicaciones, con su código) a una por persona, mes y tabla.
+void juntarExplicaciones(Conexion& c) {
+    crearTablasAuxiliares(c);
+    if (!existeTabla(c, "explicaciones")) return;
+    const bool pg = c.motor() == Motor::Postgres;
+    c.ejecuta(std::string("INSERT INTO explicacionesmes (empresa, nombre, fecha, tabla, texto) "
+                          "SELECT empresa, nombre, fecha, tabla, ") +
+              (pg ? "string_agg(codigo::text || chr(31) || texto, chr(30))"
+                  : "group_concat(codigo || char(31) || texto, char(30))") +
+              " FROM explicaciones GROUP BY empresa, nombre, fecha, tabla");
+    c.ejecuta("DROP TABLE explicaciones");
 }
 
 // La fila única de configuracion. Impresoras vacías: la predeterminada del
@@ -97,14 +116,9 @@ void fijarVersion(Conexion& c, int version) {
 // pasos[v] lleva una base de la versión v a la v+1. De 0 a 1 es crear las
 // tablas: una base de la versión 0 es una base sin esquema.
 const std::vector<std::function<void(Conexion&)>>& pasos() {
-    static const std::vector<std::function<void(Conexion&)>> lista = {crearTablas,
-                                                                      crearTablasAuxiliares};
+    static const std::vector<std::function<void(Conexion&)>> lista = {
+        crearTablas, crearTablasAuxiliares, juntarExplicaciones};
     return lista;
-}
-
-bool existeTabla(Conexion& c, const std::string& nombre) {
-    auto tablas = tablasDeLaBase(c);
-    return std::find(tablas.begin(), tablas.end(), nombre) != tablas.end();
 }
 
 }  // namespace

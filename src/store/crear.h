@@ -4,7 +4,8 @@
 //
 // La versión vive en una tabla aparte, versionesquema(version INTEGER), con
 // una sola fila, para que los dos motores la lleven igual. La versión 2 agrega
-// las tablas auxiliares del programa (tablasAuxiliares()).
+// las tablas auxiliares del programa (tablasAuxiliares()); la 3 guarda las
+// explicaciones de las filas liquidadas juntas por persona y mes.
 #include <string>
 #include <vector>
 
@@ -12,7 +13,7 @@
 
 namespace nomira::store {
 
-constexpr int kVersionEsquema = 2;
+constexpr int kVersionEsquema = 3;
 
 // Crea lo que falte, en una transacción: tablas en su orden, índices, la fila
 // de configuracion con sus valores iniciales y la versión. Sobre una base ya

@@ -122,8 +122,10 @@ Columna columna(const std::string& palabra) {
 }
 
 constexpr Definicion kAuxiliares[] = {
-    // tabla: "habydesc", "aguinaldos" o "egresos"; una fila por fila liquidada.
-    {"explicaciones", "empresa nombre fecha tabla codigo:e texto"},
+    // Cómo se llegó a cada fila liquidada. tabla: "habydesc", "aguinaldos" o
+    // "egresos"; una fila por persona, mes y tabla, con las de todas sus filas en
+    // texto: "código␟explicación", separadas con ␞ (caracteres 31 y 30).
+    {"explicacionesmes", "empresa nombre fecha tabla texto"},
 };
 
 template <std::size_t N>

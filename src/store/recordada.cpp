@@ -113,6 +113,12 @@ std::int64_t ConexionRecordada::ejecutaConCambio(std::string_view sql,
     return afectadas;
 }
 
+const Resultado* ConexionRecordada::recordado(std::string_view consulta,
+                                              const std::vector<Valor>& parametros) {
+    const auto it = memoria_.find(clave(consulta, parametros));
+    return it != memoria_.end() && vigente(it->second) ? &it->second.resultado : nullptr;
+}
+
 void ConexionRecordada::deshacer() {
     ++general_;
     base_.deshacer();

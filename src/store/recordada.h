@@ -43,6 +43,9 @@ class ConexionRecordada : public Conexion {
                                   const std::vector<Valor>& parametrosConsulta,
                                   const Cambio& cambio);
 
+    // Lo recordado y vigente de esa consulta, sin ir a la base; nulo si no lo hay.
+    const Resultado* recordado(std::string_view consulta, const std::vector<Valor>& parametros);
+
     // Cuántas consultas se respondieron de memoria y cuántas fueron a la base.
     std::size_t recordadas() const { return recordadas_; }
     std::size_t leidas() const { return leidas_; }

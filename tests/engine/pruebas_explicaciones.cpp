@@ -2,12 +2,15 @@
 // fila tecleada, y se van con las filas que se borran.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "common/numeros.h"
 #include "engine/descuentos.h"
 #include "engine/explicaciones.h"
 #include "engine/haberes.h"
 #include "engine/renglon.h"
 #include "pruebas_descuentos_escenario.h"
+#include "store/crear.h"
 
 namespace nomira::engine {
 namespace {
@@ -50,6 +53,48 @@ TEST_P(Explicaciones, AcompananALasFilasYSeVanConEllas) {
     ASSERT_FALSE(eliminarRenglon(*base, *mp, b->concepto, dialogo));
     EXPECT_EQ(explicacion(20), "");
     EXPECT_EQ(explicacion(1), "Sueldo de la ficha: 30,000.00 (se borró la licencia).");
+}
+
+TEST_P(Explicaciones, LaCorridaDeLaEmpresaBorraLasDeLosDescuentosYDejaLasDeLosHaberes) {
+    for (const char* n : {"PEREZ, JUAN", "GOMEZ, ANA"})
+        persona(n, {{"sueldo", "30000"}, {"tiposueldo", "S"}, {"fechaing", "2020-01-01"}});
+    ASSERT_FALSE(ActHamPermxEmpresa(*base, "ACME", marzo, dialogo).fallo);
+    ASSERT_FALSE(ActDesPermxEmpresa(*base, *variables, "ACME", marzo, dialogo).fallo);
+    const auto de = [&](const char* n, long codigo) {
+        return leerExplicacion(*base, TablaLiquidacion::Habydesc, "ACME", n, marzo, codigo);
+    };
+    EXPECT_NE(de("GOMEZ, ANA", 501).find("4,500.00"), std::string::npos) << de("GOMEZ, ANA", 501);
+
+    // Los haberes de la empresa borran antes los descuentos del mes.
+    ASSERT_FALSE(ActHamPermxEmpresa(*base, "ACME", marzo, dialogo).fallo);
+    for (const char* n : {"PEREZ, JUAN", "GOMEZ, ANA"}) {
+        EXPECT_EQ(de(n, 501), "") << n;
+        EXPECT_EQ(de(n, 510), "") << n;
+        EXPECT_NE(de(n, 1).find("30,000.00"), std::string::npos) << n;
+    }
+}
+
+// Una base de la versión 2 tenía una fila por fila liquidada; al ponerla al día
+// quedan juntas por persona y mes, y se leen igual.
+TEST_P(Explicaciones, LasDeUnaBaseAnteriorSeJuntanAlPonerlaAlDia) {
+    ejecutar("DROP TABLE explicacionesmes");
+    ejecutar(std::string("CREATE TABLE explicaciones (empresa TEXT, nombre TEXT, fecha ") +
+             (esPostgres() ? "date" : "TEXT") + ", tabla TEXT, codigo INTEGER, texto TEXT)");
+    ejecutar(
+        "INSERT INTO explicaciones VALUES ('ACME', 'PEREZ, JUAN', '2026-03-01', 'habydesc', 1, "
+        "'Fórmula [SUELDO] = 30000'), ('ACME', 'PEREZ, JUAN', '2026-03-01', 'habydesc', 501, "
+        "'tope'), ('ACME', 'GOMEZ, ANA', '2026-03-01', 'habydesc', 1, 'línea 1\nlínea 2')");
+    ejecutar("UPDATE versionesquema SET version = 2");
+    store::migrar(*base);
+    EXPECT_EQ(store::versionEsquema(*base), store::kVersionEsquema);
+    EXPECT_EQ(explicacion(1), "Fórmula [SUELDO] = 30000");
+    EXPECT_EQ(explicacion(501), "tope");
+    EXPECT_EQ(explicacion(2), "");
+    EXPECT_EQ(leerExplicacion(*base, TablaLiquidacion::Habydesc, "ACME", "GOMEZ, ANA", marzo, 1),
+              "línea 1\nlínea 2");
+    EXPECT_EQ(base->consulta("SELECT * FROM explicacionesmes").filas.size(), 2u);
+    const auto tablas = store::tablasDeLaBase(*base);
+    EXPECT_EQ(std::count(tablas.begin(), tablas.end(), "explicaciones"), 0);
 }
 
 }  // namespace

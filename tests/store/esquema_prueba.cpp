@@ -87,7 +87,7 @@ TEST(Definicion, CantidadesPosicionesYTipos) {
 // Cada tabla creada tiene sus columnas en el orden y con el tipo definidos.
 TEST_P(Esquema, LaBaseCreadaSigueLaDefinicion) {
     auto tablas = tablasDeLaBase(c());
-    EXPECT_EQ(tablas.size(), 41u);  // las 39, versionesquema y explicaciones
+    EXPECT_EQ(tablas.size(), 41u);  // las 39, versionesquema y explicacionesmes
     auto definidas = esquema();
     definidas.insert(definidas.end(), tablasAuxiliares().begin(), tablasAuxiliares().end());
     for (const Tabla& t : definidas) {
@@ -131,19 +131,19 @@ TEST_P(Esquema, VersionRegistradaYMigrarNoRepite) {
     migrar(c());
     EXPECT_EQ(versionEsquema(c()), kVersionEsquema);
     EXPECT_EQ(c().consulta("SELECT * FROM versionesquema").filas.size(), 1u);
-    // Las 39, versionesquema y explicaciones.
+    // Las 39, versionesquema y explicacionesmes.
     EXPECT_EQ(tablasDeLaBase(c()).size(), 41u);
 
     // Una base con las tablas de la primera versión pero sin versión (traída de
     // otro lado) se toma como la 1 y se pone al día sin perder datos.
     c().ejecuta("INSERT INTO paises (nombre) VALUES (?)", {std::string("858-URUGUAY")});
     c().ejecuta("DROP TABLE versionesquema");
-    c().ejecuta("DROP TABLE explicaciones");
+    c().ejecuta("DROP TABLE explicacionesmes");
     EXPECT_EQ(versionEsquema(c()), 0);
     crearBase(c());
     EXPECT_EQ(versionEsquema(c()), kVersionEsquema);
     EXPECT_EQ(c().consulta("SELECT * FROM paises").filas.size(), 1u);
-    EXPECT_TRUE(c().consulta("SELECT * FROM explicaciones").vacio());
+    EXPECT_TRUE(c().consulta("SELECT * FROM explicacionesmes").vacio());
 }
 
 TEST_P(EsquemaVacio, MigrarDesdeNadaCreaLasTablas) {
