@@ -71,7 +71,7 @@ double tasasSobre(ContextoFormula& ctx, double montograv, common::Dialogo& dialo
     d.montograv = montograv;
     d.bpc = ctx.variables->valor("BPC");
     d.tipoaporte = ctx.tipoaporte;
-    if (const auto p = datosPersona(ctx)) conyugeEHijosSNIS(d, p->fila, ctx.periodo, &dialogo);
+    if (const auto p = datosPersona(ctx)) conyugeEHijosSNIS(d, *p->fila, ctx.periodo, &dialogo);
     const auto pf = porcentajesDeConceptos(base);
     return sumaTasas(porcentajeSNIS(d), pf.montepio, pf.frl);
 }

@@ -32,10 +32,14 @@ common::Mes mesDe(const FechaCorta& f) {
 }  // namespace
 
 ConsejoSalarios consejoDeLaEmpresa(store::Conexion& base, const std::string& empresa) {
-    ConsejoSalarios c;
     const auto e = master::leerEmpresa(base, empresa);
-    c.textoGrupo = blancoNada(e ? e->grupoconsal : "");
-    c.textoSubgrupo = blancoNada(e ? e->subgrupoconsal : "");
+    return consejoDeLaEmpresa(base, e ? *e : master::Empresa{});
+}
+
+ConsejoSalarios consejoDeLaEmpresa(store::Conexion& base, const master::Empresa& e) {
+    ConsejoSalarios c;
+    c.textoGrupo = blancoNada(e.grupoconsal);
+    c.textoSubgrupo = blancoNada(e.subgrupoconsal);
     c.codigoGrupo = master::codigoEnCatalogo(base, "grupoconsal", c.textoGrupo);
     const auto r = base.consulta("SELECT nombre2 FROM subgrupoconsal WHERE " +
                                      store::condicionLike(base, "nombre") + " AND " +

@@ -10,6 +10,7 @@
 #include "common/dinero.h"
 #include "common/fechas.h"
 #include "engine/formula.h"
+#include "master/empresas.h"
 #include "store/conexion.h"
 
 namespace nomira::engine {
@@ -23,6 +24,7 @@ struct ConsejoSalarios {
     int grupo = 0, subgrupo = 0;
 };
 ConsejoSalarios consejoDeLaEmpresa(store::Conexion& base, const std::string& empresa);
+ConsejoSalarios consejoDeLaEmpresa(store::Conexion& base, const master::Empresa& empresa);
 
 // El mes de licencia se divide en 25 días en los grupos 12 y 14 y en el 8
 // subgrupo 5, en 24 en el 19 subgrupo 10, y en 30 en los demás.

@@ -26,7 +26,12 @@ std::string codigoCategoria(store::Conexion& base, const std::string& ded, const
     return c.empty() ? "00" : c;
 }
 
-DatosPersona datosDe(master::Persona f) {
+}  // namespace
+
+std::optional<DatosPersona> datosPersona(ContextoFormula& ctx) {
+    const auto& fila = personaDelContexto(ctx);
+    if (!fila) return std::nullopt;
+    const auto& f = *fila;
     DatosPersona p;
     p.tiposueldo = f.tiposueldo;
     p.vinculofun = f.vinculofun;
@@ -39,32 +44,17 @@ DatosPersona datosDe(master::Persona f) {
     p.codigoded = {f.codigoded, f.codigoded2, f.codigoded3};
     p.categoriaded = {f.categoriaded, f.categoriaded2, f.categoriaded3};
     p.fechadesdeded = {f.fechadesdeded, f.fechadesdeded2, f.fechadesdeded3};
-    p.fila = std::move(f);
+    p.fila = fila;
     return p;
-}
-
-}  // namespace
-
-std::optional<DatosPersona> leerDatosPersona(store::Conexion& base, const std::string& empresa,
-                                             const std::string& nombre) {
-    auto f = master::leerPersona(base, empresa, nombre);
-    if (!f) return std::nullopt;
-    return datosDe(std::move(*f));
-}
-
-std::optional<DatosPersona> datosPersona(ContextoFormula& ctx) {
-    const auto& f = personaDelContexto(ctx);
-    if (!f) return std::nullopt;
-    return datosDe(*f);
 }
 
 Deducciones deduccionesDe(const DatosPersona& p, const common::Mes& periodo,
                           master::LectorVariables& variables, common::Dialogo* dialogo) {
     Deducciones d;
-    const std::array<const std::string*, 3> causas = {&p.fila.causaben, &p.fila.causaben2,
-                                                      &p.fila.causaben3};
+    const std::array<const std::string*, 3> causas = {&p.fila->causaben, &p.fila->causaben2,
+                                                      &p.fila->causaben3};
     const std::array<const std::string*, 3> nacimientos = {
-        &p.fila.fechanacben, &p.fila.fechanacben2, &p.fila.fechanacben3};
+        &p.fila->fechanacben, &p.fila->fechanacben2, &p.fila->fechanacben3};
     auto& base = variables.base();
     for (int i = 0; i < 3; ++i) {
         auto& dep = d.dependientes[i];

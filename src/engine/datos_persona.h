@@ -15,15 +15,14 @@
 namespace nomira::engine {
 
 struct DatosPersona {
-    master::Persona fila;  // la fila entera (sexocon, causaben y fechanacben para la escalera)
+    // La fila entera (sexocon, causaben y fechanacben para la escalera).
+    master::PersonaCompartida fila;
     std::string tiposueldo, vinculofun, socmedica;
     double sueldo = 0, cantbfc = 0;
     std::array<std::string, 3> porcentajeben, montoben, fechadesdeben;
     std::array<std::string, 3> codigoded, categoriaded, fechadesdeded;
 };
 
-std::optional<DatosPersona> leerDatosPersona(store::Conexion& base, const std::string& empresa,
-                                             const std::string& nombre);
 // La persona del contexto, leída una vez por empresa y nombre.
 std::optional<DatosPersona> datosPersona(ContextoFormula& ctx);
 

@@ -1,6 +1,7 @@
 #include "engine/descuentos.h"
 
 #include <algorithm>
+#include <set>
 
 #include "common/numeros.h"
 #include "common/texto.h"
@@ -90,25 +91,29 @@ std::optional<FilaLiquidada> arrastreNegativo(store::Conexion& base, const MesPe
     return escribir(base, mp, fila, exp);
 }
 
-// Paso 5: los permanentes de todos y los de la persona, con la exclusión que
-// corresponde a su aportación y vínculo.
+// Paso 5: los permanentes de todos, menos el excluido por su aportación y
+// vínculo, y los que concpermxpers le da a la persona; por código y cada código
+// una vez. La primera consulta es la misma para todos los de una misma
+// exclusión: en la corrida de la empresa se lee una vez.
 std::vector<long> codigosDescuento(store::Conexion& base, const MesPersona& mp, double cantbfc) {
     const auto excluido = conceptoExcluido(cantbfc, mp.tipoaporte, mp.vinculofun);
-    std::string sql =
-        "SELECT DISTINCT conceptos.codigo FROM conceptos LEFT JOIN concpermxpers ON "
-        "conceptos.codigo = concpermxpers.codigo WHERE (concpermxpers.empresa = ? AND "
-        "concpermxpers.nombre = ? AND concpermxpers.tipo = 'Des') OR (conceptos.tipo = 'Des' AND "
-        "conceptos.permanente = 'Si'";
-    std::vector<store::Valor> p = {mp.empresa, mp.nombre};
+    std::string sql = "SELECT codigo FROM conceptos WHERE tipo = 'Des' AND permanente = 'Si'";
+    std::vector<store::Valor> p;
     if (!excluido.empty()) {
-        sql += " AND conceptos.concepto <> ?";
+        sql += " AND concepto <> ?";
         p.push_back(excluido);
     }
-    sql += ") ORDER BY conceptos.codigo";
-    std::vector<long> codigos;
+    std::set<long> codigos;
     for (const auto& f : base.consulta(sql, p).filas)
-        codigos.push_back(static_cast<long>(f.entero("codigo")));
-    return codigos;
+        codigos.insert(static_cast<long>(f.entero(std::size_t{0})));
+    for (const auto& f :
+         base.consulta("SELECT concpermxpers.codigo FROM concpermxpers JOIN conceptos ON "
+                       "conceptos.codigo = concpermxpers.codigo WHERE concpermxpers.empresa = ? "
+                       "AND concpermxpers.nombre = ? AND concpermxpers.tipo = 'Des'",
+                       {mp.empresa, mp.nombre})
+             .filas)
+        codigos.insert(static_cast<long>(f.entero(std::size_t{0})));
+    return {codigos.begin(), codigos.end()};
 }
 
 }  // namespace
@@ -235,22 +240,24 @@ ResultadoEmpresa ActDesPermxEmpresa(store::Conexion& base, master::LectorVariabl
                                     const std::string& empresa, const common::Mes& mes,
                                     common::Dialogo& dialogo, const ProgresoEmpresa& progreso,
                                     const CancelarEmpresa& cancelar) {
-    auto porPersona = [&](store::Conexion& base, const master::Persona& p) {
+    const auto leida = leerEmpresaDelMes(base, empresa);
+    auto porPersona = [&](store::Conexion& base, const master::PersonaCompartida& p) {
         ResultadoPersona r;
         r.empresa = empresa;
-        r.nombre = p.nombre;
+        r.nombre = p->nombre;
         r.mes = mes;
-        if (hayEgresos(base, empresa, p.nombre, mes)) {
+        if (hayEgresos(base, empresa, p->nombre, mes)) {
             r.aviso = kConEgresos;
             return r;
         }
         ContextoFormula ctx;
-        ctx.personaLeida = ContextoFormula::PersonaLeida{empresa, p.nombre, p};
-        auto mp = BuscarVerif(base, variables, empresa, p.nombre, mes, ctx, dialogo);
+        ctx.personaLeida = ContextoFormula::PersonaLeida{empresa, p->nombre, p};
+        auto mp = BuscarVerif(base, variables, empresa, p->nombre, mes, ctx, dialogo,
+                              leida ? &*leida : nullptr);
         if (!mp) return r;
         // Sin haberes no hay descuentos.
         const auto filas =
-            leerFilasDelMes(base, TablaLiquidacion::Habydesc, empresa, p.nombre, mes);
+            leerFilasDelMes(base, TablaLiquidacion::Habydesc, empresa, p->nombre, mes);
         if (std::none_of(filas.begin(), filas.end(), [](auto& f) { return f.tipo == "Hab"; }))
             return r;
         const auto horas = CalculoCant2(ctx, dialogo);

@@ -32,16 +32,18 @@ ResultadoEmpresa recorrerEmpresa(store::Conexion& base, const std::string& empre
                                  const ProgresoEmpresa& progreso, const CancelarEmpresa& cancelar) {
     ResultadoEmpresa r;
     store::ConexionRecordada recordada(base);
-    const auto personas = personasPorCantbfc(recordada, empresa);
+    std::vector<master::PersonaCompartida> personas;
+    for (auto& p : personasPorCantbfc(recordada, empresa))
+        personas.push_back(std::make_shared<const master::Persona>(std::move(p)));
     for (std::size_t i = 0; i < personas.size(); ++i) {
         if (cancelar && cancelar()) {
             r.cancelado = true;
             break;
         }
         const auto& p = personas[i];
-        if (progreso) progreso(i + 1, personas.size(), p.nombre);
-        if (!activaEnElMes(p, mes)) {
-            r.inactivas.push_back(p.nombre);
+        if (progreso) progreso(i + 1, personas.size(), p->nombre);
+        if (!activaEnElMes(*p, mes)) {
+            r.inactivas.push_back(p->nombre);
             continue;
         }
         try {
@@ -51,7 +53,7 @@ ResultadoEmpresa recorrerEmpresa(store::Conexion& base, const std::string& empre
             r.personas.push_back(std::move(hecho));
         } catch (...) {
             r.fallo = std::current_exception();
-            r.personaFallida = p.nombre;
+            r.personaFallida = p->nombre;
             break;
         }
     }

@@ -24,7 +24,8 @@ std::vector<master::Persona> personasPorCantbfc(store::Conexion& base, const std
 // La generación de una persona, dentro de la transacción de esa persona. La
 // conexión que recibe recuerda lo leído durante toda la corrida (la empresa,
 // los conceptos, las escalas se leen una vez); todo lo de la corrida va por ella.
-using PorPersona = std::function<ResultadoPersona(store::Conexion&, const master::Persona&)>;
+using PorPersona =
+    std::function<ResultadoPersona(store::Conexion&, const master::PersonaCompartida&)>;
 // Antes de cada persona: i de n (desde 1) y su nombre.
 using ProgresoEmpresa =
     std::function<void(std::size_t i, std::size_t n, const std::string& nombre)>;

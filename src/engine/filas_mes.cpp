@@ -27,7 +27,7 @@ std::vector<store::Valor> claves(const std::string& empresa, const std::string& 
 
 // La consulta de leerFilas; en habydesc y egresos, codigo, concepto, tipo,
 // gravado, ipd, total y cant por código.
-std::string sqlFilas(TablaLiquidacion tabla) {
+std::string armarSqlFilas(TablaLiquidacion tabla) {
     const bool agui = tabla == TablaLiquidacion::Aguinaldos;
     return std::string("SELECT ") +
            (agui ? "concepto, tipo, total FROM aguinaldos"
@@ -37,13 +37,20 @@ std::string sqlFilas(TablaLiquidacion tabla) {
            (agui ? "" : " ORDER BY codigo");
 }
 
+const std::string& sqlFilas(TablaLiquidacion tabla) {
+    static const std::string sql[] = {armarSqlFilas(TablaLiquidacion::Habydesc),
+                                      armarSqlFilas(TablaLiquidacion::Aguinaldos),
+                                      armarSqlFilas(TablaLiquidacion::Egresos)};
+    return sql[static_cast<int>(tabla)];
+}
+
 }  // namespace
 
 std::vector<FilaMes> leerFilas(store::Conexion& base, TablaLiquidacion tabla,
                                const std::string& empresa, const std::string& nombre,
                                const common::Mes& desde, const common::Mes& hasta) {
     const bool agui = tabla == TablaLiquidacion::Aguinaldos;
-    const std::string sql = sqlFilas(tabla);
+    const auto& sql = sqlFilas(tabla);
     // Por posición, la de la lista del SELECT: se leen muchas veces por persona.
     // aguinaldos: concepto, tipo, total; las otras: codigo, concepto, tipo,
     // gravado, ipd, total, cant.
@@ -142,8 +149,9 @@ void escribir(store::Conexion& base, TablaLiquidacion tabla, const std::string& 
     };
     // Si las filas del mes están recordadas, ya se sabe si el código tiene fila.
     if (const auto* leidas = recordada ? recordada->recordado(sqlFilas(tabla), delMes) : nullptr)
-        probar = std::any_of(leidas->filas.begin(), leidas->filas.end(),
-                             [&](const store::Fila& x) { return x.entero(std::size_t{0}) == codigo; });
+        probar = std::any_of(leidas->filas.begin(), leidas->filas.end(), [&](const store::Fila& x) {
+            return x.entero(std::size_t{0}) == codigo;
+        });
     if (probar &&
         escribirLeidas(
             "UPDATE " + t +
@@ -172,7 +180,8 @@ std::set<long> codigosDelMes(store::Conexion& base, TablaLiquidacion tabla,
                              const std::string& empresa, const std::string& nombre,
                              const common::Mes& mes) {
     std::set<long> codigos;
-    for (const auto& f : leerFilasDelMes(base, tabla, empresa, nombre, mes)) codigos.insert(f.codigo);
+    for (const auto& f : leerFilasDelMes(base, tabla, empresa, nombre, mes))
+        codigos.insert(f.codigo);
     return codigos;
 }
 

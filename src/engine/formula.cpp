@@ -136,11 +136,14 @@ store::Conexion& baseDe(const ContextoFormula& ctx) {
     return ctx.variables->base();
 }
 
-const std::optional<master::Persona>& personaDelContexto(ContextoFormula& ctx) {
+const master::PersonaCompartida& personaDelContexto(ContextoFormula& ctx) {
     auto& leida = ctx.personaLeida;
-    if (!leida || leida->empresa != ctx.empresa || leida->nombre != ctx.nombre)
+    if (!leida || leida->empresa != ctx.empresa || leida->nombre != ctx.nombre) {
+        auto p = master::leerPersona(baseDe(ctx), ctx.empresa, ctx.nombre);
         leida = ContextoFormula::PersonaLeida{
-            ctx.empresa, ctx.nombre, master::leerPersona(baseDe(ctx), ctx.empresa, ctx.nombre)};
+            ctx.empresa, ctx.nombre,
+            p ? std::make_shared<const master::Persona>(std::move(*p)) : nullptr};
+    }
     return leida->fila;
 }
 

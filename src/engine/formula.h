@@ -91,10 +91,11 @@ struct ContextoFormula {
     // empresa); sin ella, la de las variables.
     store::Conexion* base = nullptr;
 
-    // La fila de la persona, leída una vez por empresa y nombre.
+    // La fila de la persona, leída una vez por empresa y nombre (nula si no
+    // existe).
     struct PersonaLeida {
         std::string empresa, nombre;
-        std::optional<master::Persona> fila;
+        master::PersonaCompartida fila;
     };
     std::optional<PersonaLeida> personaLeida;
 };
@@ -106,8 +107,9 @@ store::Conexion& baseDe(const ContextoFormula& ctx);
 // sueldo, sueldo2, sueldo3, htrab y cantbfc desde la fila (lo vacío da 0).
 void cargarPersona(ContextoFormula& ctx, const master::Persona& p);
 
-// La fila de personal de ctx.empresa y ctx.nombre, leída una sola vez.
-const std::optional<master::Persona>& personaDelContexto(ContextoFormula& ctx);
+// La fila de personal de ctx.empresa y ctx.nombre, leída una sola vez; nula si
+// no existe.
+const master::PersonaCompartida& personaDelContexto(ContextoFormula& ctx);
 
 // Escribe cant (si corresponde), psnis, pfocer, esmayor y total. Un fallo del
 // evaluador o de la base sale como common::Fallo y deja total como estaba.

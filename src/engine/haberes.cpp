@@ -58,7 +58,7 @@ void escribirDiasNoTrabajados(store::Conexion& base, const MesPersona& mp, doubl
     FilaLiquidada fl{filaDeConcepto(*c, "Hab"), ""};
     fl.fila.cant = dias;
     fl.fila.total = common::Dinero::desdeDouble(-(sueldo / 30 * dias));
-    fl.explicacion = "Ingreso el " + mp.persona.fechaing + ": " + std::to_string(dias) +
+    fl.explicacion = "Ingreso el " + mp.persona->fechaing + ": " + std::to_string(dias) +
                      " días sin trabajar, -(" + pesos(sueldo) + " / 30 x " + std::to_string(dias) +
                      ") = " + pesos(fl.fila.total) + ".";
     escribirFila(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, fl.fila, codigos);
@@ -175,7 +175,7 @@ ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula&
         } else if (esConceptoAntiguedad(nombre)) {
             if (auto prima =
                     CalculoAntiguedad(base, *ctx.variables, mp.empresa, mp.nombre, ctx.textoCant,
-                                      mp.mes, dialogo, "Form42", &mp.persona)) {
+                                      mp.mes, dialogo, "Form42", mp.persona.get())) {
                 cant = prima->cant;
                 total = prima->total;
                 expl = prima->explicacion;
@@ -188,7 +188,7 @@ ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula&
                 total = sueldoConLicencia(ctx.total, licencias, cs.grupo, cs.subgrupo, &detalle);
                 expl += " Con licencia: " + detalle;
             } else if (nombre == "SUELDO") {
-                if (const int dias = diasNoTrabajados(mp.persona.fechaing, mp.mes); dias > 0)
+                if (const int dias = diasNoTrabajados(mp.persona->fechaing, mp.mes); dias > 0)
                     escribirDiasNoTrabajados(base, mp, ctx.total, dias, codigos, r);
             }
         } else if (nombre == "SUELDO FICTO" && ctx.cantbfc != 30) {
@@ -240,13 +240,15 @@ ResultadoEmpresa ActHamPermxEmpresa(store::Conexion& base, const std::string& em
         podarExplicaciones(base, TablaLiquidacion::Habydesc, empresa, mes);
         t.confirmar();
     }
-    // Una lectura de las variables para toda la corrida.
+    // Una lectura de las variables y de la empresa para toda la corrida.
     master::LectorVariables variables(base);
-    const auto porPersona = [&](store::Conexion& base, const master::Persona& p) {
+    const auto leida = leerEmpresaDelMes(base, empresa);
+    const auto porPersona = [&](store::Conexion& base, const master::PersonaCompartida& p) {
         ContextoFormula ctx;
-        ctx.personaLeida = ContextoFormula::PersonaLeida{empresa, p.nombre, p};
-        auto mp = BuscarVerif(base, variables, empresa, p.nombre, mes, ctx, dialogo);
-        if (!mp) return ResultadoPersona{empresa, p.nombre, mes, false, "", {}};
+        ctx.personaLeida = ContextoFormula::PersonaLeida{empresa, p->nombre, p};
+        auto mp = BuscarVerif(base, variables, empresa, p->nombre, mes, ctx, dialogo,
+                              leida ? &*leida : nullptr);
+        if (!mp) return ResultadoPersona{empresa, p->nombre, mes, false, "", {}};
         return HabPerm(base, *mp, ctx, dialogo, opciones);
     };
     return recorrerEmpresa(base, empresa, mes, porPersona, progreso, cancelar);

@@ -15,11 +15,21 @@ constexpr const char* kSinPersona =
 
 }  // namespace
 
+std::optional<EmpresaDelMes> leerEmpresaDelMes(store::Conexion& base, const std::string& empresa) {
+    const auto e = master::leerEmpresa(base, empresa);
+    if (!e) return std::nullopt;
+    return EmpresaDelMes{empresa, master::tipoaporteDe(base, *e), consejoDeLaEmpresa(base, *e)};
+}
+
 std::optional<MesPersona> BuscarVerif(store::Conexion& base, master::LectorVariables& variables,
                                       const std::string& empresa, const std::string& nombre,
                                       const common::Mes& mes, ContextoFormula& ctx,
-                                      common::Dialogo& dialogo) {
-    auto e = master::leerEmpresa(base, empresa);
+                                      common::Dialogo& dialogo, const EmpresaDelMes* leida) {
+    std::optional<EmpresaDelMes> e;
+    if (leida && leida->empresa == empresa)
+        e = *leida;
+    else
+        e = leerEmpresaDelMes(base, empresa);
     if (!e) {
         dialogo.avisar(common::TipoAviso::Advertencia, kSinEmpresa);
         return std::nullopt;
@@ -30,7 +40,7 @@ std::optional<MesPersona> BuscarVerif(store::Conexion& base, master::LectorVaria
     ctx.nombre = nombre;
     ctx.base = &base;
     ctx.variables = &variables;
-    auto p = personaDelContexto(ctx);
+    const auto& p = personaDelContexto(ctx);
     if (!p) {
         dialogo.avisar(common::TipoAviso::Advertencia, kSinPersona);
         return std::nullopt;
@@ -40,17 +50,16 @@ std::optional<MesPersona> BuscarVerif(store::Conexion& base, master::LectorVaria
     mp.empresa = empresa;
     mp.nombre = nombre;
     mp.mes = mes;
-    mp.tipoaporte = master::tipoaporteDe(base, *e);
-    mp.fichaEmpresa = std::move(*e);
-    mp.persona = std::move(*p);
-    mp.tiposueldo = mp.persona.tiposueldo;
-    mp.vinculofun = mp.persona.vinculofun;
+    mp.tipoaporte = std::move(e->tipoaporte);
+    mp.persona = p;
+    mp.tiposueldo = p->tiposueldo;
+    mp.vinculofun = p->vinculofun;
     mp.bpc = variables.valor("BPC");
-    mp.consejo = consejoDeLaEmpresa(base, empresa);
+    mp.consejo = std::move(e->consejo);
 
     ctx.periodo = mes;
     ctx.tipoaporte = mp.tipoaporte;
-    cargarPersona(ctx, mp.persona);
+    cargarPersona(ctx, *mp.persona);
     refrescarDesglose(base, mp, ctx);
     return mp;
 }

@@ -23,29 +23,40 @@
 
 namespace nomira::engine {
 
+// Lo que el mes de cada persona toma de su empresa. La corrida de una empresa
+// lo lee una vez para todas.
+struct EmpresaDelMes {
+    std::string empresa;
+    std::string tipoaporte;   // "04" es la exoneración; "" sin fila en tipoaport
+    ConsejoSalarios consejo;  // grupo y subgrupo, para los divisores de la licencia
+};
+// Nada si la empresa no existe.
+std::optional<EmpresaDelMes> leerEmpresaDelMes(store::Conexion& base, const std::string& empresa);
+
 // La empresa y la persona tal como las usa el mes.
 struct MesPersona {
     std::string empresa, nombre;
     common::Mes mes;
-    master::Empresa fichaEmpresa;
-    master::Persona persona;
-    std::string tipoaporte;  // "04" es la exoneración; "" sin fila en tipoaport
+    master::PersonaCompartida persona;  // nunca nula
+    std::string tipoaporte;
     std::string tiposueldo;  // "S", "J" o "H"
     std::string vinculofun;
     double bpc = 0;
-    ConsejoSalarios consejo;  // grupo y subgrupo, para los divisores de la licencia
-    BaseMes desglose;         // la base del mes al momento de leerla
+    ConsejoSalarios consejo;
+    BaseMes desglose;  // la base del mes al momento de leerla
 };
 
 // BuscarVerif: la empresa (tipoaporte, consejo) y la persona (sueldo, tiposueldo,
 // htrab, cantbfc, sueldo2, sueldo3), y la base del mes (Desglose) volcada en ctx.
 // ctx queda con empresa, nombre, periodo y variables. Sin empresa o sin persona
 // avisa con el mensaje de la pantalla y devuelve nada. Si ctx ya trae leída esa
-// persona (personaLeida) no se la vuelve a leer: un contexto nuevo la lee.
+// persona (personaLeida) no se la vuelve a leer: un contexto nuevo la lee. Con
+// `leida` (de esa misma empresa) la empresa tampoco se lee.
 std::optional<MesPersona> BuscarVerif(store::Conexion& base, master::LectorVariables& variables,
                                       const std::string& empresa, const std::string& nombre,
                                       const common::Mes& mes, ContextoFormula& ctx,
-                                      common::Dialogo& dialogo);
+                                      common::Dialogo& dialogo,
+                                      const EmpresaDelMes* leida = nullptr);
 
 // Vuelve a leer la base del mes (después de escribir filas) y la vuelca en ctx.
 void refrescarDesglose(store::Conexion& base, MesPersona& mp, ContextoFormula& ctx);

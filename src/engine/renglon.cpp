@@ -132,8 +132,8 @@ CalculoRenglon calcularConFormula(store::Conexion& base, MesPersona& mp, Context
     e.excepcionLicencia = excepcionLicencia(
         mp.tiposueldo,
         leerFilasDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes));
-    e.tafap = common::SocMedica::leer(mp.persona.socmedica).tafap == "Si";
-    e.tope = topeAfap(base, mp.persona.socmedica);
+    e.tafap = common::SocMedica::leer(mp.persona->socmedica).tafap == "Si";
+    e.tope = topeAfap(base, mp.persona->socmedica);
     for (const auto& f :
          leerFilasDelMes(base, TablaLiquidacion::Aguinaldos, mp.empresa, mp.nombre, mp.mes)) {
         if (f.tipo == "Hab") e.aguinaldosHab += f.total;
@@ -148,7 +148,7 @@ CalculoRenglon calcularConFormula(store::Conexion& base, MesPersona& mp, Context
 
     if (esConceptoAntiguedad(nombre))
         if (const auto p = CalculoAntiguedad(base, *ctx.variables, mp.empresa, mp.nombre, textoCant,
-                                             mp.mes, dialogo, "Form42", &mp.persona)) {
+                                             mp.mes, dialogo, "Form42", mp.persona.get())) {
             r.cant = p->cant;
             r.total = p->total;
             r.explicacion = p->explicacion;
@@ -300,7 +300,7 @@ std::optional<std::string> eliminarRenglon(store::Conexion& base, const MesPerso
         base.ejecuta("DELETE FROM salvacacional WHERE empresa = ? AND nombre = ? AND fecha = ?",
                      clavesMes(mp));
         if (nombre == "LICENCIA" && mp.tiposueldo == "S") {
-            const auto sueldo = Dinero::desdeDouble(common::textoANumero(mp.persona.sueldo));
+            const auto sueldo = Dinero::desdeDouble(common::textoANumero(mp.persona->sueldo));
             reescribirSueldo(base, mp, sueldo,
                              "Sueldo de la ficha: " + pesos(sueldo) + " (se borró la licencia).");
         }

@@ -4,6 +4,7 @@
 // texto: cada cálculo los lee con textoANumero, que da 0 para lo vacío. Las
 // fechas llegan como las guarda la base ("aaaa-mm-dd"); las pantallas las
 // muestran como "dd/mm/aa" y así pueden volver: se guardan como fecha igual.
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -50,6 +51,10 @@ struct Persona {
         fechadesdeded2;
     std::string fechapresded2, codigoded3, categoriaded3, montoded3, fechadesdeded3, fechapresded3;
 };
+
+// Una ficha que se comparte sin copiarla: la leen la corrida de la empresa, el
+// contexto de las fórmulas y el mes de la persona.
+using PersonaCompartida = std::shared_ptr<const Persona>;
 
 // Las 147 columnas en su orden.
 const Campos<Persona>& camposPersona();

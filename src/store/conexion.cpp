@@ -71,11 +71,11 @@ std::size_t Fila::posicion(std::string_view columna) const {
 }
 
 const Valor& Fila::valor(std::string_view columna) const {
-    return valores_.at(posicion(columna));
+    return valores_->at(posicion(columna));
 }
 
 bool Fila::esNulo(std::size_t posicion) const {
-    const Valor& v = valores_.at(posicion);
+    const Valor& v = valores_->at(posicion);
     if (std::holds_alternative<Nulo>(v)) return true;
     const auto* s = std::get_if<std::string>(&v);
     return s && s->empty();
@@ -86,7 +86,7 @@ bool Fila::esNulo(std::string_view columna) const {
 }
 
 std::string Fila::texto(std::size_t posicion) const {
-    const Valor& v = valores_.at(posicion);
+    const Valor& v = valores_->at(posicion);
     if (const auto* s = std::get_if<std::string>(&v)) return *s;
     if (const auto* i = std::get_if<std::int64_t>(&v)) return std::to_string(*i);
     if (const auto* d = std::get_if<double>(&v)) return textoDeNumero(*d);
@@ -98,7 +98,7 @@ std::string Fila::texto(std::string_view columna) const {
 }
 
 std::int64_t Fila::entero(std::size_t posicion) const {
-    const Valor& v = valores_.at(posicion);
+    const Valor& v = valores_->at(posicion);
     if (const auto* i = std::get_if<std::int64_t>(&v)) return *i;
     if (const auto* d = std::get_if<double>(&v)) return enteroDeDouble(*d);
     if (const auto* s = std::get_if<std::string>(&v)) return enteroDeDouble(numeroDeTexto(*s));
@@ -110,7 +110,7 @@ std::int64_t Fila::entero(std::string_view columna) const {
 }
 
 double Fila::real(std::size_t posicion) const {
-    const Valor& v = valores_.at(posicion);
+    const Valor& v = valores_->at(posicion);
     if (const auto* d = std::get_if<double>(&v)) return *d;
     if (const auto* i = std::get_if<std::int64_t>(&v)) return static_cast<double>(*i);
     if (const auto* s = std::get_if<std::string>(&v)) return numeroDeTexto(*s);

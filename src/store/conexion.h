@@ -38,17 +38,19 @@ constexpr int kErrorUso = 3200;
 
 // Una fila leída: columnas por nombre o por posición; Null y "" se leen igual.
 // Los nombres de columna se comparten entre las filas de un resultado, así una
-// fila sigue siendo válida aunque el Resultado se mueva o se descarte.
+// fila sigue siendo válida aunque el Resultado se mueva o se descarte. Una fila
+// no cambia: sus copias comparten los valores.
 class Fila {
   public:
     using Columnas = std::shared_ptr<const std::vector<std::string>>;
 
     Fila(Columnas columnas, std::vector<Valor> valores)
-        : columnas_(std::move(columnas)), valores_(std::move(valores)) {}
+        : columnas_(std::move(columnas)),
+          valores_(std::make_shared<const std::vector<Valor>>(std::move(valores))) {}
     Fila(const std::vector<std::string>* columnas, std::vector<Valor> valores)
         : Fila(std::make_shared<const std::vector<std::string>>(*columnas), std::move(valores)) {}
 
-    const Valor& valor(std::size_t posicion) const { return valores_.at(posicion); }
+    const Valor& valor(std::size_t posicion) const { return valores_->at(posicion); }
     const Valor& valor(std::string_view columna) const;
     bool esNulo(std::string_view columna) const;
 
@@ -63,12 +65,12 @@ class Fila {
     bool esNulo(std::size_t posicion) const;
     const std::vector<std::string>& columnas() const { return *columnas_; }
 
-    std::size_t tamano() const { return valores_.size(); }
+    std::size_t tamano() const { return valores_->size(); }
 
   private:
     std::size_t posicion(std::string_view columna) const;
     Columnas columnas_;
-    std::vector<Valor> valores_;
+    std::shared_ptr<const std::vector<Valor>> valores_;
     // Los lectores piden las columnas casi siempre en su orden: la búsqueda
     // empieza por la que sigue a la última encontrada.
     mutable std::size_t siguiente_ = 0;

@@ -36,8 +36,11 @@ Valor leerColumna(sqlite3_stmt* s, int i) {
 }  // namespace
 
 ConexionSqlite::ConexionSqlite(std::string ruta) : ruta_(std::move(ruta)) {
+    // Una conexión se usa desde un solo hilo a la vez: sin los cerrojos internos
+    // de SQLite, que cada llamada tomaría y soltaría.
     int codigo =
-        sqlite3_open_v2(ruta_.c_str(), &base_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+        sqlite3_open_v2(ruta_.c_str(), &base_,
+                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
     if (codigo != SQLITE_OK) {
         std::string mensaje = base_ ? sqlite3_errmsg(base_) : sqlite3_errstr(codigo);
         sqlite3_close(base_);
@@ -77,9 +80,9 @@ void ConexionSqlite::directa(const std::string& sql) {
     }
 }
 
-sqlite3_stmt* ConexionSqlite::preparar(std::string_view sql) {
+ConexionSqlite::Preparada ConexionSqlite::preparar(std::string_view sql) {
+    if (auto it = cache_.find(sql); it != cache_.end()) return {it->second, true};
     std::string texto(sql);
-    if (auto it = cache_.find(texto); it != cache_.end()) return it->second;
     sqlite3_stmt* sentencia = nullptr;
     const char* resto = nullptr;
     int codigo = sqlite3_prepare_v2(base_, texto.c_str(), static_cast<int>(texto.size() + 1),
@@ -90,22 +93,21 @@ sqlite3_stmt* ConexionSqlite::preparar(std::string_view sql) {
         sqlite3_finalize(sentencia);
         throw ErrorBase(kErrorUso, "Se pasó más de una sentencia en un solo texto");
     }
-    if (esDeDatos(sql)) {
-        if (cache_.size() >= kMaxCache) {
-            for (auto& [t, s] : cache_) sqlite3_finalize(s);
-            cache_.clear();
-        }
-        cache_.emplace(std::move(texto), sentencia);
+    if (!esDeDatos(sql)) return {sentencia, false};
+    if (cache_.size() >= kMaxCache) {
+        for (auto& [t, s] : cache_) sqlite3_finalize(s);
+        cache_.clear();
     }
-    return sentencia;
+    cache_.emplace(std::move(texto), sentencia);
+    return {sentencia, true};
 }
 
-void ConexionSqlite::liberar(sqlite3_stmt* sentencia, bool enCache) {
-    if (enCache) {
-        sqlite3_reset(sentencia);
-        sqlite3_clear_bindings(sentencia);
+void ConexionSqlite::liberar(Preparada p) {
+    if (p.enCache) {
+        sqlite3_reset(p.sentencia);
+        sqlite3_clear_bindings(p.sentencia);
     } else {
-        sqlite3_finalize(sentencia);
+        sqlite3_finalize(p.sentencia);
     }
 }
 
@@ -134,8 +136,8 @@ void ConexionSqlite::enlazar(sqlite3_stmt* s, const std::vector<Valor>& parametr
 }
 
 Resultado ConexionSqlite::consulta(std::string_view sql, const std::vector<Valor>& parametros) {
-    sqlite3_stmt* s = preparar(sql);
-    bool enCache = cache_.contains(std::string(sql));
+    const auto p = preparar(sql);
+    sqlite3_stmt* s = p.sentencia;
     Resultado resultado;
     try {
         enlazar(s, parametros);
@@ -153,16 +155,16 @@ Resultado ConexionSqlite::consulta(std::string_view sql, const std::vector<Valor
         }
         if (codigo != SQLITE_DONE) fallar(codigo);
     } catch (...) {
-        liberar(s, enCache);
+        liberar(p);
         throw;
     }
-    liberar(s, enCache);
+    liberar(p);
     return resultado;
 }
 
 std::int64_t ConexionSqlite::ejecuta(std::string_view sql, const std::vector<Valor>& parametros) {
-    sqlite3_stmt* s = preparar(sql);
-    bool enCache = cache_.contains(std::string(sql));
+    const auto p = preparar(sql);
+    sqlite3_stmt* s = p.sentencia;
     try {
         enlazar(s, parametros);
         int codigo;
@@ -170,11 +172,12 @@ std::int64_t ConexionSqlite::ejecuta(std::string_view sql, const std::vector<Val
         }
         if (codigo != SQLITE_DONE) fallar(codigo);
     } catch (...) {
-        liberar(s, enCache);
+        liberar(p);
         throw;
     }
-    liberar(s, enCache);
-    if (cambiaTablas(sql)) {
+    liberar(p);
+    // Las sentencias guardadas son de datos: sólo otra puede cambiar tablas.
+    if (!p.enCache && cambiaTablas(sql)) {
         for (auto& [t, guardada] : cache_) sqlite3_finalize(guardada);
         cache_.clear();
     }

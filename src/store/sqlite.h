@@ -1,5 +1,6 @@
 #pragma once
-// La base embebida: un archivo SQLite, compartido por los procesos de un PC.
+// La base embebida: un archivo SQLite, compartido por los procesos de un PC. Una
+// conexión se usa desde un hilo a la vez.
 #include <sqlite3.h>
 
 #include <string>
@@ -32,8 +33,14 @@ class ConexionSqlite : public Conexion {
     void deshacer() override;
 
   private:
-    sqlite3_stmt* preparar(std::string_view sql);
-    void liberar(sqlite3_stmt* sentencia, bool enCache);
+    // La sentencia lista para enlazar; enCache si queda guardada para la
+    // próxima vez (las de datos) y no hay que finalizarla.
+    struct Preparada {
+        sqlite3_stmt* sentencia;
+        bool enCache;
+    };
+    Preparada preparar(std::string_view sql);
+    void liberar(Preparada p);
     void enlazar(sqlite3_stmt* sentencia, const std::vector<Valor>& parametros);
     [[noreturn]] void fallar(int codigo) const;
     void directa(const std::string& sql);
@@ -42,7 +49,13 @@ class ConexionSqlite : public Conexion {
     sqlite3* base_ = nullptr;
     // Las sentencias preparadas, por su texto: una liquidación repite las
     // mismas miles de veces.
-    std::unordered_map<std::string, sqlite3_stmt*> cache_;
+    struct HashTexto {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view s) const {
+            return std::hash<std::string_view>{}(s);
+        }
+    };
+    std::unordered_map<std::string, sqlite3_stmt*, HashTexto, std::equal_to<>> cache_;
     int profundidad_ = 0;
 };
 

@@ -73,12 +73,12 @@ TEST_P(EmpresaMes, CancelarEntrePersonasYLasQueNoEstanEnElMes) {
     base->ejecuta("DELETE FROM habydesc");
     r = recorrerEmpresa(
         *base, "ACME", {2026, 3},
-        [&](store::Conexion& c, const master::Persona& p) {
+        [&](store::Conexion& c, const master::PersonaCompartida& p) {
             c.ejecuta(
                 "INSERT INTO habydesc (empresa, nombre, fecha, codigo) VALUES ('ACME', "
                 "?, '2026-03-01', 1)",
-                {p.nombre});
-            return ResultadoPersona{"ACME", p.nombre, {2026, 3}, true, "", {}};
+                {p->nombre});
+            return ResultadoPersona{"ACME", p->nombre, {2026, 3}, true, "", {}};
         },
         {}, [&] { return ++preguntas > 1; });
     EXPECT_TRUE(r.cancelado);

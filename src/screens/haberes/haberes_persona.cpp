@@ -100,7 +100,7 @@ void PantallaHaberes::elegirPersona() {
         olvidarMes();
         if (mes_->text().trimmed().isEmpty()) mes_->setText(q(mesanterior_));
         if (!BuscarVerif()) return;
-        nrofun_->setText(q(mp_->persona.nrofun));
+        nrofun_->setText(q(mp_->persona->nrofun));
         Consultar_Click();
         mostrarObservaciones();
     });
@@ -170,7 +170,7 @@ void PantallaHaberes::Refrescar() {
 void PantallaHaberes::mostrarObservaciones() {
     if (!mp_) return;
     if (const auto texto =
-            observacionDelMes(mp_->persona.observaciones, mes_->text().toStdString()))
+            observacionDelMes(mp_->persona->observaciones, mes_->text().toStdString()))
         informar(*texto);
 }
 
@@ -187,7 +187,7 @@ void PantallaHaberes::prepararCaptura() {
                     CargarNombredelPersonal();
                     nombre_->setCurrentText(q(n));
                     if (BuscarVerif()) {
-                        nrofun_->setText(q(mp_->persona.nrofun));
+                        nrofun_->setText(q(mp_->persona->nrofun));
                         Consultar_Click();
                     }
                     return;
