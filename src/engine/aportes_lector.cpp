@@ -1,6 +1,7 @@
 #include "engine/aportes_lector.h"
 
 #include "common/empaquetados.h"
+#include "common/numeros.h"
 #include "engine/datos_persona.h"
 #include "engine/psnis.h"
 
@@ -83,7 +84,8 @@ DescuentoGenerado generarDescuento(ContextoFormula& ctx, const ConceptoDescuento
     ctx.psnis = 0;
     ctx.pfocer = Dinero();
     // Los descuentos ya generados (de código menor) cuentan para el líquido.
-    const auto liquido = CalculoLiquidoNeto(base, ctx.empresa, ctx.nombre, mes, op.liquido);
+    const auto filas = leerFilasDelMes(base, op.liquido.tabla, ctx.empresa, ctx.nombre, mes);
+    const auto liquido = liquidoNeto(filas, op.liquido);
     ctx.liquidoneto = liquido.liquidoneto;
     if (!op.liquido.soloLiquidoNeto) {
         ctx.liquidonetograv = liquido.liquidonetograv;
@@ -103,15 +105,16 @@ DescuentoGenerado generarDescuento(ContextoFormula& ctx, const ConceptoDescuento
     e.tipoaporte = ctx.tipoaporte;
     e.bpc = ctx.variables->valor("BPC");
     e.montograv = ctx.montograv;
-    const auto persona = datosPersona(ctx);
-    if (persona) {
+    if (const auto& persona = personaDelContexto(ctx)) {
         e.vinculofun = persona->vinculofun;
-        e.cantbfc = persona->cantbfc;
+        e.cantbfc = common::textoANumero(persona->cantbfc);
         e.tafap = common::SocMedica::leer(persona->socmedica).tafap == "Si";
         e.tope = topeAfap(base, persona->socmedica);
         e.excepcionLicencia = excepcionLicencia(
             persona->tiposueldo,
-            leerFilasDelMes(base, TablaLiquidacion::Habydesc, ctx.empresa, ctx.nombre, mes));
+            op.liquido.tabla == TablaLiquidacion::Habydesc
+                ? filas
+                : leerFilasDelMes(base, TablaLiquidacion::Habydesc, ctx.empresa, ctx.nombre, mes));
     }
     for (const auto& f :
          leerFilasDelMes(base, TablaLiquidacion::Aguinaldos, ctx.empresa, ctx.nombre, mes)) {

@@ -111,14 +111,16 @@ void actualizarLeidas(store::Resultado& r, const FilaGenerada& f, bool insertada
             v[1] = f.concepto;
             v[5] = f.total.aDouble();
             v[6] = f.cant;
-            x = store::Fila(&r.columnas, std::move(v));
+            x = store::Fila(x, std::move(v));
         }
         return;
     }
     auto pos = r.filas.begin();
     while (pos != r.filas.end() && codigoDe(*pos) <= codigo) ++pos;
-    r.filas.insert(pos, store::Fila(&r.columnas, {codigo, f.concepto, f.tipo, f.gravado, f.ipd,
-                                                  f.total.aDouble(), f.cant}));
+    std::vector<store::Valor> v = {codigo, f.concepto,        f.tipo, f.gravado,
+                                   f.ipd,  f.total.aDouble(), f.cant};
+    r.filas.insert(pos, r.filas.empty() ? store::Fila(&r.columnas, std::move(v))
+                                        : store::Fila(r.filas.front(), std::move(v)));
 }
 
 // Quita de las filas del mes recordadas las del tipo borrado.

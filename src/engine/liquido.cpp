@@ -29,16 +29,21 @@ LiquidoNeto liquidoNeto(const std::vector<FilaMes>& filas, const OpcionesLiquido
         }
     }
     r.liquidoneto = r.totalhab - r.descuentoslegales;
-    r.explicacion = "LIQUIDONETO = haberes " + pesos(r.totalhab) + " - descuentos legales " +
-                    pesos(r.descuentoslegales) + " = " + pesos(r.liquidoneto);
+    r.soloLiquidoNeto = op.soloLiquidoNeto;
     if (op.soloLiquidoNeto) return r;
     r.liquidonetograv = r.gravado - r.descuentoslegales;
     r.montogravalim = r.gravado + r.alimentacion;
-    r.explicacion += "; LIQUIDONETOGRAV = gravado " + pesos(r.gravado) + " - " +
-                     pesos(r.descuentoslegales) + " = " + pesos(r.liquidonetograv) +
-                     "; MONTOGRAVALIM = " + pesos(r.gravado) + " + alimentación " +
-                     pesos(r.alimentacion) + " = " + pesos(r.montogravalim);
     return r;
+}
+
+std::string explicacion(const LiquidoNeto& r) {
+    std::string texto = "LIQUIDONETO = haberes " + pesos(r.totalhab) + " - descuentos legales " +
+                        pesos(r.descuentoslegales) + " = " + pesos(r.liquidoneto);
+    if (r.soloLiquidoNeto) return texto;
+    return texto + "; LIQUIDONETOGRAV = gravado " + pesos(r.gravado) + " - " +
+           pesos(r.descuentoslegales) + " = " + pesos(r.liquidonetograv) +
+           "; MONTOGRAVALIM = " + pesos(r.gravado) + " + alimentación " + pesos(r.alimentacion) +
+           " = " + pesos(r.montogravalim);
 }
 
 LiquidoNeto CalculoLiquidoNeto(store::Conexion& base, const std::string& empresa,

@@ -24,8 +24,11 @@ OpcionesLiquido opcionesLiquidoForm45();
 struct LiquidoNeto {
     common::Dinero liquidonetograv, liquidoneto, montogravalim;
     common::Dinero totalhab, gravado, alimentacion, descuentoslegales;
-    std::string explicacion;
+    bool soloLiquidoNeto = false;
 };
+// Cómo se llegó a cada cifra; se arma sólo cuando se pide (el líquido se
+// calcula varias veces por persona).
+std::string explicacion(const LiquidoNeto& l);
 
 // Sobre las filas del mes de la tabla de la pantalla.
 LiquidoNeto liquidoNeto(const std::vector<FilaMes>& filas, const OpcionesLiquido& opciones);

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <variant>
 #include <vector>
 
@@ -49,6 +50,9 @@ class Fila {
           valores_(std::make_shared<const std::vector<Valor>>(std::move(valores))) {}
     Fila(const std::vector<std::string>* columnas, std::vector<Valor> valores)
         : Fila(std::make_shared<const std::vector<std::string>>(*columnas), std::move(valores)) {}
+    // Otros valores con las columnas de `modelo`.
+    Fila(const Fila& modelo, std::vector<Valor> valores)
+        : Fila(modelo.columnas_, std::move(valores)) {}
 
     const Valor& valor(std::size_t posicion) const { return valores_->at(posicion); }
     const Valor& valor(std::string_view columna) const;
@@ -83,6 +87,15 @@ struct Resultado {
     bool vacio() const { return filas.empty(); }
     const Fila& primera() const { return filas.at(0); }
 };
+
+// Para los mapas por texto SQL: se buscan con el string_view que llega, sin
+// copiarlo a un std::string.
+struct HashTexto {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view s) const { return std::hash<std::string_view>{}(s); }
+};
+template <class V>
+using MapaPorTexto = std::unordered_map<std::string, V, HashTexto, std::equal_to<>>;
 
 enum class Motor { Sqlite, Postgres };
 

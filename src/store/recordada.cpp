@@ -90,10 +90,9 @@ std::int64_t ConexionRecordada::ejecuta(std::string_view sql,
 }
 
 const std::vector<std::string>& ConexionRecordada::tablasDe(std::string_view sql) {
-    std::string texto(sql);
-    auto it = tablasPorTexto_.find(texto);
+    auto it = tablasPorTexto_.find(sql);
     if (it == tablasPorTexto_.end())
-        it = tablasPorTexto_.emplace(std::move(texto), tablasDeLaSentencia(sql)).first;
+        it = tablasPorTexto_.emplace(std::string(sql), tablasDeLaSentencia(sql)).first;
     return it->second;
 }
 

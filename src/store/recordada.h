@@ -67,7 +67,7 @@ class ConexionRecordada : public Conexion {
     Conexion& base_;
     std::unordered_map<std::string, Recuerdo> memoria_;
     std::unordered_map<std::string, std::uint64_t> generaciones_;
-    std::unordered_map<std::string, std::vector<std::string>> tablasPorTexto_;
+    MapaPorTexto<std::vector<std::string>> tablasPorTexto_;
     std::uint64_t general_ = 0;
     std::size_t recordadas_ = 0, leidas_ = 0;
 };

@@ -18,6 +18,11 @@ bool esDeDatos(std::string_view sql) {
     return p == "select" || p == "insert" || p == "update" || p == "delete" || p == "with";
 }
 
+bool esDeTransaccion(std::string_view sql) {
+    std::string p = primeraPalabra(sql);
+    return p == "begin" || p == "commit" || p == "savepoint" || p == "release";
+}
+
 bool cambiaTablas(std::string_view sql) {
     std::string p = primeraPalabra(sql);
     return p == "create" || p == "alter" || p == "drop";

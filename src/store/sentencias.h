@@ -12,6 +12,9 @@ std::string primeraPalabra(std::string_view sql);
 // SELECT, INSERT, UPDATE, DELETE o WITH: las que vale la pena preparar una vez.
 bool esDeDatos(std::string_view sql);
 
+// BEGIN, COMMIT, SAVEPOINT o RELEASE: se repiten en cada transacción.
+bool esDeTransaccion(std::string_view sql);
+
 // CREATE, ALTER o DROP: cambian las tablas que leen las ya preparadas.
 bool cambiaTablas(std::string_view sql);
 

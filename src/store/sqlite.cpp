@@ -93,7 +93,7 @@ ConexionSqlite::Preparada ConexionSqlite::preparar(std::string_view sql) {
         sqlite3_finalize(sentencia);
         throw ErrorBase(kErrorUso, "Se pasó más de una sentencia en un solo texto");
     }
-    if (!esDeDatos(sql)) return {sentencia, false};
+    if (!esDeDatos(sql) && !esDeTransaccion(sql)) return {sentencia, false};
     if (cache_.size() >= kMaxCache) {
         for (auto& [t, s] : cache_) sqlite3_finalize(s);
         cache_.clear();
@@ -176,7 +176,7 @@ std::int64_t ConexionSqlite::ejecuta(std::string_view sql, const std::vector<Val
         throw;
     }
     liberar(p);
-    // Las sentencias guardadas son de datos: sólo otra puede cambiar tablas.
+    // Las sentencias guardadas no cambian tablas: sólo otra puede hacerlo.
     if (!p.enCache && cambiaTablas(sql)) {
         for (auto& [t, guardada] : cache_) sqlite3_finalize(guardada);
         cache_.clear();
@@ -185,19 +185,21 @@ std::int64_t ConexionSqlite::ejecuta(std::string_view sql, const std::vector<Val
 }
 
 void ConexionSqlite::comenzar() {
+    // Preparadas una vez, como las de datos: una corrida de empresa abre una
+    // transacción por persona.
     if (profundidad_ == 0)
-        directa("BEGIN IMMEDIATE");
+        ejecuta("BEGIN IMMEDIATE");
     else
-        directa("SAVEPOINT nivel" + std::to_string(profundidad_));
+        ejecuta("SAVEPOINT nivel" + std::to_string(profundidad_));
     ++profundidad_;
 }
 
 void ConexionSqlite::confirmar() {
     if (profundidad_ == 0) throw ErrorBase(kErrorUso, "Confirmar sin una transacción abierta");
     if (profundidad_ == 1)
-        directa("COMMIT");
+        ejecuta("COMMIT");
     else
-        directa("RELEASE SAVEPOINT nivel" + std::to_string(profundidad_ - 1));
+        ejecuta("RELEASE SAVEPOINT nivel" + std::to_string(profundidad_ - 1));
     --profundidad_;
 }
 

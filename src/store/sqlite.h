@@ -49,13 +49,7 @@ class ConexionSqlite : public Conexion {
     sqlite3* base_ = nullptr;
     // Las sentencias preparadas, por su texto: una liquidación repite las
     // mismas miles de veces.
-    struct HashTexto {
-        using is_transparent = void;
-        std::size_t operator()(std::string_view s) const {
-            return std::hash<std::string_view>{}(s);
-        }
-    };
-    std::unordered_map<std::string, sqlite3_stmt*, HashTexto, std::equal_to<>> cache_;
+    MapaPorTexto<sqlite3_stmt*> cache_;
     int profundidad_ = 0;
 };
 
