@@ -8,22 +8,23 @@
 
 namespace nomira::engine {
 
-std::vector<master::Persona> personasPorCantbfc(store::Conexion& base, const std::string& empresa) {
-    std::vector<master::Persona> leidas;
+std::vector<master::PersonaCompartida> personasPorCantbfc(store::Conexion& base,
+                                                          const std::string& empresa) {
+    std::vector<std::pair<double, master::PersonaCompartida>> leidas;
     for (const auto& f :
-         base.consulta("SELECT * FROM personal WHERE empresa = ? ORDER BY nombre", {empresa}).filas)
-        leidas.push_back(master::leerRegistro(f, master::camposPersona()));
-    // cantbfc es texto en la tabla: se ordena por su valor, así un vacío o un
-    // Null cuenta 0 igual en los dos motores. Se ordenan las posiciones y no
-    // las fichas, que son grandes.
-    std::vector<std::pair<double, std::size_t>> orden;
-    for (std::size_t i = 0; i < leidas.size(); ++i)
-        orden.emplace_back(common::textoANumero(leidas[i].cantbfc), i);
-    std::stable_sort(orden.begin(), orden.end(),
+         base.consulta("SELECT * FROM personal WHERE empresa = ? ORDER BY nombre", {empresa})
+             .filas) {
+        auto p = std::make_shared<const master::Persona>(
+            master::leerRegistro(f, master::camposPersona()));
+        // cantbfc es texto en la tabla: se ordena por su valor, así un vacío o un
+        // Null cuenta 0 igual en los dos motores.
+        leidas.emplace_back(common::textoANumero(p->cantbfc), std::move(p));
+    }
+    std::stable_sort(leidas.begin(), leidas.end(),
                      [](const auto& a, const auto& b) { return a.first < b.first; });
-    std::vector<master::Persona> personas;
+    std::vector<master::PersonaCompartida> personas;
     personas.reserve(leidas.size());
-    for (const auto& [cantbfc, i] : orden) personas.push_back(std::move(leidas[i]));
+    for (auto& [cantbfc, p] : leidas) personas.push_back(std::move(p));
     return personas;
 }
 
@@ -32,9 +33,7 @@ ResultadoEmpresa recorrerEmpresa(store::Conexion& base, const std::string& empre
                                  const ProgresoEmpresa& progreso, const CancelarEmpresa& cancelar) {
     ResultadoEmpresa r;
     store::ConexionRecordada recordada(base);
-    std::vector<master::PersonaCompartida> personas;
-    for (auto& p : personasPorCantbfc(recordada, empresa))
-        personas.push_back(std::make_shared<const master::Persona>(std::move(p)));
+    const auto personas = personasPorCantbfc(recordada, empresa);
     for (std::size_t i = 0; i < personas.size(); ++i) {
         if (cancelar && cancelar()) {
             r.cancelado = true;

@@ -19,7 +19,8 @@ namespace nomira::engine {
 // Las personas de la empresa por cantbfc: las de sueldo ficto al final, así el
 // mayor sueldo real ya está escrito cuando llega su turno. Entre iguales, el
 // orden de los nombres (el mismo en los dos motores).
-std::vector<master::Persona> personasPorCantbfc(store::Conexion& base, const std::string& empresa);
+std::vector<master::PersonaCompartida> personasPorCantbfc(store::Conexion& base,
+                                                          const std::string& empresa);
 
 // La generación de una persona, dentro de la transacción de esa persona. La
 // conexión que recibe recuerda lo leído durante toda la corrida (la empresa,

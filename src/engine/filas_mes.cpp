@@ -44,19 +44,15 @@ const std::string& sqlFilas(TablaLiquidacion tabla) {
     return sql[static_cast<int>(tabla)];
 }
 
-}  // namespace
-
-std::vector<FilaMes> leerFilas(store::Conexion& base, TablaLiquidacion tabla,
-                               const std::string& empresa, const std::string& nombre,
-                               const common::Mes& desde, const common::Mes& hasta) {
-    const bool agui = tabla == TablaLiquidacion::Aguinaldos;
-    const auto& sql = sqlFilas(tabla);
-    // Por posición, la de la lista del SELECT: se leen muchas veces por persona.
-    // aguinaldos: concepto, tipo, total; las otras: codigo, concepto, tipo,
-    // gravado, ipd, total, cant.
+// Por posición, la de la lista del SELECT. aguinaldos (tres columnas):
+// concepto, tipo, total; las otras: codigo, concepto, tipo, gravado, ipd,
+// total, cant.
+std::vector<FilaMes> filasDe(const store::Resultado& r) {
+    const bool agui = r.columnas.size() == 3;
     const std::size_t c = agui ? 0 : 1;
     std::vector<FilaMes> filas;
-    for (const auto& f : base.consulta(sql, claves(empresa, nombre, desde, hasta)).filas) {
+    filas.reserve(r.filas.size());
+    for (const auto& f : r.filas) {
         FilaMes m;
         if (!agui) {
             m.codigo = static_cast<long>(f.entero(std::size_t{0}));
@@ -70,6 +66,19 @@ std::vector<FilaMes> leerFilas(store::Conexion& base, TablaLiquidacion tabla,
         filas.push_back(std::move(m));
     }
     return filas;
+}
+
+}  // namespace
+
+std::vector<FilaMes> leerFilas(store::Conexion& base, TablaLiquidacion tabla,
+                               const std::string& empresa, const std::string& nombre,
+                               const common::Mes& desde, const common::Mes& hasta) {
+    const auto& sql = sqlFilas(tabla);
+    const auto k = claves(empresa, nombre, desde, hasta);
+    // En una corrida se leen muchas veces por persona: se convierten una vez.
+    if (auto* recordada = dynamic_cast<store::ConexionRecordada*>(&base))
+        return recordada->convertida(sql, k, filasDe);
+    return filasDe(base.consulta(sql, k));
 }
 
 std::vector<FilaSalVac> leerSalvacacional(store::Conexion& base, const std::string& empresa,

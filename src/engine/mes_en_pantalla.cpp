@@ -66,7 +66,7 @@ std::vector<std::string> nombresDelMes(store::Conexion& base, const std::string&
                                        const common::Mes& mes) {
     std::vector<std::string> nombres;
     for (const auto& p : personasPorCantbfc(base, empresa))
-        if (activaEnAlgunaActividad(p, mes)) nombres.push_back(p.nombre);
+        if (activaEnAlgunaActividad(*p, mes)) nombres.push_back(p->nombre);
     std::sort(nombres.begin(), nombres.end());
     return nombres;
 }
@@ -74,8 +74,8 @@ std::vector<std::string> nombresDelMes(store::Conexion& base, const std::string&
 std::optional<master::Persona> personaPorNrofun(store::Conexion& base, const std::string& empresa,
                                                 const std::string& nrofun) {
     if (nrofun.empty()) return std::nullopt;
-    for (auto& p : personasPorCantbfc(base, empresa))
-        if (!p.nrofun.empty() && numero(p.nrofun) == numero(nrofun)) return std::move(p);
+    for (const auto& p : personasPorCantbfc(base, empresa))
+        if (!p->nrofun.empty() && numero(p->nrofun) == numero(nrofun)) return *p;
     return std::nullopt;
 }
 
@@ -83,15 +83,16 @@ std::optional<master::Persona> personaVecina(store::Conexion& base, const std::s
                                              const std::string& nrofun, const common::Mes& mes,
                                              int paso) {
     const long desde = numero(nrofun);
-    std::optional<master::Persona> elegida;
-    for (auto& p : personasPorCantbfc(base, empresa)) {
-        if (p.nrofun.empty() || !activaEnSuActividad(p, mes)) continue;
-        const long n = numero(p.nrofun);
+    master::PersonaCompartida elegida;
+    for (const auto& p : personasPorCantbfc(base, empresa)) {
+        if (p->nrofun.empty() || !activaEnSuActividad(*p, mes)) continue;
+        const long n = numero(p->nrofun);
         if (paso > 0 ? n <= desde : n >= desde) continue;
         if (!elegida || (paso > 0 ? n < numero(elegida->nrofun) : n > numero(elegida->nrofun)))
-            elegida = std::move(p);
+            elegida = p;
     }
-    return elegida;
+    if (!elegida) return std::nullopt;
+    return *elegida;
 }
 
 }  // namespace nomira::engine

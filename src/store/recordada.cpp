@@ -65,19 +65,34 @@ std::vector<std::string> tablasDeLaSentencia(std::string_view sql) {
 
 Resultado ConexionRecordada::consulta(std::string_view sql, const std::vector<Valor>& parametros) {
     auto k = clave(sql, parametros);
-    if (const auto it = memoria_.find(k); it != memoria_.end() && vigente(it->second)) {
-        ++recordadas_;
-        return it->second.resultado;
-    }
+    if (auto* r = vigenteDe(k)) return r->resultado;
     ++leidas_;
     auto r = base_.consulta(sql, parametros);
-    const auto& tablas = tablasDe(sql);
-    if (!tablas.empty()) {
-        Recuerdo recuerdo{general_, {}, r};
-        for (const auto& t : tablas) recuerdo.tablas.emplace_back(t, generacion(t));
-        memoria_.insert_or_assign(std::move(k), std::move(recuerdo));
-    }
+    // Lo que no nombra tablas no se recuerda: nada lo haría olvidar.
+    if (!tablasDe(sql).empty()) guardar(std::move(k), sql, r);
     return r;
+}
+
+ConexionRecordada::Recuerdo& ConexionRecordada::recordar(std::string_view sql,
+                                                         const std::vector<Valor>& parametros) {
+    auto k = clave(sql, parametros);
+    if (auto* r = vigenteDe(k)) return *r;
+    ++leidas_;
+    return guardar(std::move(k), sql, base_.consulta(sql, parametros));
+}
+
+ConexionRecordada::Recuerdo* ConexionRecordada::vigenteDe(const std::string& clave) {
+    const auto it = memoria_.find(clave);
+    if (it == memoria_.end() || !vigente(it->second)) return nullptr;
+    ++recordadas_;
+    return &it->second;
+}
+
+ConexionRecordada::Recuerdo& ConexionRecordada::guardar(std::string clave, std::string_view sql,
+                                                        Resultado resultado) {
+    Recuerdo recuerdo{general_, {}, std::move(resultado), {}};
+    for (const auto& t : tablasDe(sql)) recuerdo.tablas.emplace_back(t, generacion(t));
+    return memoria_.insert_or_assign(std::move(clave), std::move(recuerdo)).first->second;
 }
 
 std::int64_t ConexionRecordada::ejecuta(std::string_view sql,
@@ -106,6 +121,7 @@ std::int64_t ConexionRecordada::ejecutaConCambio(std::string_view sql,
     const auto afectadas = ejecuta(sql, parametros);
     if (vigenteAntes) {
         cambio(it->second.resultado, afectadas);
+        it->second.convertida.reset();
         it->second.general = general_;
         for (auto& [tabla, gen] : it->second.tablas) gen = generacion(tabla);
     }

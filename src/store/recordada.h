@@ -9,6 +9,7 @@
 // Lo que otro proceso escriba durante la corrida no se ve hasta que la
 // conexión recordada se termina: la corrida trabaja sobre los conceptos, la
 // empresa y las personas como estaban al empezar.
+#include <any>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -43,6 +44,17 @@ class ConexionRecordada : public Conexion {
                                   const std::vector<Valor>& parametrosConsulta,
                                   const Cambio& cambio);
 
+    // Lo recordado de una consulta ya convertido por quien la lee (las filas del
+    // mes como las usan los cálculos): se convierte una vez por lectura y se
+    // olvida con ella o cuando una escritura la cambia.
+    template <class T>
+    const T& convertida(std::string_view sql, const std::vector<Valor>& parametros,
+                        T (*convertir)(const Resultado&)) {
+        auto& r = recordar(sql, parametros);
+        if (const auto* t = std::any_cast<T>(&r.convertida)) return *t;
+        return r.convertida.emplace<T>(convertir(r.resultado));
+    }
+
     // Lo recordado y vigente de esa consulta, sin ir a la base; nulo si no lo hay.
     const Resultado* recordado(std::string_view consulta, const std::vector<Valor>& parametros);
 
@@ -58,7 +70,12 @@ class ConexionRecordada : public Conexion {
         std::uint64_t general = 0;
         std::vector<std::pair<std::string, std::uint64_t>> tablas;
         Resultado resultado;
+        std::any convertida;  // vacía hasta que alguien la pide
     };
+    // El recuerdo vigente de la consulta, leyéndola si hace falta.
+    Recuerdo& recordar(std::string_view sql, const std::vector<Valor>& parametros);
+    Recuerdo* vigenteDe(const std::string& clave);
+    Recuerdo& guardar(std::string clave, std::string_view sql, Resultado resultado);
     bool vigente(const Recuerdo& r) const;
     // tablasDeLaSentencia, una vez por texto: son pocos y se repiten mucho.
     const std::vector<std::string>& tablasDe(std::string_view sql);

@@ -18,7 +18,7 @@ std::string comoTexto(const std::vector<FilaMes>& filas) {
     std::string s;
     for (const auto& f : filas)
         s += std::to_string(f.codigo) + " " + f.concepto + " " + f.tipo + " " + f.gravado + " " +
-             f.ipd + " " + f.total.texto() + "\n";
+             f.ipd + " " + f.total.texto() + " x " + std::to_string(f.cant) + "\n";
     return s;
 }
 
@@ -56,6 +56,10 @@ TEST_P(FilasRecordadas, QuedanComoLasDeLaBase) {
     escribir(fila(20, "LICENCIA", "Hab", 10000.1234));
     escribir(fila(1, "SUELDO", "Hab", 20000));  // cambia el que ya estaba
     escribir(fila(702, "SNIS 4.5%", "Des", 1355.42));
+    // Borrar los descuentos del mes también las lleva al día.
+    EXPECT_EQ(borrarTipoDelMes(r, TablaLiquidacion::Habydesc, "ACME", "PEREZ", mes, "Des"), 2);
+    EXPECT_EQ(leer(r), leer(c()));
+    EXPECT_EQ(leer(r).find("MONTEPIO"), std::string::npos);
     EXPECT_EQ(r.leidas(), 1u);  // sólo la primera, vacía: cada escritura la llevó al día
     // Una escritura que no es de escribirFila obliga a releer.
     r.ejecuta("DELETE FROM habydesc WHERE codigo = 20");
