@@ -35,6 +35,9 @@ std::vector<TablaCopiada> copiarBase(store::Conexion& origen, store::Conexion& d
                                      const std::function<void(const TablaCopiada&)>& avance) {
     if (!store::existeEsquema(origen))
         throw store::ErrorBase(3024, "El origen no tiene las tablas de Nomira.");
+    // Un origen de una versión anterior se pone al día, como al abrirlo en el
+    // programa: así lo que se copia tiene la forma de las tablas de hoy.
+    store::migrar(origen);
     store::Transaccion t(destino);
     store::crearBase(destino);
     // La fila de configuración que trae una base nueva se reemplaza por la del origen.

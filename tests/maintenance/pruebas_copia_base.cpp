@@ -93,6 +93,24 @@ TEST_P(CopiaBase, IdaYVueltaDejaLasMismasFilas) {
     EXPECT_EQ(volcado(c()), volcado(*origen));
 }
 
+// Un origen de la versión 2 tenía una explicación por fila: llegan juntas.
+TEST_P(CopiaBase, UnOrigenAnteriorSePoneAlDiaAntesDeCopiarse) {
+    auto origen = sqlite("origen.db");
+    llenar(*origen);
+    origen->ejecuta("DROP TABLE explicacionesmes");
+    origen->ejecuta(
+        "CREATE TABLE explicaciones (empresa TEXT, nombre TEXT, fecha TEXT, tabla TEXT, codigo "
+        "INTEGER, texto TEXT)");
+    origen->ejecuta(
+        "INSERT INTO explicaciones VALUES ('E', 'N', '2026-02-01', 'habydesc', 7, 'siete')");
+    origen->ejecuta("UPDATE versionesquema SET version = 2");
+    maintenance::copiarBase(*origen, c());
+    const auto r = c().consulta("SELECT nombre, texto FROM explicacionesmes");
+    ASSERT_EQ(r.filas.size(), 1u);
+    EXPECT_EQ(r.primera().texto("texto"), "7\x1fsiete");
+    EXPECT_EQ(store::versionEsquema(*origen), store::kVersionEsquema);
+}
+
 TEST_P(CopiaBase, UnDestinoConDatosSeRechazaSinTocarlo) {
     auto origen = sqlite("origen.db");
     llenar(*origen);
