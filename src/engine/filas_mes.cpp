@@ -44,11 +44,10 @@ const std::string& sqlFilas(TablaLiquidacion tabla) {
     return sql[static_cast<int>(tabla)];
 }
 
-// Por posición, la de la lista del SELECT. aguinaldos (tres columnas):
-// concepto, tipo, total; las otras: codigo, concepto, tipo, gravado, ipd,
-// total, cant.
+// Por posición, la de la lista del SELECT. aguinaldos: concepto, tipo, total;
+// las otras: codigo, concepto, tipo, gravado, ipd, total, cant.
+template <bool agui>
 std::vector<FilaMes> filasDe(const store::Resultado& r) {
-    const bool agui = r.columnas.size() == 3;
     const std::size_t c = agui ? 0 : 1;
     std::vector<FilaMes> filas;
     filas.reserve(r.filas.size());
@@ -75,10 +74,11 @@ std::vector<FilaMes> leerFilas(store::Conexion& base, TablaLiquidacion tabla,
                                const common::Mes& desde, const common::Mes& hasta) {
     const auto& sql = sqlFilas(tabla);
     const auto k = claves(empresa, nombre, desde, hasta);
+    const auto convertir = tabla == TablaLiquidacion::Aguinaldos ? filasDe<true> : filasDe<false>;
     // En una corrida se leen muchas veces por persona: se convierten una vez.
     if (auto* recordada = dynamic_cast<store::ConexionRecordada*>(&base))
-        return recordada->convertida(sql, k, filasDe);
-    return filasDe(base.consulta(sql, k));
+        return recordada->convertida(sql, k, convertir);
+    return convertir(base.consulta(sql, k));
 }
 
 std::vector<FilaSalVac> leerSalvacacional(store::Conexion& base, const std::string& empresa,

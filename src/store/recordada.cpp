@@ -65,7 +65,10 @@ std::vector<std::string> tablasDeLaSentencia(std::string_view sql) {
 
 Resultado ConexionRecordada::consulta(std::string_view sql, const std::vector<Valor>& parametros) {
     auto k = clave(sql, parametros);
-    if (auto* r = vigenteDe(k)) return r->resultado;
+    if (const auto* r = vigenteDe(k)) {
+        ++recordadas_;
+        return r->resultado;
+    }
     ++leidas_;
     auto r = base_.consulta(sql, parametros);
     // Lo que no nombra tablas no se recuerda: nada lo haría olvidar.
@@ -76,16 +79,17 @@ Resultado ConexionRecordada::consulta(std::string_view sql, const std::vector<Va
 ConexionRecordada::Recuerdo& ConexionRecordada::recordar(std::string_view sql,
                                                          const std::vector<Valor>& parametros) {
     auto k = clave(sql, parametros);
-    if (auto* r = vigenteDe(k)) return *r;
+    if (auto* r = vigenteDe(k)) {
+        ++recordadas_;
+        return *r;
+    }
     ++leidas_;
     return guardar(std::move(k), sql, base_.consulta(sql, parametros));
 }
 
 ConexionRecordada::Recuerdo* ConexionRecordada::vigenteDe(const std::string& clave) {
     const auto it = memoria_.find(clave);
-    if (it == memoria_.end() || !vigente(it->second)) return nullptr;
-    ++recordadas_;
-    return &it->second;
+    return it == memoria_.end() || !vigente(it->second) ? nullptr : &it->second;
 }
 
 ConexionRecordada::Recuerdo& ConexionRecordada::guardar(std::string clave, std::string_view sql,
@@ -116,22 +120,21 @@ std::int64_t ConexionRecordada::ejecutaConCambio(std::string_view sql,
                                                  std::string_view consulta,
                                                  const std::vector<Valor>& parametrosConsulta,
                                                  const Cambio& cambio) {
-    const auto it = memoria_.find(clave(consulta, parametrosConsulta));
-    const bool vigenteAntes = it != memoria_.end() && vigente(it->second);
+    auto* recuerdo = vigenteDe(clave(consulta, parametrosConsulta));
     const auto afectadas = ejecuta(sql, parametros);
-    if (vigenteAntes) {
-        cambio(it->second.resultado, afectadas);
-        it->second.convertida.reset();
-        it->second.general = general_;
-        for (auto& [tabla, gen] : it->second.tablas) gen = generacion(tabla);
+    if (recuerdo) {
+        cambio(recuerdo->resultado, afectadas);
+        recuerdo->convertida.reset();
+        recuerdo->general = general_;
+        for (auto& [tabla, gen] : recuerdo->tablas) gen = generacion(tabla);
     }
     return afectadas;
 }
 
 const Resultado* ConexionRecordada::recordado(std::string_view consulta,
                                               const std::vector<Valor>& parametros) {
-    const auto it = memoria_.find(clave(consulta, parametros));
-    return it != memoria_.end() && vigente(it->second) ? &it->second.resultado : nullptr;
+    const auto* recuerdo = vigenteDe(clave(consulta, parametros));
+    return recuerdo ? &recuerdo->resultado : nullptr;
 }
 
 void ConexionRecordada::deshacer() {

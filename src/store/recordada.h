@@ -74,7 +74,7 @@ class ConexionRecordada : public Conexion {
     };
     // El recuerdo vigente de la consulta, leyéndola si hace falta.
     Recuerdo& recordar(std::string_view sql, const std::vector<Valor>& parametros);
-    Recuerdo* vigenteDe(const std::string& clave);
+    Recuerdo* vigenteDe(const std::string& clave);  // nulo si no lo hay o ya no vale
     Recuerdo& guardar(std::string clave, std::string_view sql, Resultado resultado);
     bool vigente(const Recuerdo& r) const;
     // tablasDeLaSentencia, una vez por texto: son pocos y se repiten mucho.
