@@ -72,13 +72,10 @@ std::vector<FilaMes> filasDe(const store::Resultado& r) {
 std::vector<FilaMes> leerFilas(store::Conexion& base, TablaLiquidacion tabla,
                                const std::string& empresa, const std::string& nombre,
                                const common::Mes& desde, const common::Mes& hasta) {
-    const auto& sql = sqlFilas(tabla);
-    const auto k = claves(empresa, nombre, desde, hasta);
-    const auto convertir = tabla == TablaLiquidacion::Aguinaldos ? filasDe<true> : filasDe<false>;
     // En una corrida se leen muchas veces por persona: se convierten una vez.
-    if (auto* recordada = dynamic_cast<store::ConexionRecordada*>(&base))
-        return recordada->convertida(sql, k, convertir);
-    return convertir(base.consulta(sql, k));
+    return store::consultaConvertida(
+        base, sqlFilas(tabla), claves(empresa, nombre, desde, hasta),
+        tabla == TablaLiquidacion::Aguinaldos ? filasDe<true> : filasDe<false>);
 }
 
 std::vector<FilaSalVac> leerSalvacacional(store::Conexion& base, const std::string& empresa,

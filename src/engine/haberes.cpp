@@ -12,7 +12,7 @@
 #include "engine/filas_persona.h"
 #include "engine/horas.h"
 #include "engine/primas_antiguedad.h"
-#include "master/registro.h"
+#include "store/recordada.h"
 
 namespace nomira::engine {
 
@@ -78,21 +78,25 @@ std::vector<master::Concepto> conceptosPermanentes(store::Conexion& base, const 
     // le da a la persona, por código y cada código una vez. La primera consulta
     // es la misma para todos los de un tipo de sueldo: en la corrida de la
     // empresa se lee una vez.
-    const auto generales = base.consulta(
+    lista = store::consultaConvertida(
+        base,
         "SELECT * FROM conceptos WHERE (especificode = ? OR especificode = 'G') AND tipo = 'Hab' "
         "AND permanente = 'Si' ORDER BY codigo",
-        {mp.tiposueldo});
-    const auto propios = base.consulta(
+        {mp.tiposueldo}, master::leerConceptos);
+    // Un código repetido en conceptos cuenta una vez: el primero.
+    lista.erase(std::unique(lista.begin(), lista.end(),
+                            [](const auto& a, const auto& b) { return a.codigo == b.codigo; }),
+                lista.end());
+    const auto propios = master::leerConceptos(base.consulta(
         "SELECT conceptos.* FROM conceptos JOIN concpermxpers ON conceptos.codigo = "
         "concpermxpers.codigo WHERE concpermxpers.empresa = ? AND concpermxpers.nombre = ? AND "
         "concpermxpers.tipo = 'Hab' ORDER BY conceptos.codigo",
-        {mp.empresa, mp.nombre});
+        {mp.empresa, mp.nombre}));
+    if (propios.empty()) return lista;  // ya van por código
     std::set<std::string> vistos;
-    for (const auto* r : {&generales, &propios})
-        for (const auto& f : r->filas) {
-            auto c = master::leerRegistro(f, master::camposConcepto());
-            if (vistos.insert(c.codigo).second) lista.push_back(std::move(c));
-        }
+    for (const auto& c : lista) vistos.insert(c.codigo);
+    for (const auto& c : propios)
+        if (vistos.insert(c.codigo).second) lista.push_back(c);
     std::stable_sort(lista.begin(), lista.end(), [](const auto& a, const auto& b) {
         return common::textoANumero(a.codigo) < common::textoANumero(b.codigo);
     });

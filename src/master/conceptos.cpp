@@ -11,14 +11,8 @@ using C = Concepto;
 
 // Las columnas de una liquidación que copian el concepto; `habydesc` y `egresos` las
 // tienen todas.
-const std::vector<const char*> kCopiadas = {"concepto", "tipo",     "unidad", "permanente",
-                                            "gravado",  "aguinaldo", "lic",   "ipd"};
-
-std::vector<Concepto> leerConceptos(const store::Resultado& r) {
-    std::vector<Concepto> lista;
-    for (const auto& f : r.filas) lista.push_back(leerRegistro(f, camposConcepto()));
-    return lista;
-}
+const std::vector<const char*> kCopiadas = {"concepto", "tipo",      "unidad", "permanente",
+                                            "gravado",  "aguinaldo", "lic",    "ipd"};
 
 store::Valor valor(const Concepto& c, const char* columna) {
     for (const auto& campo : camposConcepto())
@@ -29,16 +23,29 @@ store::Valor valor(const Concepto& c, const char* columna) {
 }  // namespace
 
 const Campos<Concepto>& camposConcepto() {
-    static const Campos<Concepto> campos = {
-        {"codigo", &C::codigo},       {"concepto", &C::concepto},   {"especificode", &C::especificode},
-        {"formula", &C::formula},     {"tipo", &C::tipo},           {"unidad", &C::unidad},
-        {"permanente", &C::permanente}, {"gravado", &C::gravado},   {"aguinaldo", &C::aguinaldo},
-        {"lic", &C::lic},             {"ipd", &C::ipd}};
+    static const Campos<Concepto> campos = {{"codigo", &C::codigo},
+                                            {"concepto", &C::concepto},
+                                            {"especificode", &C::especificode},
+                                            {"formula", &C::formula},
+                                            {"tipo", &C::tipo},
+                                            {"unidad", &C::unidad},
+                                            {"permanente", &C::permanente},
+                                            {"gravado", &C::gravado},
+                                            {"aguinaldo", &C::aguinaldo},
+                                            {"lic", &C::lic},
+                                            {"ipd", &C::ipd}};
     return campos;
 }
 
+std::vector<Concepto> leerConceptos(const store::Resultado& r) {
+    std::vector<Concepto> lista;
+    for (const auto& f : r.filas) lista.push_back(leerRegistro(f, camposConcepto()));
+    return lista;
+}
+
 std::optional<Concepto> leerConcepto(store::Conexion& base, long codigo) {
-    const auto r = base.consulta("SELECT * FROM conceptos WHERE codigo = ?", {std::int64_t{codigo}});
+    const auto r =
+        base.consulta("SELECT * FROM conceptos WHERE codigo = ?", {std::int64_t{codigo}});
     if (r.vacio()) return std::nullopt;
     return leerRegistro(r.primera(), camposConcepto());
 }
@@ -48,9 +55,11 @@ std::vector<Concepto> listarConceptos(store::Conexion& base) {
 }
 
 const std::vector<CriterioBusqueda>& criteriosBusquedaConceptos() {
-    static const std::vector<CriterioBusqueda> criterios = {
-        {"Concepto", "concepto"}, {"Fórmula", "formula"}, {"Específico de", "especificode"},
-        {"Tipo", "tipo"},         {"Unidad", "unidad"}};
+    static const std::vector<CriterioBusqueda> criterios = {{"Concepto", "concepto"},
+                                                            {"Fórmula", "formula"},
+                                                            {"Específico de", "especificode"},
+                                                            {"Tipo", "tipo"},
+                                                            {"Unidad", "unidad"}};
     return criterios;
 }
 
@@ -60,15 +69,15 @@ std::vector<Concepto> buscarConceptos(store::Conexion& base, const std::string& 
     bool conocida = false;
     for (const auto& c : criteriosBusquedaConceptos()) conocida = conocida || columna == c.columna;
     if (!conocida) throw common::Fallo(5, "Columna de búsqueda desconocida: " + columna);
-    return leerConceptos(
-        base.consulta("SELECT * FROM conceptos WHERE " + store::condicionLike(base, columna) +
-                          " ORDER BY codigo",
-                      {store::patronLike("*" + texto + "*")}));
+    return leerConceptos(base.consulta(
+        "SELECT * FROM conceptos WHERE " + store::condicionLike(base, columna) + " ORDER BY codigo",
+        {store::patronLike("*" + texto + "*")}));
 }
 
 std::optional<std::string> prepararConcepto(Concepto& c) {
     if (c.tipo == "Des" && c.especificode != "G")
-        return "Si el Tipo es un Desc. entonces en Específico de debe seleccionar la opción General.";
+        return "Si el Tipo es un Desc. entonces en Específico de debe seleccionar la opción "
+               "General.";
     if (c.tipo == "Des") c.gravado = c.aguinaldo = c.lic = c.ipd = "";
     return std::nullopt;
 }
@@ -116,18 +125,17 @@ std::vector<std::string> lineasListaConceptos(const std::vector<Concepto>& conce
         std::size_t ancho;
         std::string C::*miembro;
     };
-    static const Columna kColumnas[] = {
-        {"    Código", 10, &C::codigo},
-        {"                      Concepto", 30, &C::concepto},
-        {"Específico", 10, &C::especificode},
-        {"                       Fórmula", 30, &C::formula},
-        {"      Tipo", 10, &C::tipo},
-        {"    Unidad", 10, &C::unidad},
-        {"Perm", 4, &C::permanente},
-        {"Grav", 4, &C::gravado},
-        {"Agui", 4, &C::aguinaldo},
-        {"Lic/Ipd", 7, &C::lic},
-        {"Irpf.", 5, &C::ipd}};
+    static const Columna kColumnas[] = {{"    Código", 10, &C::codigo},
+                                        {"                      Concepto", 30, &C::concepto},
+                                        {"Específico", 10, &C::especificode},
+                                        {"                       Fórmula", 30, &C::formula},
+                                        {"      Tipo", 10, &C::tipo},
+                                        {"    Unidad", 10, &C::unidad},
+                                        {"Perm", 4, &C::permanente},
+                                        {"Grav", 4, &C::gravado},
+                                        {"Agui", 4, &C::aguinaldo},
+                                        {"Lic/Ipd", 7, &C::lic},
+                                        {"Irpf.", 5, &C::ipd}};
     auto celda = [](const std::string& texto, std::size_t ancho) {
         return " " + common::alinearIzquierda(common::cortar(texto, ancho), ancho);
     };
@@ -146,7 +154,8 @@ std::vector<std::string> lineasListaConceptos(const std::vector<Concepto>& conce
 bool existeConceptoPersona(store::Conexion& base, const std::string& empresa,
                            const std::string& nombre, long codigo) {
     return !base.consulta(
-                    "SELECT codigo FROM concpermxpers WHERE empresa = ? AND nombre = ? AND codigo = ?",
+                    "SELECT codigo FROM concpermxpers WHERE empresa = ? AND nombre = ? AND codigo "
+                    "= ?",
                     {empresa, nombre, std::int64_t{codigo}})
                 .vacio();
 }
@@ -157,7 +166,8 @@ std::optional<std::string> agregarConceptoPersona(store::Conexion& base, const s
     if (!c) return kCodigoInexistente;
     if (c->permanente == "Si") return kYaEsPermanente;
     base.ejecuta(
-        "INSERT INTO concpermxpers (empresa, nombre, codigo, concepto, tipo) VALUES (?, ?, ?, ?, ?)",
+        "INSERT INTO concpermxpers (empresa, nombre, codigo, concepto, tipo) VALUES (?, ?, ?, ?, "
+        "?)",
         {empresa, nombre, std::int64_t{codigo}, c->concepto, c->tipo});
     return std::nullopt;
 }

@@ -20,6 +20,8 @@ struct Concepto {
 const Campos<Concepto>& camposConcepto();
 
 std::optional<Concepto> leerConcepto(store::Conexion& base, long codigo);
+// Las filas de una consulta de conceptos (SELECT * o conceptos.*).
+std::vector<Concepto> leerConceptos(const store::Resultado& r);
 // Todos, por código.
 std::vector<Concepto> listarConceptos(store::Conexion& base);
 

@@ -89,6 +89,16 @@ class ConexionRecordada : public Conexion {
     std::size_t recordadas_ = 0, leidas_ = 0;
 };
 
+// La consulta convertida por `convertir`: por una conexión que recuerda, una vez
+// por lectura; por otra, cada vez.
+template <class T>
+T consultaConvertida(Conexion& base, std::string_view sql, const std::vector<Valor>& parametros,
+                     T (*convertir)(const Resultado&)) {
+    if (auto* recordada = dynamic_cast<ConexionRecordada*>(&base))
+        return recordada->convertida(sql, parametros, convertir);
+    return convertir(base.consulta(sql, parametros));
+}
+
 // Las tablas que nombra una sentencia: las que siguen a FROM, JOIN, INTO y
 // UPDATE, en minúsculas y sin repetir. Vacío si no nombra ninguna.
 std::vector<std::string> tablasDeLaSentencia(std::string_view sql);

@@ -109,6 +109,17 @@ TEST_P(Haberes, MensualConSusPermanentesYLoTecleadoSeQueda) {
               "ventana Personal.");
 }
 
+// conceptos admite códigos repetidos: cada código da una sola fila.
+TEST_P(Haberes, UnCodigoRepetidoEnConceptosDaUnaFila) {
+    persona(c.nombre, {{"sueldo", "31000"}, {"tiposueldo", "S"}, {"fechaing", "2020-01-01"}});
+    concepto(2, "ALIMENTACION", "G", "[SUELDO]/31", "Si");
+    const auto r = generar(c.nombre);
+    ASSERT_TRUE(r.hecho);
+    EXPECT_EQ(r.filas.size(), 2u);
+    EXPECT_EQ(filas(c.nombre, "2026-02-01"),
+              (std::vector<std::string>{"1 SUELDO Hab 1 31000", "2 ALIMENTACION Hab 1 1000"}));
+}
+
 TEST_P(Haberes, IngresoAMitadDeMesPierdeLosDias) {
     persona("TREINTAYUNO", {{"sueldo", "30000"}, {"tiposueldo", "S"}, {"fechaing", "2026-01-31"}});
     persona("FEBRERO", {{"sueldo", "24000"}, {"tiposueldo", "S"}, {"fechaing", "2026-02-28"}});
