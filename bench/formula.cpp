@@ -8,7 +8,7 @@
 #include <memory>
 #include <random>
 
-#include "common/dialogo.h"
+#include "apoyo/dialogo_guion.h"
 #include "engine/formula.h"
 #include "master/variables.h"
 #include "store/conexion.h"
@@ -39,16 +39,6 @@ class ConexionContada : public store::Conexion {
 
   private:
     std::unique_ptr<store::Conexion> c_;
-};
-
-class SinDialogo : public common::Dialogo {
-  public:
-    bool confirmar(const std::string&, const std::string&, bool) override { return true; }
-    std::optional<std::string> pedirTexto(const std::string&, const std::string&,
-                                          const std::string& i) override {
-        return i;
-    }
-    void avisar(common::TipoAviso, const std::string&, const std::string&) override {}
 };
 
 // Una base SQLite en una carpeta temporal, con BPC, SALMIN y UR en dos fechas
@@ -94,7 +84,7 @@ engine::ContextoFormula contexto(master::LectorVariables& variables, const char*
 // Un lector para toda la corrida: la primera evaluación lee, las demás no.
 void enUnaCorrida(benchmark::State& estado, const char* formula) {
     BaseDePrueba b;
-    SinDialogo dialogo;
+    pruebas::DialogoGuion dialogo;
     master::LectorVariables variables(*b.base);
     auto c = contexto(variables, formula);
     b.base->consultas = 0;
@@ -114,7 +104,7 @@ void enUnaCorrida(benchmark::State& estado, const char* formula) {
 // Un lector y un contexto nuevos por evaluación: lo que cuesta leer cada vez.
 void corridaNuevaCadaVez(benchmark::State& estado, const char* formula) {
     BaseDePrueba b;
-    SinDialogo dialogo;
+    pruebas::DialogoGuion dialogo;
     b.base->consultas = 0;
     for (auto _ : estado) {
         master::LectorVariables variables(*b.base);

@@ -12,7 +12,7 @@
 #include <optional>
 #include <string>
 
-#include "common/dialogo.h"
+#include "apoyo/dialogo_guion.h"
 #include "engine/descuentos.h"
 #include "engine/haberes.h"
 #include "master/datos_iniciales.h"
@@ -22,16 +22,6 @@
 namespace {
 
 using namespace nomira;
-
-class DialogoMudo : public common::Dialogo {
-  public:
-    bool confirmar(const std::string&, const std::string&, bool) override { return true; }
-    std::optional<std::string> pedirTexto(const std::string&, const std::string&,
-                                          const std::string& inicial) override {
-        return inicial;
-    }
-    void avisar(common::TipoAviso, const std::string&, const std::string&) override {}
-};
 
 constexpr int kPersonas = 1000;
 constexpr int kPrimas = 13;
@@ -110,7 +100,7 @@ double insertarFilas(store::Conexion& base,
 void BM_LiquidacionDeLaEmpresa(benchmark::State& state) {
     const auto dir = std::filesystem::temp_directory_path() / "nomira-banco-liquidacion";
     std::filesystem::create_directories(dir);
-    DialogoMudo dialogo;
+    pruebas::DialogoGuion dialogo;
     const common::Mes mes{2026, 2};
     double segHaberes = 0, segDescuentos = 0, segInsert = 0, segPorPersona = 0;
     for (auto _ : state) {
