@@ -48,14 +48,13 @@ std::optional<DatosPersona> datosPersona(ContextoFormula& ctx) {
     return p;
 }
 
-Deducciones deduccionesDe(const DatosPersona& p, const common::Mes& periodo,
+Deducciones deduccionesDe(store::Conexion& base, const DatosPersona& p, const common::Mes& periodo,
                           master::LectorVariables& variables, common::Dialogo* dialogo) {
     Deducciones d;
     const std::array<const std::string*, 3> causas = {&p.fila->causaben, &p.fila->causaben2,
                                                       &p.fila->causaben3};
     const std::array<const std::string*, 3> nacimientos = {
         &p.fila->fechanacben, &p.fila->fechanacben2, &p.fila->fechanacben3};
-    auto& base = variables.base();
     for (int i = 0; i < 3; ++i) {
         auto& dep = d.dependientes[i];
         dep.causa = common::codigoDeCatalogo(*causas[i]);

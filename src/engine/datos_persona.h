@@ -27,8 +27,9 @@ struct DatosPersona {
 std::optional<DatosPersona> datosPersona(ContextoFormula& ctx);
 
 // Beneficiarios y casillas con sus códigos de catálogo, la edad al período y
-// el valor de la variable de las casillas "03".
-Deducciones deduccionesDe(const DatosPersona& p, const common::Mes& periodo,
+// el valor de la variable de las casillas "03". Los catálogos se leen por
+// `base`: en una corrida, la conexión que los recuerda.
+Deducciones deduccionesDe(store::Conexion& base, const DatosPersona& p, const common::Mes& periodo,
                           master::LectorVariables& variables, common::Dialogo* dialogo);
 
 }  // namespace nomira::engine

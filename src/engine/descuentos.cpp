@@ -156,8 +156,9 @@ std::vector<FilaLiquidada> generarDescuentos(store::Conexion& base, MesPersona& 
                                              ContextoFormula& ctx, common::Dialogo& dialogo) {
     std::vector<FilaLiquidada> hechas;
     std::vector<FilaMes> haberes;
-    for (auto& f : leerFilasDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes))
-        if (f.tipo == "Hab") haberes.push_back(std::move(f));
+    for (const auto& f :
+         leerFilasDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes))
+        if (f.tipo == "Hab") haberes.push_back(f);
     double licencia = 0;
     for (const auto& f : haberes)
         if (f.concepto == "LICENCIA" || f.concepto == "LICENCIA 2DA ACT")

@@ -1,6 +1,8 @@
 #include "engine/empresa_mes.h"
 
 #include <algorithm>
+#include <chrono>
+#include <optional>
 
 #include "common/numeros.h"
 #include "master/registro.h"
@@ -34,6 +36,9 @@ ResultadoEmpresa recorrerEmpresa(store::Conexion& base, const std::string& empre
     ResultadoEmpresa r;
     store::ConexionRecordada recordada(base);
     const auto personas = personasPorCantbfc(recordada, empresa);
+    // La tanda abierta y desde cuándo; se confirma antes de salir por donde sea.
+    std::optional<store::Transaccion> tanda;
+    auto abierta = std::chrono::steady_clock::now();
     for (std::size_t i = 0; i < personas.size(); ++i) {
         if (cancelar && cancelar()) {
             r.cancelado = true;
@@ -45,8 +50,12 @@ ResultadoEmpresa recorrerEmpresa(store::Conexion& base, const std::string& empre
             r.inactivas.push_back(p->nombre);
             continue;
         }
+        if (!tanda) {
+            tanda.emplace(recordada);
+            abierta = std::chrono::steady_clock::now();
+        }
         try {
-            store::Transaccion t(recordada);
+            store::Transaccion t(recordada);  // la persona, dentro de la tanda
             auto hecho = porPersona(recordada, p);
             t.confirmar();
             r.personas.push_back(std::move(hecho));
@@ -55,7 +64,12 @@ ResultadoEmpresa recorrerEmpresa(store::Conexion& base, const std::string& empre
             r.personaFallida = p->nombre;
             break;
         }
+        if (std::chrono::steady_clock::now() - abierta >= kTanda) {
+            tanda->confirmar();
+            tanda.reset();
+        }
     }
+    if (tanda) tanda->confirmar();
     return r;
 }
 

@@ -1,8 +1,9 @@
 #pragma once
 // El recorrido de una empresa en un mes, común a las dos generaciones de Form42
 // (ActHamPermxEmpresa_Click y ActDesPermxEmpresa_Click): las personas en su
-// orden, la prueba de actividad, una transacción por persona, el avance y la
-// cancelación entre personas.
+// orden, la prueba de actividad, la transacción de cada persona, el avance y
+// la cancelación entre personas.
+#include <chrono>
 #include <cstddef>
 #include <exception>
 #include <functional>
@@ -34,7 +35,7 @@ using ProgresoEmpresa =
 using CancelarEmpresa = std::function<bool()>;
 
 struct ResultadoEmpresa {
-    std::vector<ResultadoPersona> personas;  // las generadas, confirmadas
+    std::vector<ResultadoPersona> personas;  // las generadas, ya confirmadas al volver
     std::vector<std::string> inactivas;      // fuera del mes por ingreso o egreso
     bool cancelado = false;
     // Un fallo detiene el recorrido: lo de esa persona se deshizo, lo anterior queda.
@@ -42,8 +43,16 @@ struct ResultadoEmpresa {
     std::string personaFallida;
 };
 
-// Recorre las personas activas en el mes; cada una en su transacción, que se
-// confirma al terminar porPersona y se deshace si lanza.
+// Confirmar una transacción por persona costaba más que liquidarla: las
+// personas se confirman por tandas de este largo. Cada persona va en su punto
+// de guardado dentro de la tanda, que se confirma al cumplirse el plazo, al
+// detenerse (cancelación o fallo) y al terminar; así un fallo no deja a medias
+// a nadie ni pierde a los terminados, y los demás puestos esperan a lo sumo
+// una tanda para escribir.
+inline constexpr std::chrono::milliseconds kTanda{50};
+
+// Recorre las personas activas en el mes; cada una en su punto de guardado,
+// que se deshace si porPersona lanza.
 ResultadoEmpresa recorrerEmpresa(store::Conexion& base, const std::string& empresa,
                                  const common::Mes& mes, const PorPersona& porPersona,
                                  const ProgresoEmpresa& progreso = {},

@@ -69,13 +69,13 @@ std::vector<FilaMes> filasDe(const store::Resultado& r) {
 
 }  // namespace
 
-std::vector<FilaMes> leerFilas(store::Conexion& base, TablaLiquidacion tabla,
-                               const std::string& empresa, const std::string& nombre,
-                               const common::Mes& desde, const common::Mes& hasta) {
+FilasLeidas leerFilas(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
+                      const std::string& nombre, const common::Mes& desde,
+                      const common::Mes& hasta) {
     // En una corrida se leen muchas veces por persona: se convierten una vez.
-    return store::consultaConvertida(
+    return FilasLeidas(store::consultaConvertida(
         base, sqlFilas(tabla), claves(empresa, nombre, desde, hasta),
-        tabla == TablaLiquidacion::Aguinaldos ? filasDe<true> : filasDe<false>);
+        tabla == TablaLiquidacion::Aguinaldos ? filasDe<true> : filasDe<false>));
 }
 
 std::vector<FilaSalVac> leerSalvacacional(store::Conexion& base, const std::string& empresa,

@@ -2,6 +2,7 @@
 // Las filas ya liquidadas de una persona que leen los aportes y el IRPF:
 // habydesc, egresos y aguinaldos por mes o por tramo de meses, y salvacacional.
 // También la escritura de una fila generada (UPDATE por código o INSERT).
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -26,14 +27,30 @@ struct FilaMes {
     double cant = 0;
 };
 
+// Filas leídas y compartidas: en una corrida, las de una misma lectura se
+// convierten una vez y todos los cálculos de la persona recorren las mismas.
+class FilasLeidas {
+  public:
+    explicit FilasLeidas(std::shared_ptr<const std::vector<FilaMes>> filas)
+        : filas_(std::move(filas)) {}
+    operator const std::vector<FilaMes>&() const { return *filas_; }
+    auto begin() const { return filas_->begin(); }
+    auto end() const { return filas_->end(); }
+    std::size_t size() const { return filas_->size(); }
+    bool empty() const { return filas_->empty(); }
+
+  private:
+    std::shared_ptr<const std::vector<FilaMes>> filas_;
+};
+
 // Las filas de la persona con fecha del primer día de `desde` al de `hasta`,
 // por código (aguinaldos, en el orden de la tabla).
-std::vector<FilaMes> leerFilas(store::Conexion& base, TablaLiquidacion tabla,
-                               const std::string& empresa, const std::string& nombre,
-                               const common::Mes& desde, const common::Mes& hasta);
-inline std::vector<FilaMes> leerFilasDelMes(store::Conexion& base, TablaLiquidacion tabla,
-                                            const std::string& empresa, const std::string& nombre,
-                                            const common::Mes& mes) {
+FilasLeidas leerFilas(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
+                      const std::string& nombre, const common::Mes& desde,
+                      const common::Mes& hasta);
+inline FilasLeidas leerFilasDelMes(store::Conexion& base, TablaLiquidacion tabla,
+                                   const std::string& empresa, const std::string& nombre,
+                                   const common::Mes& mes) {
     return leerFilas(base, tabla, empresa, nombre, mes, mes);
 }
 

@@ -78,7 +78,7 @@ std::vector<master::Concepto> conceptosPermanentes(store::Conexion& base, const 
     // le da a la persona, por código y cada código una vez. La primera consulta
     // es la misma para todos los de un tipo de sueldo: en la corrida de la
     // empresa se lee una vez.
-    lista = store::consultaConvertida(
+    lista = *store::consultaConvertida(
         base,
         "SELECT * FROM conceptos WHERE (especificode = ? OR especificode = 'G') AND tipo = 'Hab' "
         "AND permanente = 'Si' ORDER BY codigo",

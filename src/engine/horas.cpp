@@ -59,10 +59,24 @@ std::optional<master::Concepto> conceptoDeLinea(store::Conexion& base, long codi
 }  // namespace
 
 std::string prefijoArchivosHoras() {
-    std::ifstream f(raiz() / "Software" / "Nomira" / "horas.txt");
+    // Se pregunta por cada persona de una corrida: el texto leído vale mientras
+    // el archivo tenga la misma fecha de modificación.
+    struct Leido {
+        fs::path ruta;
+        fs::file_time_type modificado;
+        std::string prefijo;
+    };
+    static std::optional<Leido> leido;
+    const auto ruta = raiz() / "Software" / "Nomira" / "horas.txt";
+    std::error_code ec;
+    const auto modificado = fs::last_write_time(ruta, ec);
+    if (ec) return "";
+    if (leido && leido->ruta == ruta && leido->modificado == modificado) return leido->prefijo;
+    std::ifstream f(ruta);
     std::string linea;
     if (!f || !std::getline(f, linea)) return "";
     while (!linea.empty() && (linea.back() == '\r' || linea.back() == '\n')) linea.pop_back();
+    leido = Leido{ruta, modificado, linea};
     return linea;
 }
 

@@ -76,7 +76,7 @@ ResultadoIRPF CalculoIRPF(ContextoFormula& ctx, Dinero montoirpf, Dinero montono
     e.mes = mes;
     e.bpc = vars.valor("BPC");
     e.exclusion = vars.valor("EXCLUSIONIRPF");
-    if (persona) e.deducciones = deduccionesDe(*persona, mes, vars, &dialogo);
+    if (persona) e.deducciones = deduccionesDe(base, *persona, mes, vars, &dialogo);
     e.escala = leerEscala(base, op.escalaAguinaldoEnJunio && mes.mes == 6);
     const auto b = banderas(persona);
     e.multiEmp = b.multiEmp;
@@ -117,7 +117,7 @@ ResultadoIRPFDic CalculoIRPFDic(ContextoFormula& ctx, bool conEgresos, common::D
     e.periodo = ctx.periodo;
     e.bpc = vars.valor("BPC");
     e.exclusion = vars.valor("EXCLUSIONIRPF");
-    if (persona) e.deducciones = deduccionesDe(*persona, ctx.periodo, vars, &dialogo);
+    if (persona) e.deducciones = deduccionesDe(base, *persona, ctx.periodo, vars, &dialogo);
     e.escala = leerEscala(base, false);
     const auto b = banderas(persona);
     e.multiEmp = b.multiEmp;
@@ -158,7 +158,7 @@ Dinero CalculomontodeduccionesIRPF(ContextoFormula& ctx, const OpcionesIRPF& op,
     const auto persona = datosPersona(ctx);
     Dinero total;
     if (persona)
-        total = deduccionesDelMes(deduccionesDe(*persona, ctx.periodo, vars, &dialogo),
+        total = deduccionesDelMes(deduccionesDe(base, *persona, ctx.periodo, vars, &dialogo),
                                   vars.valor("BPC"), op.factorSlot08);
     total += sumaAportes(
         leerFilasDelMes(base, TablaLiquidacion::Habydesc, ctx.empresa, ctx.nombre, ctx.periodo));

@@ -65,7 +65,8 @@ AntAlim antAlim(const std::vector<FilaMes>& filas) {
 
 AntAlim CalculoAntAlim(store::Conexion& base, const std::string& empresa, const std::string& nombre,
                        const common::Mes& mes) {
-    auto filas = leerFilasDelMes(base, TablaLiquidacion::Habydesc, empresa, nombre, mes);
+    std::vector<FilaMes> filas =
+        leerFilasDelMes(base, TablaLiquidacion::Habydesc, empresa, nombre, mes);
     const auto egresos = leerFilasDelMes(base, TablaLiquidacion::Egresos, empresa, nombre, mes);
     filas.insert(filas.end(), egresos.begin(), egresos.end());
     return antAlim(filas);

@@ -12,6 +12,7 @@
 #include <any>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -45,14 +46,15 @@ class ConexionRecordada : public Conexion {
                                   const Cambio& cambio);
 
     // Lo recordado de una consulta ya convertido por quien la lee (las filas del
-    // mes como las usan los cálculos): se convierte una vez por lectura y se
-    // olvida con ella o cuando una escritura la cambia.
+    // mes como las usan los cálculos): se convierte una vez por lectura, se
+    // comparte sin copiarse y se olvida con ella o cuando una escritura la cambia.
     template <class T>
-    const T& convertida(std::string_view sql, const std::vector<Valor>& parametros,
-                        T (*convertir)(const Resultado&)) {
+    std::shared_ptr<const T> convertida(std::string_view sql, const std::vector<Valor>& parametros,
+                                        T (*convertir)(const Resultado&)) {
         auto& r = recordar(sql, parametros);
-        if (const auto* t = std::any_cast<T>(&r.convertida)) return *t;
-        return r.convertida.emplace<T>(convertir(r.resultado));
+        using Compartida = std::shared_ptr<const T>;
+        if (const auto* t = std::any_cast<Compartida>(&r.convertida)) return *t;
+        return r.convertida.emplace<Compartida>(std::make_shared<const T>(convertir(r.resultado)));
     }
 
     // Lo recordado y vigente de esa consulta, sin ir a la base; nulo si no lo hay.
@@ -92,11 +94,12 @@ class ConexionRecordada : public Conexion {
 // La consulta convertida por `convertir`: por una conexión que recuerda, una vez
 // por lectura; por otra, cada vez.
 template <class T>
-T consultaConvertida(Conexion& base, std::string_view sql, const std::vector<Valor>& parametros,
-                     T (*convertir)(const Resultado&)) {
+std::shared_ptr<const T> consultaConvertida(Conexion& base, std::string_view sql,
+                                            const std::vector<Valor>& parametros,
+                                            T (*convertir)(const Resultado&)) {
     if (auto* recordada = dynamic_cast<ConexionRecordada*>(&base))
         return recordada->convertida(sql, parametros, convertir);
-    return convertir(base.consulta(sql, parametros));
+    return std::make_shared<const T>(convertir(base.consulta(sql, parametros)));
 }
 
 // Las tablas que nombra una sentencia: las que siguen a FROM, JOIN, INTO y

@@ -1,5 +1,6 @@
-// El recorrido de una empresa: una transacción por persona, el avance, la
-// cancelación y las personas fuera del mes, en los dos motores.
+// El recorrido de una empresa: cada persona entera o nada, lo terminado
+// confirmado al volver, el avance, la cancelación y las personas fuera del
+// mes, en los dos motores.
 #include <gtest/gtest.h>
 
 #include "engine/apoyo_formula.h"
@@ -21,9 +22,11 @@ class EmpresaMes : public pruebas::BaseFormula {
             "permanente, gravado) VALUES (1, 'SUELDO', 'S', '[SUELDO]', 'Hab', 'I', 'Si', 'Si'), "
             "(2, 'CUOTA', 'G', '[SUELDO]/[HTRAB]', 'Hab', 'I', 'No', 'Si')");
     }
+    // Contadas por otra conexión, como las vería otro puesto: sólo lo confirmado.
     long filasDe(const std::string& nombre) {
         return static_cast<long>(
-            base->consulta("SELECT COUNT(*) FROM habydesc WHERE nombre = ?", {nombre})
+            otra()
+                ->consulta("SELECT COUNT(*) FROM habydesc WHERE nombre = ?", {nombre})
                 .primera()
                 .entero(0));
     }
