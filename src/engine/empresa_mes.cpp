@@ -59,6 +59,7 @@ ResultadoEmpresa recorrerEmpresa(store::Conexion& base, const std::string& empre
             auto hecho = porPersona(recordada, p);
             t.confirmar();
             r.personas.push_back(std::move(hecho));
+            recordada.olvidarSinUso();
         } catch (...) {
             r.fallo = std::current_exception();
             r.personaFallida = p->nombre;

@@ -6,12 +6,11 @@
 
 namespace nomira::store {
 
-namespace {
-
-// La clave de una consulta: su texto y sus parámetros con su tipo, sin
-// ambigüedad entre un texto "1" y un entero 1.
-std::string clave(std::string_view sql, const std::vector<Valor>& parametros) {
-    std::string k(sql);
+// La clave de una consulta: el número de su texto y sus parámetros con su
+// tipo, sin ambigüedad entre un texto "1" y un entero 1.
+std::string ConexionRecordada::clave(std::string_view sql, const std::vector<Valor>& parametros) {
+    const auto id = sentenciaDe(sql).id;
+    std::string k(reinterpret_cast<const char*>(&id), sizeof id);
     for (const auto& v : parametros) {
         k += '\x1f';
         k += static_cast<char>('0' + v.index());
@@ -27,6 +26,8 @@ std::string clave(std::string_view sql, const std::vector<Valor>& parametros) {
     }
     return k;
 }
+
+namespace {
 
 bool esPalabra(char c) {
     return std::isalnum(static_cast<unsigned char>(c)) || c == '_';
@@ -72,7 +73,7 @@ Resultado ConexionRecordada::consulta(std::string_view sql, const std::vector<Va
     ++leidas_;
     auto r = base_.consulta(sql, parametros);
     // Lo que no nombra tablas no se recuerda: nada lo haría olvidar.
-    if (!tablasDe(sql).empty()) guardar(std::move(k), sql, r);
+    if (!sentenciaDe(sql).tablas.empty()) guardar(std::move(k), sql, r);
     return r;
 }
 
@@ -89,29 +90,38 @@ ConexionRecordada::Recuerdo& ConexionRecordada::recordar(std::string_view sql,
 
 ConexionRecordada::Recuerdo* ConexionRecordada::vigenteDe(const std::string& clave) {
     const auto it = memoria_.find(clave);
-    return it == memoria_.end() || !vigente(it->second) ? nullptr : &it->second;
+    if (it == memoria_.end() || !vigente(it->second)) return nullptr;
+    it->second.turno = turno_;
+    return &it->second;
+}
+
+void ConexionRecordada::olvidarSinUso() {
+    std::erase_if(memoria_, [&](const auto& e) { return e.second.turno < turno_; });
+    ++turno_;
 }
 
 ConexionRecordada::Recuerdo& ConexionRecordada::guardar(std::string clave, std::string_view sql,
                                                         Resultado resultado) {
-    Recuerdo recuerdo{general_, {}, std::move(resultado), {}};
-    for (const auto& t : tablasDe(sql)) recuerdo.tablas.emplace_back(t, generacion(t));
+    Recuerdo recuerdo{general_, turno_, {}, std::move(resultado), {}};
+    for (const auto& t : sentenciaDe(sql).tablas) recuerdo.tablas.emplace_back(t, generacion(t));
     return memoria_.insert_or_assign(std::move(clave), std::move(recuerdo)).first->second;
 }
 
 std::int64_t ConexionRecordada::ejecuta(std::string_view sql,
                                         const std::vector<Valor>& parametros) {
-    const auto& tablas = tablasDe(sql);
+    const auto& tablas = sentenciaDe(sql).tablas;
     // DDL, SET y lo que no nombre tablas: se olvida todo.
     if (tablas.empty()) ++general_;
     for (const auto& t : tablas) ++generaciones_[t];
     return base_.ejecuta(sql, parametros);
 }
 
-const std::vector<std::string>& ConexionRecordada::tablasDe(std::string_view sql) {
-    auto it = tablasPorTexto_.find(sql);
-    if (it == tablasPorTexto_.end())
-        it = tablasPorTexto_.emplace(std::string(sql), tablasDeLaSentencia(sql)).first;
+const ConexionRecordada::Sentencia& ConexionRecordada::sentenciaDe(std::string_view sql) {
+    auto it = sentencias_.find(sql);
+    if (it == sentencias_.end()) {
+        const auto id = static_cast<std::uint32_t>(sentencias_.size());
+        it = sentencias_.emplace(std::string(sql), Sentencia{id, tablasDeLaSentencia(sql)}).first;
+    }
     return it->second;
 }
 

@@ -60,6 +60,11 @@ class ConexionRecordada : public Conexion {
     // Lo recordado y vigente de esa consulta, sin ir a la base; nulo si no lo hay.
     const Resultado* recordado(std::string_view consulta, const std::vector<Valor>& parametros);
 
+    // Olvida lo que no se usó desde la llamada anterior: entre persona y persona
+    // de una corrida quedan la empresa, los conceptos y las escalas, no las
+    // filas de la persona anterior.
+    void olvidarSinUso();
+
     // Cuántas consultas se respondieron de memoria y cuántas fueron a la base.
     std::size_t recordadas() const { return recordadas_; }
     std::size_t leidas() const { return leidas_; }
@@ -70,6 +75,7 @@ class ConexionRecordada : public Conexion {
     // es subir la generación general.
     struct Recuerdo {
         std::uint64_t general = 0;
+        std::uint64_t turno = 0;  // el de su último uso (olvidarSinUso)
         std::vector<std::pair<std::string, std::uint64_t>> tablas;
         Resultado resultado;
         std::any convertida;  // vacía hasta que alguien la pide
@@ -79,15 +85,21 @@ class ConexionRecordada : public Conexion {
     Recuerdo* vigenteDe(const std::string& clave);  // nulo si no lo hay o ya no vale
     Recuerdo& guardar(std::string clave, std::string_view sql, Resultado resultado);
     bool vigente(const Recuerdo& r) const;
-    // tablasDeLaSentencia, una vez por texto: son pocos y se repiten mucho.
-    const std::vector<std::string>& tablasDe(std::string_view sql);
+    // Cada texto de sentencia, una vez: son pocos y se repiten mucho. El número
+    // abrevia el texto en las claves.
+    struct Sentencia {
+        std::uint32_t id;
+        std::vector<std::string> tablas;  // tablasDeLaSentencia
+    };
+    const Sentencia& sentenciaDe(std::string_view sql);
+    std::string clave(std::string_view sql, const std::vector<Valor>& parametros);
     std::uint64_t generacion(const std::string& tabla) const;
 
     Conexion& base_;
     std::unordered_map<std::string, Recuerdo> memoria_;
     std::unordered_map<std::string, std::uint64_t> generaciones_;
-    MapaPorTexto<std::vector<std::string>> tablasPorTexto_;
-    std::uint64_t general_ = 0;
+    MapaPorTexto<Sentencia> sentencias_;
+    std::uint64_t general_ = 0, turno_ = 0;
     std::size_t recordadas_ = 0, leidas_ = 0;
 };
 

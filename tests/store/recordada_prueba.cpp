@@ -63,5 +63,24 @@ TEST_P(Recordada, RespondeDeMemoriaHastaQueSeEscribeLoLeido) {
     EXPECT_EQ(paises(), 1u);
 }
 
+TEST_P(Recordada, EntrePersonasOlvidaLoQueNoSeUso) {
+    ConexionRecordada r(c());
+    const auto deptos = [&](const std::string& n) {
+        return r.consulta("SELECT nombre FROM depto WHERE nombre = ?", {n}).filas.size();
+    };
+    deptos("CANELONES");  // como la empresa: la usan todas las personas
+    deptos("FLORIDA");    // como las filas de la primera persona
+    r.olvidarSinUso();
+    deptos("CANELONES");
+    r.olvidarSinUso();
+    EXPECT_EQ(r.leidas(), 2u);
+
+    // Lo que otro escribió se ve en lo olvidado, no en lo que sigue en uso.
+    c().ejecuta("INSERT INTO depto (nombre) VALUES ('CANELONES'), ('FLORIDA')");
+    EXPECT_EQ(deptos("CANELONES"), 0u);
+    EXPECT_EQ(deptos("FLORIDA"), 1u);
+    EXPECT_EQ(r.leidas(), 3u);
+}
+
 }  // namespace
 }  // namespace nomira::store::prueba
