@@ -1,5 +1,7 @@
 #include "engine/explicaciones.h"
 
+#include <algorithm>
+#include <charconv>
 #include <map>
 #include <set>
 
@@ -15,25 +17,58 @@ constexpr char kRegistro = '\x1e';
 
 using PorCodigo = std::map<long, std::string>;
 
-PorCodigo desarmar(const std::string& texto, PorCodigo m = {}) {
+struct Entrada {
+    long codigo;
+    std::string_view texto;
+};
+
+// Las entradas de un texto guardado, por código; de un código repetido, la
+// última. Vistas sobre `texto`, sin copiarlo.
+std::vector<Entrada> entradas(std::string_view texto) {
+    std::vector<Entrada> e;
     std::size_t i = 0;
     while (i < texto.size()) {
         auto fin = texto.find(kRegistro, i);
-        if (fin == std::string::npos) fin = texto.size();
+        if (fin == std::string_view::npos) fin = texto.size();
         const auto corte = texto.find(kUnidad, i);
-        if (corte != std::string::npos && corte < fin)
-            m[std::stol(texto.substr(i, corte - i))] = texto.substr(corte + 1, fin - corte - 1);
+        long codigo = 0;
+        if (corte != std::string_view::npos && corte < fin &&
+            std::from_chars(texto.data() + i, texto.data() + corte, codigo).ec == std::errc())
+            e.push_back({codigo, texto.substr(corte + 1, fin - corte - 1)});
         i = fin + 1;
     }
+    std::stable_sort(e.begin(), e.end(),
+                     [](const Entrada& a, const Entrada& b) { return a.codigo < b.codigo; });
+    // De cada código repetido queda la última: unique se queda con la primera.
+    std::reverse(e.begin(), e.end());
+    e.erase(std::unique(e.begin(), e.end(),
+                        [](const Entrada& a, const Entrada& b) { return a.codigo == b.codigo; }),
+            e.end());
+    std::reverse(e.begin(), e.end());
+    return e;
+}
+
+PorCodigo desarmar(const std::string& texto, PorCodigo m = {}) {
+    for (const auto& [codigo, explicacion] : entradas(texto)) m[codigo] = explicacion;
     return m;
+}
+
+void agregar(std::string& texto, long codigo, std::string_view explicacion) {
+    if (!texto.empty()) texto += kRegistro;
+    texto += std::to_string(codigo);
+    texto += kUnidad;
+    texto += explicacion;
+}
+
+std::string armar(const std::vector<Entrada>& e) {
+    std::string texto;
+    for (const auto& [codigo, explicacion] : e) agregar(texto, codigo, explicacion);
+    return texto;
 }
 
 std::string armar(const PorCodigo& m) {
     std::string texto;
-    for (const auto& [codigo, explicacion] : m) {
-        if (!texto.empty()) texto += kRegistro;
-        texto += std::to_string(codigo) + kUnidad + explicacion;
-    }
+    for (const auto& [codigo, explicacion] : m) agregar(texto, codigo, explicacion);
     return texto;
 }
 
@@ -44,25 +79,26 @@ std::vector<store::Valor> clave(TablaLiquidacion tabla, const std::string& empre
 
 constexpr const char* kDonde = " WHERE empresa = ? AND nombre = ? AND fecha = ? AND tabla = ?";
 
+constexpr const char* kLeer = "SELECT texto FROM explicacionesmes";
+
 // Las de la persona en el mes y si había fila guardada.
 std::pair<PorCodigo, bool> leer(store::Conexion& base, const std::vector<store::Valor>& k) {
-    const auto r = base.consulta(std::string("SELECT texto FROM explicacionesmes") + kDonde, k);
+    const auto r = base.consulta(std::string(kLeer) + kDonde, k);
     PorCodigo m;
     for (const auto& f : r.filas) m = desarmar(f.texto(std::size_t{0}), std::move(m));
     return {std::move(m), !r.vacio()};
 }
 
-void escribir(store::Conexion& base, std::vector<store::Valor> k, const PorCodigo& m,
+void escribir(store::Conexion& base, std::vector<store::Valor> k, const std::string& texto,
               bool habia) {
-    if (habia && m.empty()) {
+    if (habia && texto.empty()) {
         base.ejecuta(std::string("DELETE FROM explicacionesmes") + kDonde, k);
         return;
     }
-    const auto texto = armar(m);
     if (habia) {
         k.insert(k.begin(), texto);
         base.ejecuta(std::string("UPDATE explicacionesmes SET texto = ?") + kDonde, k);
-    } else if (!m.empty()) {
+    } else if (!texto.empty()) {
         k.push_back(texto);
         base.ejecuta(
             "INSERT INTO explicacionesmes (empresa, nombre, fecha, tabla, texto) VALUES (?, ?, "
@@ -83,16 +119,30 @@ bool podar(PorCodigo& m, const std::set<long>& codigos) {
 void guardarExplicaciones(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
                           const std::string& nombre, const common::Mes& mes,
                           const std::vector<FilaLiquidada>& filas) {
-    const auto k = clave(tabla, empresa, nombre, mes);
-    auto [m, habia] = leer(base, k);
-    bool cambio = false;
-    // Un código escrito dos veces queda con la última.
+    std::string nuevas;
     for (const auto& f : filas)
-        if (!f.explicacion.empty()) {
-            m[f.fila.codigo] = f.explicacion;
-            cambio = true;
-        }
-    if (cambio) escribir(base, k, m, habia);
+        if (!f.explicacion.empty()) agregar(nuevas, f.fila.codigo, f.explicacion);
+    if (nuevas.empty()) return;
+    const auto k = clave(tabla, empresa, nombre, mes);
+    const auto r = base.consulta(std::string(kLeer) + kDonde, k);
+    // Se juntan las guardadas con las nuevas, por código; un código escrito
+    // otra vez queda con la última.
+    std::string guardadas;
+    for (const auto& f : r.filas) {
+        if (!guardadas.empty()) guardadas += kRegistro;
+        guardadas += f.texto(std::size_t{0});
+    }
+    const auto viejas = entradas(guardadas), agregadas = entradas(nuevas);
+    std::vector<Entrada> juntas;
+    juntas.reserve(viejas.size() + agregadas.size());
+    auto v = viejas.begin();
+    for (const auto& a : agregadas) {
+        for (; v != viejas.end() && v->codigo < a.codigo; ++v) juntas.push_back(*v);
+        if (v != viejas.end() && v->codigo == a.codigo) ++v;
+        juntas.push_back(a);
+    }
+    juntas.insert(juntas.end(), v, viejas.end());
+    escribir(base, k, armar(juntas), !r.vacio());
 }
 
 void guardarExplicacion(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
@@ -140,7 +190,7 @@ void podarExplicaciones(store::Conexion& base, TablaLiquidacion tabla, const std
     }
     for (auto& [persona, m] : guardadas)
         if (podar(m, codigos[persona]))
-            escribir(base, clave(tabla, empresa, persona, mes), m, true);
+            escribir(base, clave(tabla, empresa, persona, mes), armar(m), true);
 }
 
 }  // namespace nomira::engine

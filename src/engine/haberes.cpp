@@ -177,9 +177,8 @@ ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula&
             total = common::Dinero::desdeDouble(std::floor(ctx.total));
             expl += " Sin decimales: " + pesos(total) + ".";
         } else if (esConceptoAntiguedad(nombre)) {
-            if (auto prima =
-                    CalculoAntiguedad(base, *ctx.variables, mp.empresa, mp.nombre, ctx.textoCant,
-                                      mp.mes, dialogo, "Form42", mp.persona.get())) {
+            if (auto prima = CalculoAntiguedad(base, *ctx.variables, *mp.persona, mp.consejo,
+                                               ctx.textoCant, mp.mes, dialogo)) {
                 cant = prima->cant;
                 total = prima->total;
                 expl = prima->explicacion;

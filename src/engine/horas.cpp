@@ -11,7 +11,6 @@
 #include "engine/explicacion.h"
 #include "engine/filas_persona.h"
 #include "engine/mes_persona.h"
-#include "master/empresas.h"
 #include "master/personal.h"
 
 namespace nomira::engine {
@@ -34,8 +33,8 @@ std::string dosCifras(int n) {
 }
 
 std::string nroempDe(store::Conexion& base, const std::string& empresa) {
-    const auto e = master::leerEmpresa(base, empresa);
-    return e ? common::numeroATexto(common::textoANumero(e->nroemp)) : "0";
+    const auto r = base.consulta("SELECT nroemp FROM empresas WHERE empresa = ?", {empresa});
+    return r.vacio() ? "0" : common::numeroATexto(common::textoANumero(r.primera().texto(0)));
 }
 
 // El concepto de la línea: haberes del tipo de sueldo de la persona o generales;

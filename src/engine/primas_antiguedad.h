@@ -9,6 +9,7 @@
 #include "common/dialogo.h"
 #include "common/dinero.h"
 #include "common/fechas.h"
+#include "engine/calculo_licencia.h"
 #include "engine/primas_antiguedad_tablas.h"
 #include "master/personal.h"
 #include "master/variables.h"
@@ -60,11 +61,14 @@ std::optional<PrimaAntiguedad> calcularPrimaAntiguedad(const master::Persona& p,
 // Desde la base: la persona, el consejo de la empresa, BPC, SALMIN y el sueldo
 // mínimo de la categoría. periodo es el del mes tecleado o, vacío, el anterior.
 // Un fallo se avisa como "Error inesperado" con el miembro y deja la fórmula.
-// Con `leida`, la persona ya leída del mes, no se la vuelve a leer.
 std::optional<PrimaAntiguedad> CalculoAntiguedad(
     store::Conexion& base, master::LectorVariables& variables, const std::string& empresa,
     const std::string& nombre, const std::string& textoCant, const common::Mes& periodo,
-    common::Dialogo& dialogo, const std::string& pantalla = "Form42",
-    const master::Persona* leida = nullptr);
+    common::Dialogo& dialogo, const std::string& pantalla = "Form42");
+// Lo mismo con la persona y el consejo de su empresa ya leídos (los del mes).
+std::optional<PrimaAntiguedad> CalculoAntiguedad(
+    store::Conexion& base, master::LectorVariables& variables, const master::Persona& persona,
+    const ConsejoSalarios& consejo, const std::string& textoCant, const common::Mes& periodo,
+    common::Dialogo& dialogo, const std::string& pantalla = "Form42");
 
 }  // namespace nomira::engine

@@ -22,17 +22,19 @@ double sueldoMinimo(store::Conexion& base, const ConsejoSalarios& c, const std::
 std::optional<PrimaAntiguedad> CalculoAntiguedad(
     store::Conexion& base, master::LectorVariables& variables, const std::string& empresa,
     const std::string& nombre, const std::string& textoCant, const common::Mes& periodo,
-    common::Dialogo& dialogo, const std::string& pantalla, const master::Persona* leida) {
-    int miembro = 0;
+    common::Dialogo& dialogo, const std::string& pantalla) {
+    const auto persona = master::leerPersona(base, empresa, nombre);
+    if (!persona) return std::nullopt;
+    return CalculoAntiguedad(base, variables, *persona, consejoDeLaEmpresa(base, empresa),
+                             textoCant, periodo, dialogo, pantalla);
+}
+
+std::optional<PrimaAntiguedad> CalculoAntiguedad(
+    store::Conexion& base, master::LectorVariables& variables, const master::Persona& persona,
+    const ConsejoSalarios& consejo, const std::string& textoCant, const common::Mes& periodo,
+    common::Dialogo& dialogo, const std::string& pantalla) {
+    const int miembro = miembroPorConsejo(consejo.grupo, consejo.subgrupo).value_or(0);
     try {
-        std::optional<master::Persona> propia;
-        if (!leida) {
-            propia = master::leerPersona(base, empresa, nombre);
-            if (!propia) return std::nullopt;
-        }
-        const master::Persona* persona = leida ? leida : &*propia;
-        const auto consejo = consejoDeLaEmpresa(base, empresa);
-        miembro = miembroPorConsejo(consejo.grupo, consejo.subgrupo).value_or(0);
         const auto baseDe = [&](const MiembroAntiguedad& m, const ActividadAntiguedad& a) {
             switch (m.base) {
                 case BaseAntiguedad::Sueldo:
@@ -47,8 +49,8 @@ std::optional<PrimaAntiguedad> CalculoAntiguedad(
             }
             return 0.0;
         };
-        return calcularPrimaAntiguedad(*persona, consejo.grupo, consejo.subgrupo, textoCant,
-                                       periodo, baseDe);
+        return calcularPrimaAntiguedad(persona, consejo.grupo, consejo.subgrupo, textoCant, periodo,
+                                       baseDe);
     } catch (const std::exception& e) {
         // Como en cada convenio: se avisa y el total de la fórmula queda.
         common::avisarErrorInesperado(

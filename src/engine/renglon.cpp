@@ -147,8 +147,8 @@ CalculoRenglon calcularConFormula(store::Conexion& base, MesPersona& mp, Context
     r.explicacion = a.explicacion;
 
     if (esConceptoAntiguedad(nombre))
-        if (const auto p = CalculoAntiguedad(base, *ctx.variables, mp.empresa, mp.nombre, textoCant,
-                                             mp.mes, dialogo, "Form42", mp.persona.get())) {
+        if (const auto p = CalculoAntiguedad(base, *ctx.variables, *mp.persona, mp.consejo,
+                                             textoCant, mp.mes, dialogo)) {
             r.cant = p->cant;
             r.total = p->total;
             r.explicacion = p->explicacion;

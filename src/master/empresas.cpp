@@ -3,6 +3,7 @@
 #include "common/fechas.h"
 #include "master/catalogos.h"
 #include "store/like.h"
+#include "store/recordada.h"
 
 namespace nomira::master {
 
@@ -52,10 +53,19 @@ const Campos<Empresa>& camposEmpresa() {
     return c;
 }
 
-std::optional<Empresa> leerEmpresa(store::Conexion& base, const std::string& empresa) {
-    const auto r = base.consulta("SELECT * FROM empresas WHERE empresa = ?", {empresa});
+namespace {
+
+std::optional<Empresa> primeraEmpresa(const store::Resultado& r) {
     if (r.vacio()) return std::nullopt;
     return leerRegistro(r.primera(), camposEmpresa());
+}
+
+}  // namespace
+
+std::optional<Empresa> leerEmpresa(store::Conexion& base, const std::string& empresa) {
+    // Una corrida la pide por cada persona: se convierte una vez.
+    return *store::consultaConvertida(base, "SELECT * FROM empresas WHERE empresa = ?", {empresa},
+                                      primeraEmpresa);
 }
 
 std::string tipoaporteDe(store::Conexion& base, const Empresa& empresa) {

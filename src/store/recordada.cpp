@@ -117,11 +117,17 @@ std::int64_t ConexionRecordada::ejecuta(std::string_view sql,
 }
 
 const ConexionRecordada::Sentencia& ConexionRecordada::sentenciaDe(std::string_view sql) {
+    // Casi todas las sentencias son literales que vuelven desde la misma
+    // dirección: comparar el texto allí es más barato que calcularle el hash.
+    if (const auto d = porDireccion_.find(sql.data());
+        d != porDireccion_.end() && d->second->first == sql)
+        return d->second->second;
     auto it = sentencias_.find(sql);
     if (it == sentencias_.end()) {
         const auto id = static_cast<std::uint32_t>(sentencias_.size());
         it = sentencias_.emplace(std::string(sql), Sentencia{id, tablasDeLaSentencia(sql)}).first;
     }
+    porDireccion_[sql.data()] = &*it;
     return it->second;
 }
 

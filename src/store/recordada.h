@@ -99,6 +99,8 @@ class ConexionRecordada : public Conexion {
     std::unordered_map<std::string, Recuerdo> memoria_;
     std::unordered_map<std::string, std::uint64_t> generaciones_;
     MapaPorTexto<Sentencia> sentencias_;
+    // La última sentencia vista en cada dirección de texto.
+    std::unordered_map<const char*, const MapaPorTexto<Sentencia>::value_type*> porDireccion_;
     std::uint64_t general_ = 0, turno_ = 0;
     std::size_t recordadas_ = 0, leidas_ = 0;
 };
