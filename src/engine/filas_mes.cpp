@@ -25,23 +25,43 @@ std::vector<store::Valor> claves(const std::string& empresa, const std::string& 
     return {empresa, nombre, desde.primerDia().iso(), hasta.primerDia().iso()};
 }
 
-// La consulta de leerFilas; en habydesc y egresos, codigo, concepto, tipo,
-// gravado, ipd, total y cant por código.
-std::string armarSqlFilas(TablaLiquidacion tabla) {
+// Las sentencias de una tabla de filas, armadas una vez: la corrida de una
+// empresa las usa en cada fila.
+struct SentenciasFilas {
+    std::string leer, actualizar, insertar;
+};
+
+// leer: la consulta de leerFilas; en habydesc y egresos, codigo, concepto,
+// tipo, gravado, ipd, total y cant por código. actualizar e insertar: la
+// escritura de una fila por código (no en aguinaldos).
+SentenciasFilas armarSentencias(TablaLiquidacion tabla) {
     const bool agui = tabla == TablaLiquidacion::Aguinaldos;
-    return std::string("SELECT ") +
-           (agui ? "concepto, tipo, total FROM aguinaldos"
-                 : std::string("codigo, concepto, tipo, gravado, ipd, total, cant FROM ") +
-                       nombreTabla(tabla)) +
-           " WHERE empresa = ? AND nombre = ? AND fecha >= ? AND fecha <= ?" +
-           (agui ? "" : " ORDER BY codigo");
+    const std::string t = nombreTabla(tabla);
+    SentenciasFilas s;
+    s.leer = std::string("SELECT ") +
+             (agui ? "concepto, tipo, total FROM aguinaldos"
+                   : "codigo, concepto, tipo, gravado, ipd, total, cant FROM " + t) +
+             " WHERE empresa = ? AND nombre = ? AND fecha >= ? AND fecha <= ?" +
+             (agui ? "" : " ORDER BY codigo");
+    s.actualizar = "UPDATE " + t +
+                   " SET concepto = ?, unidad = ?, cant = ?, total = ? WHERE empresa = ? AND "
+                   "nombre = ? AND fecha = ? AND codigo = ?";
+    s.insertar = "INSERT INTO " + t +
+                 " (empresa, nombre, fecha, codigo, concepto, tipo, unidad, permanente, gravado, "
+                 "aguinaldo, cant, total, lic, ipd) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, "
+                 "?, ?)";
+    return s;
+}
+
+const SentenciasFilas& sentencias(TablaLiquidacion tabla) {
+    static const SentenciasFilas s[] = {armarSentencias(TablaLiquidacion::Habydesc),
+                                        armarSentencias(TablaLiquidacion::Aguinaldos),
+                                        armarSentencias(TablaLiquidacion::Egresos)};
+    return s[static_cast<int>(tabla)];
 }
 
 const std::string& sqlFilas(TablaLiquidacion tabla) {
-    static const std::string sql[] = {armarSqlFilas(TablaLiquidacion::Habydesc),
-                                      armarSqlFilas(TablaLiquidacion::Aguinaldos),
-                                      armarSqlFilas(TablaLiquidacion::Egresos)};
-    return sql[static_cast<int>(tabla)];
+    return sentencias(tabla).leer;
 }
 
 // Por posición, la de la lista del SELECT. aguinaldos: concepto, tipo, total;
@@ -142,11 +162,10 @@ void escribir(store::Conexion& base, TablaLiquidacion tabla, const std::string& 
               bool probar) {
     if (tabla == TablaLiquidacion::Aguinaldos)
         throw common::Fallo(5, "Las filas de aguinaldos no se escriben aquí");
-    const std::string t = nombreTabla(tabla);
     const std::string fecha = mes.primerDia().iso();
     const std::int64_t codigo = f.codigo;
     auto* recordada = dynamic_cast<store::ConexionRecordada*>(&base);
-    const auto delMes = claves(empresa, nombre, mes, mes);
+    const std::vector<store::Valor> delMes = {empresa, nombre, fecha, fecha};
     const auto escribirLeidas = [&](const std::string& sql, const std::vector<store::Valor>& p,
                                     bool insertada) {
         if (!recordada) return base.ejecuta(sql, p);
@@ -160,18 +179,13 @@ void escribir(store::Conexion& base, TablaLiquidacion tabla, const std::string& 
         probar = std::any_of(leidas->filas.begin(), leidas->filas.end(), [&](const store::Fila& x) {
             return x.entero(std::size_t{0}) == codigo;
         });
-    if (probar &&
-        escribirLeidas(
-            "UPDATE " + t +
-                " SET concepto = ?, unidad = ?, cant = ?, total = ? WHERE empresa = ? "
-                "AND nombre = ? AND fecha = ? AND codigo = ?",
-            {f.concepto, f.unidad, f.cant, f.total.aDouble(), empresa, nombre, fecha, codigo},
-            false) > 0)
+    const auto& sql = sentencias(tabla);
+    if (probar && escribirLeidas(sql.actualizar,
+                                 {f.concepto, f.unidad, f.cant, f.total.aDouble(), empresa, nombre,
+                                  fecha, codigo},
+                                 false) > 0)
         return;
-    escribirLeidas("INSERT INTO " + t +
-                       " (empresa, nombre, fecha, codigo, concepto, tipo, unidad, permanente, "
-                       "gravado, aguinaldo, cant, total, lic, ipd) VALUES (?, ?, ?, ?, ?, ?, ?, "
-                       "?, ?, ?, ?, ?, ?, ?)",
+    escribirLeidas(sql.insertar,
                    {empresa, nombre, fecha, codigo, f.concepto, f.tipo, f.unidad, f.permanente,
                     f.gravado, f.aguinaldo, f.cant, f.total.aDouble(), f.lic, f.ipd},
                    true);

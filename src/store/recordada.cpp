@@ -7,10 +7,13 @@
 namespace nomira::store {
 
 // La clave de una consulta: el número de su texto y sus parámetros con su
-// tipo, sin ambigüedad entre un texto "1" y un entero 1.
-std::string ConexionRecordada::clave(std::string_view sql, const std::vector<Valor>& parametros) {
+// tipo, sin ambigüedad entre un texto "1" y un entero 1. Se arma siempre en el
+// mismo lugar: vale hasta la próxima.
+std::string_view ConexionRecordada::clave(std::string_view sql,
+                                          const std::vector<Valor>& parametros) {
     const auto id = sentenciaDe(sql).id;
-    std::string k(reinterpret_cast<const char*>(&id), sizeof id);
+    auto& k = clave_;
+    k.assign(reinterpret_cast<const char*>(&id), sizeof id);
     for (const auto& v : parametros) {
         k += '\x1f';
         k += static_cast<char>('0' + v.index());
@@ -65,7 +68,7 @@ std::vector<std::string> tablasDeLaSentencia(std::string_view sql) {
 }
 
 Resultado ConexionRecordada::consulta(std::string_view sql, const std::vector<Valor>& parametros) {
-    auto k = clave(sql, parametros);
+    const auto k = clave(sql, parametros);
     if (const auto* r = vigenteDe(k)) {
         ++recordadas_;
         return r->resultado;
@@ -73,13 +76,13 @@ Resultado ConexionRecordada::consulta(std::string_view sql, const std::vector<Va
     ++leidas_;
     auto r = base_.consulta(sql, parametros);
     // Lo que no nombra tablas no se recuerda: nada lo haría olvidar.
-    if (!sentenciaDe(sql).tablas.empty()) guardar(std::move(k), sql, r);
+    if (!sentenciaDe(sql).tablas.empty()) guardar(std::string(k), sql, r);
     return r;
 }
 
 ConexionRecordada::Recuerdo& ConexionRecordada::recordar(std::string_view sql,
                                                          const std::vector<Valor>& parametros) {
-    auto k = clave(sql, parametros);
+    std::string k(clave(sql, parametros));
     if (auto* r = vigenteDe(k)) {
         ++recordadas_;
         return *r;
@@ -88,7 +91,7 @@ ConexionRecordada::Recuerdo& ConexionRecordada::recordar(std::string_view sql,
     return guardar(std::move(k), sql, base_.consulta(sql, parametros));
 }
 
-ConexionRecordada::Recuerdo* ConexionRecordada::vigenteDe(const std::string& clave) {
+ConexionRecordada::Recuerdo* ConexionRecordada::vigenteDe(std::string_view clave) {
     const auto it = memoria_.find(clave);
     if (it == memoria_.end() || !vigente(it->second)) return nullptr;
     it->second.turno = turno_;
@@ -103,7 +106,7 @@ void ConexionRecordada::olvidarSinUso() {
 ConexionRecordada::Recuerdo& ConexionRecordada::guardar(std::string clave, std::string_view sql,
                                                         Resultado resultado) {
     Recuerdo recuerdo{general_, turno_, {}, std::move(resultado), {}};
-    for (const auto& t : sentenciaDe(sql).tablas) recuerdo.tablas.emplace_back(t, generacion(t));
+    for (const auto t : sentenciaDe(sql).tablas) recuerdo.tablas.emplace_back(t, generaciones_[t]);
     return memoria_.insert_or_assign(std::move(clave), std::move(recuerdo)).first->second;
 }
 
@@ -112,7 +115,7 @@ std::int64_t ConexionRecordada::ejecuta(std::string_view sql,
     const auto& tablas = sentenciaDe(sql).tablas;
     // DDL, SET y lo que no nombre tablas: se olvida todo.
     if (tablas.empty()) ++general_;
-    for (const auto& t : tablas) ++generaciones_[t];
+    for (const auto t : tablas) ++generaciones_[t];
     return base_.ejecuta(sql, parametros);
 }
 
@@ -125,7 +128,13 @@ const ConexionRecordada::Sentencia& ConexionRecordada::sentenciaDe(std::string_v
     auto it = sentencias_.find(sql);
     if (it == sentencias_.end()) {
         const auto id = static_cast<std::uint32_t>(sentencias_.size());
-        it = sentencias_.emplace(std::string(sql), Sentencia{id, tablasDeLaSentencia(sql)}).first;
+        Sentencia nueva{id, {}};
+        for (const auto& t : tablasDeLaSentencia(sql)) {
+            auto [i, nuevaTabla] = indiceDeTabla_.try_emplace(t, generaciones_.size());
+            if (nuevaTabla) generaciones_.push_back(0);
+            nueva.tablas.push_back(i->second);
+        }
+        it = sentencias_.emplace(std::string(sql), std::move(nueva)).first;
     }
     porDireccion_[sql.data()] = &*it;
     return it->second;
@@ -142,7 +151,7 @@ std::int64_t ConexionRecordada::ejecutaConCambio(std::string_view sql,
         cambio(recuerdo->resultado, afectadas);
         recuerdo->convertida.reset();
         recuerdo->general = general_;
-        for (auto& [tabla, gen] : recuerdo->tablas) gen = generacion(tabla);
+        for (auto& [tabla, gen] : recuerdo->tablas) gen = generaciones_[tabla];
     }
     return afectadas;
 }
@@ -158,15 +167,10 @@ void ConexionRecordada::deshacer() {
     base_.deshacer();
 }
 
-std::uint64_t ConexionRecordada::generacion(const std::string& tabla) const {
-    const auto it = generaciones_.find(tabla);
-    return it == generaciones_.end() ? 0 : it->second;
-}
-
 bool ConexionRecordada::vigente(const Recuerdo& r) const {
     if (r.general != general_) return false;
     return std::all_of(r.tablas.begin(), r.tablas.end(),
-                       [&](const auto& t) { return generacion(t.first) == t.second; });
+                       [&](const auto& t) { return generaciones_[t.first] == t.second; });
 }
 
 }  // namespace nomira::store

@@ -76,28 +76,30 @@ class ConexionRecordada : public Conexion {
     struct Recuerdo {
         std::uint64_t general = 0;
         std::uint64_t turno = 0;  // el de su último uso (olvidarSinUso)
-        std::vector<std::pair<std::string, std::uint64_t>> tablas;
+        std::vector<std::pair<std::size_t, std::uint64_t>> tablas;  // índice, generación
         Resultado resultado;
         std::any convertida;  // vacía hasta que alguien la pide
     };
     // El recuerdo vigente de la consulta, leyéndola si hace falta.
     Recuerdo& recordar(std::string_view sql, const std::vector<Valor>& parametros);
-    Recuerdo* vigenteDe(const std::string& clave);  // nulo si no lo hay o ya no vale
+    Recuerdo* vigenteDe(std::string_view clave);  // nulo si no lo hay o ya no vale
     Recuerdo& guardar(std::string clave, std::string_view sql, Resultado resultado);
     bool vigente(const Recuerdo& r) const;
     // Cada texto de sentencia, una vez: son pocos y se repiten mucho. El número
     // abrevia el texto en las claves.
     struct Sentencia {
         std::uint32_t id;
-        std::vector<std::string> tablas;  // tablasDeLaSentencia
+        std::vector<std::size_t> tablas;  // las de tablasDeLaSentencia, por su índice
     };
     const Sentencia& sentenciaDe(std::string_view sql);
-    std::string clave(std::string_view sql, const std::vector<Valor>& parametros);
-    std::uint64_t generacion(const std::string& tabla) const;
+    std::string_view clave(std::string_view sql, const std::vector<Valor>& parametros);
 
     Conexion& base_;
-    std::unordered_map<std::string, Recuerdo> memoria_;
-    std::unordered_map<std::string, std::uint64_t> generaciones_;
+    MapaPorTexto<Recuerdo> memoria_;
+    // La generación de cada tabla por su índice; los nombres, una vez.
+    std::vector<std::uint64_t> generaciones_;
+    MapaPorTexto<std::size_t> indiceDeTabla_;
+    std::string clave_;
     MapaPorTexto<Sentencia> sentencias_;
     // La última sentencia vista en cada dirección de texto.
     std::unordered_map<const char*, const MapaPorTexto<Sentencia>::value_type*> porDireccion_;

@@ -54,8 +54,8 @@ ConexionSqlite::ConexionSqlite(std::string ruta) : ruta_(std::move(ruta)) {
     // WAL deja leer mientras otro proceso escribe. Con synchronous=NORMAL una
     // confirmación no espera al disco: una caída del programa no pierde nada y la
     // base queda sana; sólo un corte de luz puede deshacer lo último confirmado.
-    // La corrida de una empresa confirma persona por persona y no puede esperar
-    // al disco mil veces.
+    // La corrida de una empresa confirma por tandas y no puede esperar al disco
+    // en cada una.
     directa("PRAGMA journal_mode=WAL");
     directa("PRAGMA synchronous=NORMAL");
 }
