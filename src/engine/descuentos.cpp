@@ -242,6 +242,7 @@ ResultadoEmpresa ActDesPermxEmpresa(store::Conexion& base, master::LectorVariabl
                                     common::Dialogo& dialogo, const ProgresoEmpresa& progreso,
                                     const CancelarEmpresa& cancelar) {
     const auto leida = leerEmpresaDelMes(base, empresa);
+    HorasDeLaCorrida horas;
     auto porPersona = [&](store::Conexion& base, const master::PersonaCompartida& p) {
         ResultadoPersona r;
         r.empresa = empresa;
@@ -252,6 +253,7 @@ ResultadoEmpresa ActDesPermxEmpresa(store::Conexion& base, master::LectorVariabl
             return r;
         }
         ContextoFormula ctx;
+        ctx.horasDeLaCorrida = &horas;
         ctx.personaLeida = ContextoFormula::PersonaLeida{empresa, p->nombre, p};
         auto mp = BuscarVerif(base, variables, empresa, p->nombre, mes, ctx, dialogo,
                               leida ? &*leida : nullptr);

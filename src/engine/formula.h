@@ -64,6 +64,8 @@ OpcionesFormula opcionesCalculoFormula2();  // sin paso de cantidad ni PFOCER
 OpcionesFormula opcionesForm44();           // cantidad vacía = 1
 OpcionesFormula opcionesForm76();           // sin BPC ni cantidad, cinco tokens
 
+struct HorasDeLaCorrida;
+
 // El estado de la pantalla que la fórmula lee y escribe. Los importes son
 // Dinero (montogravalim incluido, como toda la familia del líquido); cantidades,
 // sueldos y porcentajes, double.
@@ -90,6 +92,8 @@ struct ContextoFormula {
     // La conexión de la corrida (la que recuerda lo leído en la de una
     // empresa); sin ella, la de las variables.
     store::Conexion* base = nullptr;
+    // El archivo de horas de la corrida de la empresa; nulo fuera de ella.
+    HorasDeLaCorrida* horasDeLaCorrida = nullptr;
 
     // La fila de la persona, leída una vez por empresa y nombre (nula si no
     // existe).

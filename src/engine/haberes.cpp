@@ -246,8 +246,10 @@ ResultadoEmpresa ActHamPermxEmpresa(store::Conexion& base, const std::string& em
     // Una lectura de las variables y de la empresa para toda la corrida.
     master::LectorVariables variables(base);
     const auto leida = leerEmpresaDelMes(base, empresa);
+    HorasDeLaCorrida horas;
     const auto porPersona = [&](store::Conexion& base, const master::PersonaCompartida& p) {
         ContextoFormula ctx;
+        ctx.horasDeLaCorrida = &horas;
         ctx.personaLeida = ContextoFormula::PersonaLeida{empresa, p->nombre, p};
         auto mp = BuscarVerif(base, variables, empresa, p->nombre, mes, ctx, dialogo,
                               leida ? &*leida : nullptr);

@@ -58,24 +58,10 @@ std::optional<master::Concepto> conceptoDeLinea(store::Conexion& base, long codi
 }  // namespace
 
 std::string prefijoArchivosHoras() {
-    // Se pregunta por cada persona de una corrida: el texto leído vale mientras
-    // el archivo tenga la misma fecha de modificación.
-    struct Leido {
-        fs::path ruta;
-        fs::file_time_type modificado;
-        std::string prefijo;
-    };
-    static std::optional<Leido> leido;
-    const auto ruta = raiz() / "Software" / "Nomira" / "horas.txt";
-    std::error_code ec;
-    const auto modificado = fs::last_write_time(ruta, ec);
-    if (ec) return "";
-    if (leido && leido->ruta == ruta && leido->modificado == modificado) return leido->prefijo;
-    std::ifstream f(ruta);
+    std::ifstream f(raiz() / "Software" / "Nomira" / "horas.txt");
     std::string linea;
     if (!f || !std::getline(f, linea)) return "";
     while (!linea.empty() && (linea.back() == '\r' || linea.back() == '\n')) linea.pop_back();
-    leido = Leido{ruta, modificado, linea};
     return linea;
 }
 
@@ -112,19 +98,52 @@ std::optional<LineaHoras> leerLineaHoras(const std::string& linea) {
     return l;
 }
 
+ArchivoHoras leerArchivoHoras(const fs::path& ruta) {
+    std::ifstream f(ruta);
+    if (!f) throw common::Fallo(53, "No se encontró el archivo");
+    ArchivoHoras a;
+    std::string linea;
+    while (std::getline(f, linea)) {
+        if (!linea.empty() && linea.back() == '\r') linea.pop_back();
+        a.lineas.push_back(leerLineaHoras(linea));
+    }
+    return a;
+}
+
+namespace {
+
+std::optional<ArchivoHoras> leerDelMes(const ContextoFormula& ctx) {
+    const auto ruta = archivoHorasDelMes(ctx);
+    if (!ruta) return std::nullopt;
+    return leerArchivoHoras(*ruta);
+}
+
+// El archivo del mes: el de la corrida, leído con la primera persona que lo
+// pide; fuera de una corrida, buscado y leído ahora.
+ImportacionHoras importarDelMes(ContextoFormula& ctx, bool descuentos, common::Dialogo& dialogo) {
+    std::optional<ArchivoHoras> propio;
+    const std::optional<ArchivoHoras>* archivo = &propio;
+    if (auto* corrida = ctx.horasDeLaCorrida) {
+        if (!corrida->leido) corrida->leido = leerDelMes(ctx);
+        archivo = &*corrida->leido;
+    } else {
+        propio = leerDelMes(ctx);
+    }
+    if (!*archivo) return {};
+    return importarHoras(ctx, **archivo, descuentos, dialogo);
+}
+
+}  // namespace
+
 ImportacionHoras CalculoCant(ContextoFormula& ctx, common::Dialogo& dialogo) {
-    const auto archivo = archivoHorasDelMes(ctx);
-    if (!archivo) return {};
-    return importarHoras(ctx, *archivo, false, dialogo);
+    return importarDelMes(ctx, false, dialogo);
 }
 
 ImportacionHoras CalculoCant2(ContextoFormula& ctx, common::Dialogo& dialogo) {
-    const auto archivo = archivoHorasDelMes(ctx);
-    if (!archivo) return {};
-    return importarHoras(ctx, *archivo, true, dialogo);
+    return importarDelMes(ctx, true, dialogo);
 }
 
-ImportacionHoras importarHoras(ContextoFormula& ctx, const fs::path& archivo, bool descuentos,
+ImportacionHoras importarHoras(ContextoFormula& ctx, const ArchivoHoras& archivo, bool descuentos,
                                common::Dialogo& dialogo) {
     auto& base = baseDe(ctx);
     const auto& mes = ctx.periodo;
@@ -142,14 +161,9 @@ ImportacionHoras importarHoras(ContextoFormula& ctx, const fs::path& archivo, bo
     }
 
     ImportacionHoras r;
-    std::ifstream f(archivo);
-    if (!f) throw common::Fallo(53, "No se encontró el archivo");
-    std::string linea;
-    while (std::getline(f, linea)) {
-        if (!linea.empty() && linea.back() == '\r') linea.pop_back();
+    for (const auto& l : archivo.lineas) {
         ctx.cantarchivo = 0;
         ctx.importearchivo = Dinero();
-        const auto l = leerLineaHoras(linea);
         if (!l || l->nrofun != nrofun) continue;
         const auto concepto = conceptoDeLinea(base, l->codigo, descuentos, tiposueldo);
         if (!concepto) continue;

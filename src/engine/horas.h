@@ -37,6 +37,20 @@ struct LineaHoras {
 // Nada si la línea no tiene dos o tres "|". Cada campo se lee con Val.
 std::optional<LineaHoras> leerLineaHoras(const std::string& linea);
 
+// Un archivo de horas leído: sus líneas en el orden del archivo, nada en las
+// que no tienen el formato. Error 53 si no se puede abrir.
+struct ArchivoHoras {
+    std::vector<std::optional<LineaHoras>> lineas;
+};
+ArchivoHoras leerArchivoHoras(const std::filesystem::path& ruta);
+
+// El archivo del mes en la corrida de una empresa (ContextoFormula::
+// horasDeLaCorrida): se busca y se lee una vez, con la primera persona que lo
+// pide, y sirve para todas.
+struct HorasDeLaCorrida {
+    std::optional<std::optional<ArchivoHoras>> leido;
+};
+
 struct ImportacionHoras {
     std::vector<FilaGenerada> filas;  // en el orden en que se escribieron
     std::string explicacion;
@@ -48,8 +62,8 @@ ImportacionHoras CalculoCant(ContextoFormula& ctx, common::Dialogo& dialogo);
 // Los descuentos: ctx.tipoaporte ya leído.
 ImportacionHoras CalculoCant2(ContextoFormula& ctx, common::Dialogo& dialogo);
 
-// Lo mismo desde un archivo dado.
-ImportacionHoras importarHoras(ContextoFormula& ctx, const std::filesystem::path& archivo,
-                               bool descuentos, common::Dialogo& dialogo);
+// Lo mismo desde un archivo ya leído.
+ImportacionHoras importarHoras(ContextoFormula& ctx, const ArchivoHoras& archivo, bool descuentos,
+                               common::Dialogo& dialogo);
 
 }  // namespace nomira::engine
