@@ -13,15 +13,15 @@ namespace nomira::engine {
 std::vector<master::PersonaCompartida> personasPorCantbfc(store::Conexion& base,
                                                           const std::string& empresa) {
     std::vector<std::pair<double, master::PersonaCompartida>> leidas;
-    for (const auto& f :
-         base.consulta("SELECT * FROM personal WHERE empresa = ? ORDER BY nombre", {empresa})
-             .filas) {
-        auto p = std::make_shared<const master::Persona>(
-            master::leerRegistro(f, master::camposPersona()));
-        // cantbfc es texto en la tabla: se ordena por su valor, así un vacío o un
-        // Null cuenta 0 igual en los dos motores.
-        leidas.emplace_back(common::textoANumero(p->cantbfc), std::move(p));
-    }
+    // Fila por fila: de cada una queda sólo la persona.
+    base.recorrer("SELECT * FROM personal WHERE empresa = ? ORDER BY nombre", {empresa},
+                  [&](const store::Fila& f) {
+                      auto p = std::make_shared<const master::Persona>(
+                          master::leerRegistro(f, master::camposPersona()));
+                      // cantbfc es texto en la tabla: se ordena por su valor, así un
+                      // vacío o un Null cuenta 0 igual en los dos motores.
+                      leidas.emplace_back(common::textoANumero(p->cantbfc), std::move(p));
+                  });
     std::stable_sort(leidas.begin(), leidas.end(),
                      [](const auto& a, const auto& b) { return a.first < b.first; });
     std::vector<master::PersonaCompartida> personas;

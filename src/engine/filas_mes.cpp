@@ -32,8 +32,10 @@ struct SentenciasFilas {
 };
 
 // leer: la consulta de leerFilas; en habydesc y egresos, codigo, concepto,
-// tipo, gravado, ipd, total y cant por código. actualizar e insertar: la
-// escritura de una fila por código (no en aguinaldos).
+// tipo, gravado, ipd, total y cant en el orden del índice (fecha y, en cada
+// fecha, el de alta), que no pide ordenar en la base: filasDe las ordena por
+// código. actualizar e insertar: la escritura de una fila por código (no en
+// aguinaldos).
 SentenciasFilas armarSentencias(TablaLiquidacion tabla) {
     const bool agui = tabla == TablaLiquidacion::Aguinaldos;
     const std::string t = nombreTabla(tabla);
@@ -42,7 +44,7 @@ SentenciasFilas armarSentencias(TablaLiquidacion tabla) {
              (agui ? "concepto, tipo, total FROM aguinaldos"
                    : "codigo, concepto, tipo, gravado, ipd, total, cant FROM " + t) +
              " WHERE empresa = ? AND nombre = ? AND fecha >= ? AND fecha <= ?" +
-             (agui ? "" : " ORDER BY codigo");
+             (agui ? "" : " ORDER BY fecha");
     s.actualizar = "UPDATE " + t +
                    " SET concepto = ?, unidad = ?, cant = ?, total = ? WHERE empresa = ? AND "
                    "nombre = ? AND fecha = ? AND codigo = ?";
@@ -84,6 +86,12 @@ std::vector<FilaMes> filasDe(const store::Resultado& r) {
         m.total = common::Dinero::desdeDouble(f.real(agui ? std::size_t{2} : std::size_t{5}));
         filas.push_back(std::move(m));
     }
+    // Por código y, en un mismo código, en el orden leído: el mismo que daría
+    // un ORDER BY codigo sobre el índice, sin la tabla temporal de la base.
+    // Casi siempre ya lo están: se dieron de alta por código.
+    const auto porCodigo = [](const FilaMes& a, const FilaMes& b) { return a.codigo < b.codigo; };
+    if (!agui && !std::is_sorted(filas.begin(), filas.end(), porCodigo))
+        std::stable_sort(filas.begin(), filas.end(), porCodigo);
     return filas;
 }
 
@@ -98,18 +106,27 @@ FilasLeidas leerFilas(store::Conexion& base, TablaLiquidacion tabla, const std::
         tabla == TablaLiquidacion::Aguinaldos ? filasDe<true> : filasDe<false>));
 }
 
-std::vector<FilaSalVac> leerSalvacacional(store::Conexion& base, const std::string& empresa,
-                                          const std::string& nombre, const common::Mes& desde,
-                                          const common::Mes& hasta) {
+namespace {
+
+std::vector<FilaSalVac> filasSalVac(const store::Resultado& r) {
     std::vector<FilaSalVac> filas;
-    for (const auto& f :
-         base.consulta("SELECT codigo, concepto, total FROM salvacacional WHERE empresa = ? AND "
-                       "nombre = ? AND fecha >= ? AND fecha <= ?",
-                       claves(empresa, nombre, desde, hasta))
-             .filas)
-        filas.push_back({static_cast<long>(f.entero("codigo")), f.texto("concepto"),
-                         common::Dinero::desdeDouble(f.real("total"))});
+    filas.reserve(r.filas.size());
+    for (const auto& f : r.filas)
+        filas.push_back({static_cast<long>(f.entero(std::size_t{0})), f.texto(std::size_t{1}),
+                         common::Dinero::desdeDouble(f.real(std::size_t{2}))});
     return filas;
+}
+
+}  // namespace
+
+FilasCompartidas<FilaSalVac> leerSalvacacional(store::Conexion& base, const std::string& empresa,
+                                               const std::string& nombre, const common::Mes& desde,
+                                               const common::Mes& hasta) {
+    return FilasCompartidas<FilaSalVac>(store::consultaConvertida(
+        base,
+        "SELECT codigo, concepto, total FROM salvacacional WHERE empresa = ? AND nombre = ? AND "
+        "fecha >= ? AND fecha <= ?",
+        claves(empresa, nombre, desde, hasta), filasSalVac));
 }
 
 bool hayEgresos(store::Conexion& base, const std::string& empresa, const std::string& nombre,
@@ -124,8 +141,9 @@ bool hayEgresos(store::Conexion& base, const std::string& empresa, const std::st
 namespace {
 
 // Lo que una escritura de la fila `f` le hace a las filas del mes tal como las
-// devuelve leerFilas: cambia concepto y total de las de su código, o la agrega
-// después de las de código menor o igual.
+// devuelve la consulta de leerFilas: cambia concepto y total de las de su
+// código, o la agrega al final, donde la pondría una lectura nueva (es la
+// última dada de alta en su fecha).
 void actualizarLeidas(store::Resultado& r, const FilaGenerada& f, bool insertada) {
     const auto codigoDe = [](const store::Fila& x) { return x.entero(std::size_t{0}); };
     const std::int64_t codigo = f.codigo;
@@ -141,12 +159,10 @@ void actualizarLeidas(store::Resultado& r, const FilaGenerada& f, bool insertada
         }
         return;
     }
-    auto pos = r.filas.begin();
-    while (pos != r.filas.end() && codigoDe(*pos) <= codigo) ++pos;
     std::vector<store::Valor> v = {codigo, f.concepto,        f.tipo, f.gravado,
                                    f.ipd,  f.total.aDouble(), f.cant};
-    r.filas.insert(pos, r.filas.empty() ? store::Fila(&r.columnas, std::move(v))
-                                        : store::Fila(r.filas.front(), std::move(v)));
+    r.filas.push_back(r.filas.empty() ? store::Fila(&r.columnas, std::move(v))
+                                      : store::Fila(r.filas.front(), std::move(v)));
 }
 
 // Quita de las filas del mes recordadas las del tipo borrado.

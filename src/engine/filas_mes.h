@@ -29,19 +29,21 @@ struct FilaMes {
 
 // Filas leídas y compartidas: en una corrida, las de una misma lectura se
 // convierten una vez y todos los cálculos de la persona recorren las mismas.
-class FilasLeidas {
+template <class F>
+class FilasCompartidas {
   public:
-    explicit FilasLeidas(std::shared_ptr<const std::vector<FilaMes>> filas)
+    explicit FilasCompartidas(std::shared_ptr<const std::vector<F>> filas)
         : filas_(std::move(filas)) {}
-    operator const std::vector<FilaMes>&() const { return *filas_; }
+    operator const std::vector<F>&() const { return *filas_; }
     auto begin() const { return filas_->begin(); }
     auto end() const { return filas_->end(); }
     std::size_t size() const { return filas_->size(); }
     bool empty() const { return filas_->empty(); }
 
   private:
-    std::shared_ptr<const std::vector<FilaMes>> filas_;
+    std::shared_ptr<const std::vector<F>> filas_;
 };
+using FilasLeidas = FilasCompartidas<FilaMes>;
 
 // Las filas de la persona con fecha del primer día de `desde` al de `hasta`,
 // por código (aguinaldos, en el orden de la tabla).
@@ -59,9 +61,9 @@ struct FilaSalVac {
     std::string concepto;
     common::Dinero total;
 };
-std::vector<FilaSalVac> leerSalvacacional(store::Conexion& base, const std::string& empresa,
-                                          const std::string& nombre, const common::Mes& desde,
-                                          const common::Mes& hasta);
+FilasCompartidas<FilaSalVac> leerSalvacacional(store::Conexion& base, const std::string& empresa,
+                                               const std::string& nombre, const common::Mes& desde,
+                                               const common::Mes& hasta);
 
 // ¿Tiene la persona filas de egreso en el mes? Entonces no se escribe nada en
 // habydesc.

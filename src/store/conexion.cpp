@@ -52,6 +52,11 @@ std::string textoDeNumero(double numero) {
     return texto;
 }
 
+void Conexion::recorrer(std::string_view sql, const std::vector<Valor>& parametros,
+                        const PorFila& porFila) {
+    for (const auto& f : consulta(sql, parametros).filas) porFila(f);
+}
+
 Valor textoONulo(std::string_view texto) {
     if (texto.empty()) return Nulo{};
     return std::string(texto);

@@ -2,6 +2,7 @@
 // La conexión con la base: una interfaz pequeña que implementan SQLite y PostgreSQL.
 // Todo SQL se escribe una sola vez, con parámetros "?" enlazados.
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -109,6 +110,11 @@ class Conexion {
 
     // SELECT con parámetros "?".
     virtual Resultado consulta(std::string_view sql, const std::vector<Valor>& parametros = {}) = 0;
+    // Lo mismo fila por fila, sin juntarlas: para leer muchas filas anchas y
+    // quedarse con otra cosa. Por omisión, sobre consulta().
+    using PorFila = std::function<void(const Fila&)>;
+    virtual void recorrer(std::string_view sql, const std::vector<Valor>& parametros,
+                          const PorFila& porFila);
     // INSERT, UPDATE, DELETE o DDL; devuelve las filas afectadas.
     virtual std::int64_t ejecuta(std::string_view sql,
                                  const std::vector<Valor>& parametros = {}) = 0;

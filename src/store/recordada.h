@@ -30,6 +30,11 @@ class ConexionRecordada : public Conexion {
     Motor motor() const override { return base_.motor(); }
     const std::string& destino() const override { return base_.destino(); }
     Resultado consulta(std::string_view sql, const std::vector<Valor>& parametros = {}) override;
+    // Fila por fila no se recuerda: va siempre a la base.
+    void recorrer(std::string_view sql, const std::vector<Valor>& parametros,
+                  const PorFila& porFila) override {
+        base_.recorrer(sql, parametros, porFila);
+    }
     std::int64_t ejecuta(std::string_view sql, const std::vector<Valor>& parametros = {}) override;
     void comenzar() override { base_.comenzar(); }
     void confirmar() override { base_.confirmar(); }

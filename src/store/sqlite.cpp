@@ -36,6 +36,10 @@ Valor leerColumna(sqlite3_stmt* s, int i) {
 }  // namespace
 
 ConexionSqlite::ConexionSqlite(std::string ruta) : ruta_(std::move(ruta)) {
+    // Sin la cuenta de memoria de SQLite, que toma un cerrojo en cada reserva;
+    // sólo se puede decir antes de que SQLite arranque, con la primera conexión.
+    static const int sinCuenta = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
+    (void)sinCuenta;
     // Una conexión se usa desde un solo hilo a la vez: sin los cerrojos internos
     // de SQLite, que cada llamada tomaría y soltaría.
     int codigo =
@@ -136,22 +140,37 @@ void ConexionSqlite::enlazar(sqlite3_stmt* s, const std::vector<Valor>& parametr
 }
 
 Resultado ConexionSqlite::consulta(std::string_view sql, const std::vector<Valor>& parametros) {
+    Resultado resultado;
+    leer(sql, parametros, &resultado.columnas,
+         [&](Fila f) { resultado.filas.push_back(std::move(f)); });
+    return resultado;
+}
+
+void ConexionSqlite::recorrer(std::string_view sql, const std::vector<Valor>& parametros,
+                              const PorFila& porFila) {
+    leer(sql, parametros, nullptr, [&](Fila f) { porFila(f); });
+}
+
+void ConexionSqlite::leer(std::string_view sql, const std::vector<Valor>& parametros,
+                          std::vector<std::string>* nombres,
+                          const std::function<void(Fila)>& porFila) {
     const auto p = preparar(sql);
     sqlite3_stmt* s = p.sentencia;
-    Resultado resultado;
     try {
         enlazar(s, parametros);
         // Los nombres se leen después del primer paso: si la tabla cambió,
         // SQLite vuelve a preparar la sentencia en ese paso.
         int codigo = sqlite3_step(s);
-        int n = sqlite3_column_count(s);
-        for (int i = 0; i < n; ++i) resultado.columnas.emplace_back(sqlite3_column_name(s, i));
-        auto columnas = std::make_shared<const std::vector<std::string>>(resultado.columnas);
+        const int n = sqlite3_column_count(s);
+        auto columnas = std::make_shared<std::vector<std::string>>();
+        for (int i = 0; i < n; ++i) columnas->emplace_back(sqlite3_column_name(s, i));
+        if (nombres) *nombres = *columnas;
+        const Fila::Columnas compartidas = std::move(columnas);
         for (; codigo == SQLITE_ROW; codigo = sqlite3_step(s)) {
             std::vector<Valor> valores;
             valores.reserve(static_cast<std::size_t>(n));
             for (int i = 0; i < n; ++i) valores.push_back(leerColumna(s, i));
-            resultado.filas.emplace_back(columnas, std::move(valores));
+            porFila(Fila(compartidas, std::move(valores)));
         }
         if (codigo != SQLITE_DONE) fallar(codigo);
     } catch (...) {
@@ -159,7 +178,6 @@ Resultado ConexionSqlite::consulta(std::string_view sql, const std::vector<Valor
         throw;
     }
     liberar(p);
-    return resultado;
 }
 
 std::int64_t ConexionSqlite::ejecuta(std::string_view sql, const std::vector<Valor>& parametros) {

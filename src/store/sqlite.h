@@ -3,6 +3,7 @@
 // conexión se usa desde un hilo a la vez.
 #include <sqlite3.h>
 
+#include <functional>
 #include <string>
 #include <unordered_map>
 
@@ -23,6 +24,8 @@ class ConexionSqlite : public Conexion {
     const std::string& destino() const override { return ruta_; }
 
     Resultado consulta(std::string_view sql, const std::vector<Valor>& parametros = {}) override;
+    void recorrer(std::string_view sql, const std::vector<Valor>& parametros,
+                  const PorFila& porFila) override;
     std::int64_t ejecuta(std::string_view sql, const std::vector<Valor>& parametros = {}) override;
 
     // La más externa es BEGIN IMMEDIATE (toma la escritura al empezar y no a
@@ -42,6 +45,9 @@ class ConexionSqlite : public Conexion {
     Preparada preparar(std::string_view sql);
     void liberar(Preparada p);
     void enlazar(sqlite3_stmt* sentencia, const std::vector<Valor>& parametros);
+    // La consulta fila por fila; con `nombres`, también los de las columnas.
+    void leer(std::string_view sql, const std::vector<Valor>& parametros,
+              std::vector<std::string>* nombres, const std::function<void(Fila)>& porFila);
     [[noreturn]] void fallar(int codigo) const;
     void directa(const std::string& sql);
 
