@@ -134,7 +134,12 @@ void BM_LiquidacionDeLaEmpresa(benchmark::State& state) {
     state.counters["veces"] = segInsert > 0 ? (segHaberes + segDescuentos) / segInsert : 0;
     std::filesystem::remove_all(dir);
 }
-BENCHMARK(BM_LiquidacionDeLaEmpresa)->Iterations(1)->Unit(benchmark::kMillisecond);
+// La máquina se mueve: siete vueltas y, de cada cifra, la mediana.
+BENCHMARK(BM_LiquidacionDeLaEmpresa)
+    ->Iterations(1)
+    ->Repetitions(7)
+    ->ReportAggregatesOnly(true)
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
