@@ -9,9 +9,12 @@ namespace nomira::engine {
 
 namespace {
 
-// Las explicaciones de una persona, un mes y una tabla van en una sola fila de
-// explicacionesmes: cada una es "código␟texto" y se separan con ␞ (los
-// separadores de unidad y de registro de ASCII, que ningún texto lleva).
+// Las explicaciones de una persona, un mes, una tabla y un tipo de fila ("Hab"
+// o "Des") van en una sola fila de explicacionesmes: cada una es "código␟texto"
+// y se separan con ␞ (los separadores de unidad y de registro de ASCII, que
+// ningún texto lleva). Por tipo, para que la generación de los descuentos no
+// reescriba las de los haberes. Las de una base anterior quedan con tipo "" y
+// ceden ante las de tipo.
 constexpr char kUnidad = '\x1f';
 constexpr char kRegistro = '\x1e';
 
@@ -79,54 +82,41 @@ std::vector<store::Valor> clave(TablaLiquidacion tabla, const std::string& empre
 
 constexpr const char* kDonde = " WHERE empresa = ? AND nombre = ? AND fecha = ? AND tabla = ?";
 
-constexpr const char* kLeer = "SELECT texto FROM explicacionesmes";
-
-// Las de la persona en el mes y si había fila guardada.
+// Todas las de la persona en el mes, las sin tipo primero: las de tipo
+// reemplazan a las que una base anterior guardó sin él. Y si había alguna fila.
 std::pair<PorCodigo, bool> leer(store::Conexion& base, const std::vector<store::Valor>& k) {
-    const auto r = base.consulta(std::string(kLeer) + kDonde, k);
+    const auto r = base.consulta(
+        std::string("SELECT texto FROM explicacionesmes") + kDonde + " ORDER BY tipo", k);
     PorCodigo m;
     for (const auto& f : r.filas) m = desarmar(f.texto(std::size_t{0}), std::move(m));
     return {std::move(m), !r.vacio()};
 }
 
+// k: la clave y el tipo. Sin texto, la fila se va.
 void escribir(store::Conexion& base, std::vector<store::Valor> k, const std::string& texto,
               bool habia) {
+    const std::string donde = std::string(kDonde) + " AND tipo = ?";
     if (habia && texto.empty()) {
-        base.ejecuta(std::string("DELETE FROM explicacionesmes") + kDonde, k);
+        base.ejecuta("DELETE FROM explicacionesmes" + donde, k);
         return;
     }
     if (habia) {
         k.insert(k.begin(), texto);
-        base.ejecuta(std::string("UPDATE explicacionesmes SET texto = ?") + kDonde, k);
+        base.ejecuta("UPDATE explicacionesmes SET texto = ?" + donde, k);
     } else if (!texto.empty()) {
         k.push_back(texto);
         base.ejecuta(
-            "INSERT INTO explicacionesmes (empresa, nombre, fecha, tabla, texto) VALUES (?, ?, "
-            "?, ?, ?)",
+            "INSERT INTO explicacionesmes (empresa, nombre, fecha, tabla, tipo, texto) VALUES (?, "
+            "?, ?, ?, ?, ?)",
             k);
     }
 }
 
-// Deja en `m` sólo las de los códigos que siguen teniendo fila.
-bool podar(PorCodigo& m, const std::set<long>& codigos) {
-    const auto antes = m.size();
-    std::erase_if(m, [&](const auto& e) { return !codigos.count(e.first); });
-    return m.size() != antes;
-}
-
-}  // namespace
-
-void guardarExplicaciones(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
-                          const std::string& nombre, const common::Mes& mes,
-                          const std::vector<FilaLiquidada>& filas) {
-    std::string nuevas;
-    for (const auto& f : filas)
-        if (!f.explicacion.empty()) agregar(nuevas, f.fila.codigo, f.explicacion);
-    if (nuevas.empty()) return;
-    const auto k = clave(tabla, empresa, nombre, mes);
-    const auto r = base.consulta(std::string(kLeer) + kDonde, k);
-    // Se juntan las guardadas con las nuevas, por código; un código escrito
-    // otra vez queda con la última.
+// Las guardadas de ese tipo con las nuevas, por código; un código escrito otra
+// vez queda con la última.
+void juntar(store::Conexion& base, std::vector<store::Valor> k, const std::string& nuevas) {
+    const auto r = base.consulta(
+        std::string("SELECT texto FROM explicacionesmes") + kDonde + " AND tipo = ?", k);
     std::string guardadas;
     for (const auto& f : r.filas) {
         if (!guardadas.empty()) guardadas += kRegistro;
@@ -142,14 +132,38 @@ void guardarExplicaciones(store::Conexion& base, TablaLiquidacion tabla, const s
         juntas.push_back(a);
     }
     juntas.insert(juntas.end(), v, viejas.end());
-    escribir(base, k, armar(juntas), !r.vacio());
+    escribir(base, std::move(k), armar(juntas), !r.vacio());
+}
+
+// Deja en `m` sólo las de los códigos que siguen teniendo fila.
+bool podar(PorCodigo& m, const std::set<long>& codigos) {
+    const auto antes = m.size();
+    std::erase_if(m, [&](const auto& e) { return !codigos.count(e.first); });
+    return m.size() != antes;
+}
+
+}  // namespace
+
+void guardarExplicaciones(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
+                          const std::string& nombre, const common::Mes& mes,
+                          const std::vector<FilaLiquidada>& filas) {
+    std::map<std::string, std::string> nuevasPorTipo;
+    for (const auto& f : filas)
+        if (!f.explicacion.empty())
+            agregar(nuevasPorTipo[f.fila.tipo], f.fila.codigo, f.explicacion);
+    for (const auto& [tipo, nuevas] : nuevasPorTipo) {
+        auto k = clave(tabla, empresa, nombre, mes);
+        k.emplace_back(tipo);
+        juntar(base, std::move(k), nuevas);
+    }
 }
 
 void guardarExplicacion(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
                         const std::string& nombre, const common::Mes& mes, long codigo,
-                        const std::string& texto) {
+                        const std::string& tipo, const std::string& texto) {
     FilaGenerada fila;
     fila.codigo = codigo;
+    fila.tipo = tipo;
     guardarExplicaciones(base, tabla, empresa, nombre, mes, {{fila, texto}});
 }
 
@@ -178,19 +192,19 @@ void podarExplicaciones(store::Conexion& base, TablaLiquidacion tabla, const std
 
     auto conTabla = donde;
     conTabla.insert(conTabla.begin() + 2, t);
-    std::map<std::string, PorCodigo> guardadas;
     for (const auto& f :
-         base.consulta("SELECT nombre, texto FROM explicacionesmes WHERE empresa = ? AND fecha = "
-                       "? AND tabla = ?" +
+         base.consulta("SELECT nombre, tipo, texto FROM explicacionesmes WHERE empresa = ? AND "
+                       "fecha = ? AND tabla = ?" +
                            porPersona,
                        conTabla)
              .filas) {
-        auto& m = guardadas[f.texto(std::size_t{0})];
-        m = desarmar(f.texto(std::size_t{1}), std::move(m));
+        const auto persona = f.texto(std::size_t{0});
+        auto m = desarmar(f.texto(std::size_t{2}));
+        if (!podar(m, codigos[persona])) continue;
+        auto k = clave(tabla, empresa, persona, mes);
+        k.emplace_back(f.texto(std::size_t{1}));
+        escribir(base, std::move(k), armar(m), true);
     }
-    for (auto& [persona, m] : guardadas)
-        if (podar(m, codigos[persona]))
-            escribir(base, clave(tabla, empresa, persona, mes), armar(m), true);
 }
 
 }  // namespace nomira::engine

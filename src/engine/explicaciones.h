@@ -1,6 +1,7 @@
 #pragma once
 // Cómo se llegó al importe de cada fila liquidada. Se guarda aparte de las
-// filas, en la tabla explicaciones (por empresa, persona, mes, tabla y código),
+// filas, en la tabla explicacionesmes (una fila por empresa, persona, mes, tabla
+// y tipo de fila, con las de todos sus códigos),
 // para que la pantalla la muestre cuando se la pidan; la escriben las
 // generaciones y la fila tecleada, y se poda cuando se borran filas.
 #include <string>
@@ -19,9 +20,10 @@ void guardarExplicaciones(store::Conexion& base, TablaLiquidacion tabla, const s
                           const std::string& nombre, const common::Mes& mes,
                           const std::vector<FilaLiquidada>& filas);
 
+// La de una fila de ese código y tipo ("Hab" o "Des").
 void guardarExplicacion(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
                         const std::string& nombre, const common::Mes& mes, long codigo,
-                        const std::string& texto);
+                        const std::string& tipo, const std::string& texto);
 
 // La explicación de la fila de ese código en el mes; vacía si no hay.
 std::string leerExplicacion(store::Conexion& base, TablaLiquidacion tabla,

@@ -47,7 +47,7 @@ void reescribirSueldo(store::Conexion& base, const MesPersona& mp, Dinero total,
         {total.aDouble(), mp.empresa, mp.nombre, mp.mes.primerDia().iso()});
     for (const auto& f : filas.filas)
         guardarExplicacion(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes,
-                           static_cast<long>(f.entero("codigo")), explicacion);
+                           static_cast<long>(f.entero("codigo")), "Hab", explicacion);
 }
 
 bool hayDescuentos(store::Conexion& base, const MesPersona& mp) {
@@ -275,7 +275,7 @@ std::optional<std::string> guardarRenglon(store::Conexion& base, MesPersona& mp,
                        pesos(fila.total) + ".";
     if (!vacacional.empty()) explicacion += (explicacion.empty() ? "" : " ") + vacacional;
     guardarExplicacion(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, codigo,
-                       explicacion);
+                       fila.tipo, explicacion);
     if (esConceptoHoras(nombre))
         actualizarJornadas(base, mp.empresa, mp.nombre, mp.mes, nombre, fila.cant, ctx.htrab);
     else if (existe && mp.tipoaporte == "04" && mp.tiposueldo == "H" && empiezaCon(nombre, "HORAS"))

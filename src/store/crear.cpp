@@ -75,6 +75,16 @@ void juntarExplicaciones(Conexion& c) {
     c.ejecuta("DROP TABLE explicaciones");
 }
 
+// De la versión 3 a la 4: las explicaciones de un mes se separan por tipo de
+// fila. Las que ya estaban quedan con tipo "" (la 2 pasa por la 3 con la tabla
+// ya nueva: sólo les falta el tipo).
+void explicacionesPorTipo(Conexion& c) {
+    const auto columnas = c.consulta("SELECT * FROM explicacionesmes WHERE 1 = 0").columnas;
+    if (std::find(columnas.begin(), columnas.end(), "tipo") == columnas.end())
+        c.ejecuta("ALTER TABLE explicacionesmes ADD COLUMN tipo TEXT");
+    c.ejecuta("UPDATE explicacionesmes SET tipo = '' WHERE tipo IS NULL");
+}
+
 // La fila única de configuracion. Impresoras vacías: la predeterminada del
 // sistema. Courier New 10 porque recibos y planillas se arman en columnas de
 // ancho fijo. Sin márgenes ni corte extra: la impresora ya deja los suyos. El
@@ -117,7 +127,7 @@ void fijarVersion(Conexion& c, int version) {
 // tablas: una base de la versión 0 es una base sin esquema.
 const std::vector<std::function<void(Conexion&)>>& pasos() {
     static const std::vector<std::function<void(Conexion&)>> lista = {
-        crearTablas, crearTablasAuxiliares, juntarExplicaciones};
+        crearTablas, crearTablasAuxiliares, juntarExplicaciones, explicacionesPorTipo};
     return lista;
 }
 

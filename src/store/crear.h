@@ -13,7 +13,7 @@
 
 namespace nomira::store {
 
-constexpr int kVersionEsquema = 3;
+constexpr int kVersionEsquema = 4;
 
 // Crea lo que falte, en una transacción: tablas en su orden, índices, la fila
 // de configuracion con sus valores iniciales y la versión. Sobre una base ya

@@ -123,9 +123,10 @@ Columna columna(const std::string& palabra) {
 
 constexpr Definicion kAuxiliares[] = {
     // Cómo se llegó a cada fila liquidada. tabla: "habydesc", "aguinaldos" o
-    // "egresos"; una fila por persona, mes y tabla, con las de todas sus filas en
-    // texto: "código␟explicación", separadas con ␞ (caracteres 31 y 30).
-    {"explicacionesmes", "empresa nombre fecha tabla texto"},
+    // "egresos"; tipo: el de las filas, "Hab" o "Des" ("" en lo que venía de la
+    // versión 3). Una fila por persona, mes, tabla y tipo, con las de todas sus
+    // filas en texto: "código␟explicación", separadas con ␞ (caracteres 31 y 30).
+    {"explicacionesmes", "empresa nombre fecha tabla tipo texto"},
 };
 
 template <std::size_t N>

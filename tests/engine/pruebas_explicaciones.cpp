@@ -97,5 +97,49 @@ TEST_P(Explicaciones, LasDeUnaBaseAnteriorSeJuntanAlPonerlaAlDia) {
     EXPECT_EQ(std::count(tablas.begin(), tablas.end(), "explicaciones"), 0);
 }
 
+// En la versión 3 las de haberes y descuentos iban en la misma fila: quedan sin
+// tipo, se leen igual, y las que escribe después cada generación las reemplazan
+// código por código sin que los descuentos reescriban los haberes.
+TEST_P(Explicaciones, LasDeLaVersion3QuedanSinTipoYCedenAnteLasNuevas) {
+    persona("PEREZ, JUAN", {{"sueldo", "30000"}, {"tiposueldo", "S"}, {"fechaing", "2020-01-01"}});
+    ejecutar("DROP TABLE explicacionesmes");
+    ejecutar(std::string("CREATE TABLE explicacionesmes (empresa TEXT, nombre TEXT, fecha ") +
+             (esPostgres() ? "date" : "TEXT") + ", tabla TEXT, texto TEXT)");
+    ejecutar(
+        "INSERT INTO explicacionesmes VALUES ('ACME', 'PEREZ, JUAN', '2026-03-01', 'habydesc', "
+        "?)",
+        {std::string("1\x1fsueldo viejo\x1e"
+                     "501\x1fmontepio viejo\x1e"
+                     "20\x1flicencia vieja")});
+    ejecutar("UPDATE versionesquema SET version = 3");
+    store::migrar(*base);
+    EXPECT_EQ(store::versionEsquema(*base), store::kVersionEsquema);
+    EXPECT_EQ(explicacion(1), "sueldo viejo");
+    EXPECT_EQ(explicacion(501), "montepio viejo");
+
+    ASSERT_TRUE(generarHaberesPermanentes(*base, "ACME", "PEREZ, JUAN", marzo, dialogo).hecho);
+    EXPECT_NE(explicacion(1).find("30,000.00"), std::string::npos) << explicacion(1);
+    EXPECT_EQ(explicacion(501), "montepio viejo");
+    ASSERT_TRUE(DescPerm(*base, *variables, "ACME", "PEREZ, JUAN", marzo, dialogo).hecho);
+    EXPECT_NE(explicacion(501).find("4,500.00"), std::string::npos) << explicacion(501);
+    EXPECT_NE(explicacion(1).find("30,000.00"), std::string::npos) << explicacion(1);
+    const auto porTipo = base->consulta(
+        "SELECT tipo, texto FROM explicacionesmes WHERE nombre = 'PEREZ, JUAN' ORDER BY tipo");
+    ASSERT_EQ(porTipo.filas.size(), 3u);
+    EXPECT_EQ(porTipo.filas[0].texto("tipo"), "");
+    EXPECT_EQ(porTipo.filas[1].texto("tipo"), "Des");
+    EXPECT_EQ(porTipo.filas[2].texto("tipo"), "Hab");
+    // La fila de los descuentos no lleva la del SUELDO.
+    EXPECT_EQ(porTipo.filas[1].texto("texto").find("[SUELDO]"), std::string::npos)
+        << porTipo.filas[1].texto("texto");
+    EXPECT_NE(porTipo.filas[2].texto("texto").find("[SUELDO]"), std::string::npos);
+
+    // Sin la fila de la licencia, su explicación vieja se poda también.
+    EXPECT_EQ(explicacion(20), "licencia vieja");
+    podarExplicaciones(*base, TablaLiquidacion::Habydesc, "ACME", marzo, "PEREZ, JUAN");
+    EXPECT_EQ(explicacion(20), "");
+    EXPECT_NE(explicacion(501).find("4,500.00"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace nomira::engine
