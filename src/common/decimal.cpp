@@ -1,8 +1,8 @@
 #include "common/decimal.h"
 
+#include <charconv>
 #include <cmath>
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
 #include <string>
 
@@ -31,9 +31,10 @@ Decimal descomponerPorTexto(double x) {
     if (!std::isfinite(x)) throw Fallo(6, "Desbordamiento");
     Decimal d;
     if (x == 0) return d;
-    // "%.14e" da exactamente 15 cifras significativas: "-1.23450000000000e+05".
+    // Como "%.14e", exactamente 15 cifras significativas: "-1.23450000000000e+05";
+    // to_chars redondea igual que printf y no pasa por el locale.
     char buf[40];
-    std::snprintf(buf, sizeof buf, "%.14e", x);
+    *std::to_chars(buf, buf + sizeof buf - 1, x, std::chars_format::scientific, 14).ptr = '\0';
     const char* p = buf;
     if (*p == '-') {
         d.negativo = true;

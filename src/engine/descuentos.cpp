@@ -155,6 +155,7 @@ ImporteImpuesto calcularImpuesto(store::Conexion& base, const MesPersona& mp, Co
 std::vector<FilaLiquidada> generarDescuentos(store::Conexion& base, MesPersona& mp,
                                              ContextoFormula& ctx, common::Dialogo& dialogo) {
     std::vector<FilaLiquidada> hechas;
+    hechas.reserve(8);  // las filas son grandes: sin mudarlas al crecer
     std::vector<FilaMes> haberes;
     for (const auto& f :
          leerFilasDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes))
@@ -266,7 +267,8 @@ ResultadoEmpresa ActDesPermxEmpresa(store::Conexion& base, master::LectorVariabl
         const auto horas = CalculoCant2(ctx, dialogo);
         for (const auto& f : horas.filas) r.filas.push_back({f, "archivo de horas"});
         auto hechas = generarDescuentos(base, *mp, ctx, dialogo);
-        r.filas.insert(r.filas.end(), hechas.begin(), hechas.end());
+        r.filas.insert(r.filas.end(), std::make_move_iterator(hechas.begin()),
+                       std::make_move_iterator(hechas.end()));
         r.hecho = true;
         return r;
     };

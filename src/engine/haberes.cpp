@@ -161,7 +161,9 @@ ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula&
 
     const auto& cs = mp.consejo;
     auto codigos = codigosDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes);
-    for (const auto& c : conceptosPermanentes(base, mp, ctx.cantbfc)) {
+    const auto conceptos = conceptosPermanentes(base, mp, ctx.cantbfc);
+    r.filas.reserve(r.filas.size() + conceptos.size() + 1);  // y DIASNOTRABAJADOS
+    for (const auto& c : conceptos) {
         ctx.cantarchivo = 0;
         ctx.importearchivo = {};
         ctx.formula = c.formula;
