@@ -65,39 +65,46 @@ void escribirDiasNoTrabajados(store::Conexion& base, const MesPersona& mp, doubl
     r.filas.push_back(std::move(fl));
 }
 
+// Un código repetido en conceptos cuenta una vez: el primero.
+std::vector<master::Concepto> conceptosSinRepetir(const store::Resultado& r) {
+    auto lista = master::leerConceptos(r);
+    lista.erase(std::unique(lista.begin(), lista.end(),
+                            [](const auto& a, const auto& b) { return a.codigo == b.codigo; }),
+                lista.end());
+    return lista;
+}
+
 }  // namespace
 
-std::vector<master::Concepto> conceptosPermanentes(store::Conexion& base, const MesPersona& mp,
-                                                   double cantbfc) {
-    std::vector<master::Concepto> lista;
+std::shared_ptr<const std::vector<master::Concepto>> conceptosPermanentes(store::Conexion& base,
+                                                                          const MesPersona& mp,
+                                                                          double cantbfc) {
     if (cantbfc != 0) {
-        if (auto c = conceptoPorNombre(base, "SUELDO FICTO")) lista.push_back(std::move(*c));
+        auto lista = std::make_shared<std::vector<master::Concepto>>();
+        if (auto c = conceptoPorNombre(base, "SUELDO FICTO")) lista->push_back(std::move(*c));
         return lista;
     }
     // Los permanentes de todos (o de su tipo de sueldo) más los que concpermxpers
     // le da a la persona, por código y cada código una vez. La primera consulta
     // es la misma para todos los de un tipo de sueldo: en la corrida de la
     // empresa se lee una vez.
-    lista = *store::consultaConvertida(
+    auto deTodos = store::consultaConvertida(
         base,
         "SELECT * FROM conceptos WHERE (especificode = ? OR especificode = 'G') AND tipo = 'Hab' "
         "AND permanente = 'Si' ORDER BY codigo",
-        {mp.tiposueldo}, master::leerConceptos);
-    // Un código repetido en conceptos cuenta una vez: el primero.
-    lista.erase(std::unique(lista.begin(), lista.end(),
-                            [](const auto& a, const auto& b) { return a.codigo == b.codigo; }),
-                lista.end());
+        {mp.tiposueldo}, conceptosSinRepetir);
     const auto propios = master::leerConceptos(base.consulta(
         "SELECT conceptos.* FROM conceptos JOIN concpermxpers ON conceptos.codigo = "
         "concpermxpers.codigo WHERE concpermxpers.empresa = ? AND concpermxpers.nombre = ? AND "
         "concpermxpers.tipo = 'Hab' ORDER BY conceptos.codigo",
         {mp.empresa, mp.nombre}));
-    if (propios.empty()) return lista;  // ya van por código
+    if (propios.empty()) return deTodos;  // ya van por código
+    auto lista = std::make_shared<std::vector<master::Concepto>>(*deTodos);
     std::set<std::string> vistos;
-    for (const auto& c : lista) vistos.insert(c.codigo);
+    for (const auto& c : *lista) vistos.insert(c.codigo);
     for (const auto& c : propios)
-        if (vistos.insert(c.codigo).second) lista.push_back(c);
-    std::stable_sort(lista.begin(), lista.end(), [](const auto& a, const auto& b) {
+        if (vistos.insert(c.codigo).second) lista->push_back(c);
+    std::stable_sort(lista->begin(), lista->end(), [](const auto& a, const auto& b) {
         return common::textoANumero(a.codigo) < common::textoANumero(b.codigo);
     });
     return lista;
@@ -162,8 +169,8 @@ ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula&
     const auto& cs = mp.consejo;
     auto codigos = codigosDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes);
     const auto conceptos = conceptosPermanentes(base, mp, ctx.cantbfc);
-    r.filas.reserve(r.filas.size() + conceptos.size() + 1);  // y DIASNOTRABAJADOS
-    for (const auto& c : conceptos) {
+    r.filas.reserve(r.filas.size() + conceptos->size() + 1);  // y DIASNOTRABAJADOS
+    for (const auto& c : *conceptos) {
         ctx.cantarchivo = 0;
         ctx.importearchivo = {};
         ctx.formula = c.formula;

@@ -3,6 +3,7 @@
 // persona, y la de toda la empresa (ActHamPermxEmpresa_Click) sobre el
 // recorrido común. Regenerar los haberes siempre tira los descuentos del mes.
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -30,8 +31,11 @@ OpcionesHaberes conArchivoDeHoras();
 // Los conceptos que se generan para la persona: "SUELDO FICTO" si tiene
 // cantbfc, si no los permanentes generales o de su tipo de sueldo más los de
 // concpermxpers, por código y sin repetir.
-std::vector<master::Concepto> conceptosPermanentes(store::Conexion& base, const MesPersona& mp,
-                                                   double cantbfc);
+// Compartidos: en la corrida de una empresa, los de todos no se copian por
+// persona.
+std::shared_ptr<const std::vector<master::Concepto>> conceptosPermanentes(store::Conexion& base,
+                                                                          const MesPersona& mp,
+                                                                          double cantbfc);
 
 // Los días que no trabajó quien ingresó en el mes después del primero: el
 // día 31, y el 28 o 29 de un febrero común o bisiesto, cuentan como 30; se
