@@ -111,7 +111,7 @@ std::shared_ptr<const std::vector<master::Concepto>> conceptosPermanentes(store:
 }
 
 OpcionesHaberes conArchivoDeHoras() {
-    return {[](ContextoFormula& ctx, common::Dialogo& dialogo) { CalculoCant(ctx, dialogo); }};
+    return {CalculoCant};
 }
 
 int diasNoTrabajados(const std::string& fechaing, const common::Mes& mes) {
@@ -162,9 +162,9 @@ ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula&
         borrarTipoDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, "Des");
     if (borradas > 0)
         podarExplicaciones(base, TablaLiquidacion::Habydesc, mp.empresa, mp.mes, mp.nombre);
-    if (opciones.calculoCant) opciones.calculoCant(ctx, dialogo);
+    const bool conHoras = opciones.calculoCant && !opciones.calculoCant(ctx, dialogo).filas.empty();
     // La base del mes que dejó BuscarVerif sólo cambia si se fue algo o llegaron horas.
-    if (borradas > 0 || opciones.calculoCant) refrescarDesglose(base, mp, ctx);
+    if (borradas > 0 || conHoras) refrescarDesglose(base, mp, ctx);
 
     const auto& cs = mp.consejo;
     auto codigos = codigosDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes);

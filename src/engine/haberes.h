@@ -10,15 +10,17 @@
 #include "common/dialogo.h"
 #include "common/fechas.h"
 #include "engine/empresa_mes.h"
+#include "engine/horas.h"
 #include "engine/mes_persona.h"
 #include "master/variables.h"
 #include "store/conexion.h"
 
 namespace nomira::engine {
 
-// La importación del archivo de horas de la persona (CalculoCant). Sin ella,
-// como cuando no hay archivo del mes, el paso no hace nada.
-using ImportarHoras = std::function<void(ContextoFormula&, common::Dialogo&)>;
+// La importación del archivo de horas de la persona (CalculoCant), con las filas
+// que escribió. Sin ella, como cuando no hay archivo del mes, el paso no hace
+// nada.
+using ImportarHoras = std::function<ImportacionHoras(ContextoFormula&, common::Dialogo&)>;
 
 struct OpcionesHaberes {
     ImportarHoras calculoCant;

@@ -5,6 +5,7 @@
 
 #include <fstream>
 
+#include "engine/haberes.h"
 #include "engine/horas.h"
 #include "pruebas_descuentos_escenario.h"
 
@@ -79,6 +80,19 @@ TEST_P(Horas, HaberesSeSumanYLasLineasAjenasNoDejanRastro) {
     EXPECT_EQ(cuantas("nombre = 'LOPEZ, EVA'"), 4);
     EXPECT_EQ(cuantas("nombre = 'OTRO, LUIS' OR cant = 99 OR tipo = 'Des'"), 0);
     EXPECT_EQ(r.filas.size(), 5u);  // dos de HORAS con sus jornadas, y EXTRA
+}
+
+// Lo que trae el archivo ya cuenta para los permanentes que se generan después:
+// PRIMA es el 10% de lo gravado del mes, y el mes sólo tiene lo del archivo.
+TEST_P(Horas, LoImportadoCuentaParaLosPermanentesDeLaGeneracion) {
+    concepto(31, "EXTRA", "G", "", "Hab", "I", "No", "Si", "Si");
+    concepto(40, "PRIMA", "G", "[MONTOGRAV]/10", "Hab", "I", "Si", "No", "Si");
+    archivo(marzo, "12|31|2|250.5");
+    ASSERT_TRUE(
+        generarHaberesPermanentes(*base, "ACME", "LOPEZ, EVA", marzo, dialogo, conArchivoDeHoras())
+            .hecho);
+    EXPECT_EQ(total("LOPEZ, EVA", marzo, 31), 250.5);
+    EXPECT_EQ(total("LOPEZ, EVA", marzo, 40), 25.05);  // 250.50 / 10
 }
 
 TEST_P(Horas, DescuentosSeReemplazanConElSNISDelAguinaldo) {
