@@ -165,6 +165,34 @@ void actualizarLeidas(store::Resultado& r, const FilaGenerada& f, bool insertada
                                       : store::Fila(r.filas.front(), std::move(v)));
 }
 
+// Lo mismo sobre las filas ya convertidas, si las hay: una copia con la fila
+// cambiada o agregada donde la pondría filasDe (después de las de código menor
+// o igual), que cuesta menos que volver a convertirlas todas.
+void actualizarConvertidas(std::any& convertida, const FilaGenerada& f, bool insertada) {
+    using Filas = std::shared_ptr<const std::vector<FilaMes>>;
+    const auto* filas = std::any_cast<Filas>(&convertida);
+    if (!filas) {
+        convertida.reset();
+        return;
+    }
+    auto nuevas = std::make_shared<std::vector<FilaMes>>(**filas);
+    if (insertada) {
+        const auto pos =
+            std::upper_bound(nuevas->begin(), nuevas->end(), f.codigo,
+                             [](long codigo, const FilaMes& x) { return codigo < x.codigo; });
+        nuevas->insert(pos, FilaMes{f.codigo, f.concepto, f.tipo, f.gravado, f.ipd,
+                                    common::Dinero::desdeDouble(f.total.aDouble()), f.cant});
+    } else {
+        for (auto& m : *nuevas)
+            if (m.codigo == f.codigo) {
+                m.concepto = f.concepto;
+                m.total = common::Dinero::desdeDouble(f.total.aDouble());
+                m.cant = f.cant;
+            }
+    }
+    convertida = Filas(std::move(nuevas));
+}
+
 // Quita de las filas del mes recordadas las del tipo borrado.
 void quitarLeidas(store::Resultado& r, const std::string& tipo) {
     std::erase_if(r.filas, [&](const store::Fila& x) { return x.texto(std::size_t{2}) == tipo; });
@@ -185,10 +213,13 @@ void escribir(store::Conexion& base, TablaLiquidacion tabla, const std::string& 
     const auto escribirLeidas = [&](const std::string& sql, const std::vector<store::Valor>& p,
                                     bool insertada) {
         if (!recordada) return base.ejecuta(sql, p);
-        return recordada->ejecutaConCambio(sql, p, sqlFilas(tabla), delMes,
-                                           [&](store::Resultado& r, std::int64_t afectadas) {
-                                               if (afectadas > 0) actualizarLeidas(r, f, insertada);
-                                           });
+        return recordada->ejecutaConCambio(
+            sql, p, sqlFilas(tabla), delMes,
+            [&](store::Resultado& r, std::int64_t afectadas, std::any& convertida) {
+                if (afectadas == 0) return;
+                actualizarLeidas(r, f, insertada);
+                actualizarConvertidas(convertida, f, insertada);
+            });
     };
     // Si las filas del mes están recordadas, ya se sabe si el código tiene fila.
     if (const auto* leidas = recordada ? recordada->recordado(sqlFilas(tabla), delMes) : nullptr)
@@ -233,7 +264,10 @@ std::int64_t borrarTipoDelMes(store::Conexion& base, TablaLiquidacion tabla,
     if (!recordada) return base.ejecuta(sql, p);
     return recordada->ejecutaConCambio(
         sql, p, sqlFilas(tabla), claves(empresa, nombre, mes, mes),
-        [&](store::Resultado& r, std::int64_t) { quitarLeidas(r, tipo); });
+        [&](store::Resultado& r, std::int64_t, std::any& convertida) {
+            quitarLeidas(r, tipo);
+            convertida.reset();
+        });
 }
 
 void escribirFila(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,

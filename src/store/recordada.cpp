@@ -148,8 +148,7 @@ std::int64_t ConexionRecordada::ejecutaConCambio(std::string_view sql,
     auto* recuerdo = vigenteDe(clave(consulta, parametrosConsulta));
     const auto afectadas = ejecuta(sql, parametros);
     if (recuerdo) {
-        cambio(recuerdo->resultado, afectadas);
-        recuerdo->convertida.reset();
+        cambio(recuerdo->resultado, afectadas, recuerdo->convertida);
         recuerdo->general = general_;
         for (auto& [tabla, gen] : recuerdo->tablas) gen = generaciones_[tabla];
     }

@@ -43,8 +43,9 @@ class ConexionRecordada : public Conexion {
     // Una escritura cuyo efecto sobre una consulta recordada se conoce (la fila
     // que se agrega o se cambia): se ejecuta y, si la consulta estaba vigente, se
     // le aplica el cambio y sigue vigente en lugar de volver a leerse. El cambio
-    // recibe lo recordado y las filas que afectó la escritura.
-    using Cambio = std::function<void(Resultado&, std::int64_t afectadas)>;
+    // recibe lo recordado, las filas que afectó la escritura y lo convertido
+    // (ver convertida), que lleva al día o vacía.
+    using Cambio = std::function<void(Resultado&, std::int64_t afectadas, std::any& convertida)>;
     std::int64_t ejecutaConCambio(std::string_view sql, const std::vector<Valor>& parametros,
                                   std::string_view consulta,
                                   const std::vector<Valor>& parametrosConsulta,
