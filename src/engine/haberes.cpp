@@ -158,8 +158,10 @@ ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula&
         r.aviso = kYaEnEgresos;
         return r;
     }
-    const auto borradas =
-        borrarTipoDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, "Des");
+    const auto borradas = opciones.borrarDescuentos
+                              ? borrarTipoDelMes(base, TablaLiquidacion::Habydesc, mp.empresa,
+                                                 mp.nombre, mp.mes, "Des")
+                              : 0;
     if (borradas > 0)
         podarExplicaciones(base, TablaLiquidacion::Habydesc, mp.empresa, mp.mes, mp.nombre);
     const bool conHoras = opciones.calculoCant && !opciones.calculoCant(ctx, dialogo).filas.empty();
@@ -255,6 +257,8 @@ ResultadoEmpresa ActHamPermxEmpresa(store::Conexion& base, const std::string& em
     // Una lectura de las variables y de la empresa para toda la corrida.
     master::LectorVariables variables(base);
     const auto leida = leerEmpresaDelMes(base, empresa);
+    auto deLaCorrida = opciones;
+    deLaCorrida.borrarDescuentos = false;
     HorasDeLaCorrida horas;
     const auto porPersona = [&](store::Conexion& base, const master::PersonaCompartida& p) {
         ContextoFormula ctx;
@@ -263,7 +267,7 @@ ResultadoEmpresa ActHamPermxEmpresa(store::Conexion& base, const std::string& em
         auto mp = BuscarVerif(base, variables, empresa, p->nombre, mes, ctx, dialogo,
                               leida ? &*leida : nullptr);
         if (!mp) return ResultadoPersona{empresa, p->nombre, mes, false, "", {}};
-        return HabPerm(base, *mp, ctx, dialogo, opciones);
+        return HabPerm(base, *mp, ctx, dialogo, deLaCorrida);
     };
     return recorrerEmpresa(base, empresa, mes, porPersona, progreso, cancelar);
 }

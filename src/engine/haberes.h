@@ -24,6 +24,9 @@ using ImportarHoras = std::function<ImportacionHoras(ContextoFormula&, common::D
 
 struct OpcionesHaberes {
     ImportarHoras calculoCant;
+    // Los descuentos del mes de la persona se borran primero; la corrida de la
+    // empresa ya los borró todos al empezar y no lo repite persona por persona.
+    bool borrarDescuentos = true;
 };
 
 // Con el archivo de horas del mes (CalculoCant), como lo hacen la pantalla y
