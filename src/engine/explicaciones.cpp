@@ -83,13 +83,13 @@ std::vector<store::Valor> clave(TablaLiquidacion tabla, const std::string& empre
 constexpr const char* kDonde = " WHERE empresa = ? AND nombre = ? AND fecha = ? AND tabla = ?";
 
 // Todas las de la persona en el mes, las sin tipo primero: las de tipo
-// reemplazan a las que una base anterior guardó sin él. Y si había alguna fila.
-std::pair<PorCodigo, bool> leer(store::Conexion& base, const std::vector<store::Valor>& k) {
+// reemplazan a las que una base anterior guardó sin él.
+PorCodigo leer(store::Conexion& base, const std::vector<store::Valor>& k) {
     const auto r = base.consulta(
         std::string("SELECT texto FROM explicacionesmes") + kDonde + " ORDER BY tipo", k);
     PorCodigo m;
     for (const auto& f : r.filas) m = desarmar(f.texto(std::size_t{0}), std::move(m));
-    return {std::move(m), !r.vacio()};
+    return m;
 }
 
 // k: la clave y el tipo. Sin texto, la fila se va.
@@ -170,7 +170,7 @@ void guardarExplicacion(store::Conexion& base, TablaLiquidacion tabla, const std
 std::string leerExplicacion(store::Conexion& base, TablaLiquidacion tabla,
                             const std::string& empresa, const std::string& nombre,
                             const common::Mes& mes, long codigo) {
-    const auto m = leer(base, clave(tabla, empresa, nombre, mes)).first;
+    const auto m = leer(base, clave(tabla, empresa, nombre, mes));
     const auto it = m.find(codigo);
     return it == m.end() ? std::string() : it->second;
 }

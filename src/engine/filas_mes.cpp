@@ -209,7 +209,7 @@ void escribir(store::Conexion& base, TablaLiquidacion tabla, const std::string& 
     const std::string fecha = mes.primerDia().iso();
     const std::int64_t codigo = f.codigo;
     auto* recordada = dynamic_cast<store::ConexionRecordada*>(&base);
-    const std::vector<store::Valor> delMes = {empresa, nombre, fecha, fecha};
+    const auto delMes = claves(empresa, nombre, mes, mes);
     const auto escribirLeidas = [&](const std::string& sql, const std::vector<store::Valor>& p,
                                     bool insertada) {
         if (!recordada) return base.ejecuta(sql, p);

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <initializer_list>
 
 #include "apoyo/carpeta_temporal.h"
 #include "apoyo/cli.h"
@@ -11,21 +12,28 @@
 namespace nomira {
 namespace {
 
+// Una base nueva hecha con init, con la empresa ACME de ese número y lo que
+// agreguen las sentencias.
+std::string baseNueva(const pruebas::CarpetaTemporal& tmp, int nroemp,
+                      std::initializer_list<const char*> sentencias) {
+    const std::string db = tmp.archivo("n.db");
+    EXPECT_EQ(pruebas::cli("--base " + db + " init").estado, 0);
+    auto base = store::abrir(db);
+    base->ejecuta("INSERT INTO empresas (empresa, nroemp) VALUES ('ACME', ?)",
+                  {std::int64_t{nroemp}});
+    for (const char* sql : sentencias) base->ejecuta(sql);
+    return db;
+}
+
 TEST(OrdenHaberes, EmpresaPersonaYDesglose) {
     pruebas::CarpetaTemporal tmp;
-    const std::string db = tmp.archivo("n.db");
-    ASSERT_EQ(pruebas::cli("--base " + db + " init").estado, 0);
-    {
-        auto base = store::abrir(db);
-        base->ejecuta("INSERT INTO empresas (empresa, nroemp) VALUES ('ACME', 1)");
-        base->ejecuta(
-            "INSERT INTO personal (empresa, nombre, sueldo, tiposueldo, fechaing) VALUES "
-            "('ACME', 'PEREZ, JUAN', '30000', 'S', '2020-01-01'), ('ACME', 'GOMEZ, ANA', "
-            "'20000', 'S', '2026-02-11'), ('ACME', 'NUEVO', '1', 'S', '2026-03-01')");
-        base->ejecuta(
-            "INSERT INTO habydesc (empresa, nombre, fecha, codigo, concepto, tipo, cant, total) "
-            "VALUES ('ACME', 'GOMEZ, ANA', '2026-02-01', 90, 'CUOTA', 'Des', 1, 500)");
-    }
+    const std::string db = baseNueva(
+        tmp, 1,
+        {"INSERT INTO personal (empresa, nombre, sueldo, tiposueldo, fechaing) VALUES "
+         "('ACME', 'PEREZ, JUAN', '30000', 'S', '2020-01-01'), ('ACME', 'GOMEZ, ANA', "
+         "'20000', 'S', '2026-02-11'), ('ACME', 'NUEVO', '1', 'S', '2026-03-01')",
+         "INSERT INTO habydesc (empresa, nombre, fecha, codigo, concepto, tipo, cant, total) "
+         "VALUES ('ACME', 'GOMEZ, ANA', '2026-02-01', 90, 'CUOTA', 'Des', 1, 500)"});
     const std::string b = "--base " + db + " ";
     // NUEVO entra en marzo: se recorre pero no se genera.
     auto s = pruebas::cli(b + "haberes --empresa ACME --mes 02/26");
@@ -71,15 +79,10 @@ TEST(OrdenHaberes, EmpresaPersonaYDesglose) {
 
 TEST(OrdenHaberes, LeeElArchivoDeHorasDelMesComoLaPantalla) {
     pruebas::CarpetaTemporal tmp;
-    const std::string db = tmp.archivo("n.db");
-    ASSERT_EQ(pruebas::cli("--base " + db + " init").estado, 0);
-    {
-        auto base = store::abrir(db);
-        base->ejecuta("INSERT INTO empresas (empresa, nroemp) VALUES ('ACME', 5)");
-        base->ejecuta(
-            "INSERT INTO personal (empresa, nombre, nrofun, sueldo, tiposueldo, fechaing) VALUES "
-            "('ACME', 'DIAZ, LUIS', 7, '1000', 'J', '2020-01-01')");
-    }
+    const std::string db =
+        baseNueva(tmp, 5,
+                  {"INSERT INTO personal (empresa, nombre, nrofun, sueldo, tiposueldo, fechaing) "
+                   "VALUES ('ACME', 'DIAZ, LUIS', 7, '1000', 'J', '2020-01-01')"});
     // horas.txt da la carpeta y el prefijo; el archivo de febrero de la empresa 5.
     std::filesystem::create_directories(tmp.archivo("Software/Nomira"));
     std::ofstream(tmp.archivo("Software/Nomira/horas.txt")) << tmp.archivo("HORAS") << '\n';
