@@ -13,7 +13,7 @@
 namespace nomira::engine {
 
 struct EntradaDesglose {
-    std::vector<FilaMes> filas;    // habydesc del mes, haberes y descuentos
+    FilasLeidas filas;             // habydesc del mes, haberes y descuentos
     common::Dinero aguinaldosHab;  // filas Hab de aguinaldos del mes
     common::Dinero salvacacional;  // salvacacional del mes, códigos 606 y 636
     std::string tipoaporte, vinculofun;

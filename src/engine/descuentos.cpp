@@ -22,6 +22,11 @@ using common::Dinero;
 
 namespace {
 
+// Sin retener las filas: así las que se escriban se llevan al día en su lugar.
+bool conHaberes(const std::vector<FilaMes>& filas) {
+    return std::any_of(filas.begin(), filas.end(), [](auto& f) { return f.tipo == "Hab"; });
+}
+
 bool jornaleroOPorHora(const std::string& tiposueldo) {
     return tiposueldo == "H" || tiposueldo == "J";
 }
@@ -260,9 +265,7 @@ ResultadoEmpresa ActDesPermxEmpresa(store::Conexion& base, master::LectorVariabl
                               leida ? &*leida : nullptr);
         if (!mp) return r;
         // Sin haberes no hay descuentos.
-        const auto filas =
-            leerFilasDelMes(base, TablaLiquidacion::Habydesc, empresa, p->nombre, mes);
-        if (std::none_of(filas.begin(), filas.end(), [](auto& f) { return f.tipo == "Hab"; }))
+        if (!conHaberes(leerFilasDelMes(base, TablaLiquidacion::Habydesc, empresa, p->nombre, mes)))
             return r;
         const auto horas = CalculoCant2(ctx, dialogo);
         for (const auto& f : horas.filas) r.filas.push_back({f, "archivo de horas"});

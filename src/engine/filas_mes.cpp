@@ -165,32 +165,33 @@ void actualizarLeidas(store::Resultado& r, const FilaGenerada& f, bool insertada
                                       : store::Fila(r.filas.front(), std::move(v)));
 }
 
-// Lo mismo sobre las filas ya convertidas, si las hay: una copia con la fila
-// cambiada o agregada donde la pondría filasDe (después de las de código menor
-// o igual), que cuesta menos que volver a convertirlas todas.
+// Lo mismo sobre las filas ya convertidas, si las hay: la fila cambiada o
+// agregada donde la pondría filasDe (después de las de código menor o igual),
+// en su lugar si nadie más las tiene y si no sobre una copia, que cuesta menos
+// que volver a convertirlas todas.
 void actualizarConvertidas(std::any& convertida, const FilaGenerada& f, bool insertada) {
-    using Filas = std::shared_ptr<const std::vector<FilaMes>>;
-    const auto* filas = std::any_cast<Filas>(&convertida);
+    using Filas = std::shared_ptr<std::vector<FilaMes>>;
+    auto* filas = std::any_cast<Filas>(&convertida);
     if (!filas) {
         convertida.reset();
         return;
     }
-    auto nuevas = std::make_shared<std::vector<FilaMes>>(**filas);
+    if (filas->use_count() > 1) *filas = std::make_shared<std::vector<FilaMes>>(**filas);
+    auto& nuevas = **filas;
+    const auto total = common::Dinero::desdeDouble(f.total.aDouble());
     if (insertada) {
         const auto pos =
-            std::upper_bound(nuevas->begin(), nuevas->end(), f.codigo,
+            std::upper_bound(nuevas.begin(), nuevas.end(), f.codigo,
                              [](long codigo, const FilaMes& x) { return codigo < x.codigo; });
-        nuevas->insert(pos, FilaMes{f.codigo, f.concepto, f.tipo, f.gravado, f.ipd,
-                                    common::Dinero::desdeDouble(f.total.aDouble()), f.cant});
-    } else {
-        for (auto& m : *nuevas)
-            if (m.codigo == f.codigo) {
-                m.concepto = f.concepto;
-                m.total = common::Dinero::desdeDouble(f.total.aDouble());
-                m.cant = f.cant;
-            }
+        nuevas.insert(pos, FilaMes{f.codigo, f.concepto, f.tipo, f.gravado, f.ipd, total, f.cant});
+        return;
     }
-    convertida = Filas(std::move(nuevas));
+    for (auto& m : nuevas)
+        if (m.codigo == f.codigo) {
+            m.concepto = f.concepto;
+            m.total = total;
+            m.cant = f.cant;
+        }
 }
 
 // Quita de las filas del mes recordadas las del tipo borrado.

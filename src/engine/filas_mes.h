@@ -32,6 +32,7 @@ struct FilaMes {
 template <class F>
 class FilasCompartidas {
   public:
+    FilasCompartidas() : filas_(ninguna()) {}
     explicit FilasCompartidas(std::shared_ptr<const std::vector<F>> filas)
         : filas_(std::move(filas)) {}
     operator const std::vector<F>&() const { return *filas_; }
@@ -41,6 +42,10 @@ class FilasCompartidas {
     bool empty() const { return filas_->empty(); }
 
   private:
+    static const std::shared_ptr<const std::vector<F>>& ninguna() {
+        static const auto vacia = std::make_shared<const std::vector<F>>();
+        return vacia;
+    }
     std::shared_ptr<const std::vector<F>> filas_;
 };
 using FilasLeidas = FilasCompartidas<FilaMes>;

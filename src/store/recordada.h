@@ -54,13 +54,15 @@ class ConexionRecordada : public Conexion {
     // Lo recordado de una consulta ya convertido por quien la lee (las filas del
     // mes como las usan los cálculos): se convierte una vez por lectura, se
     // comparte sin copiarse y se olvida con ella o cuando una escritura la cambia.
+    // Se guarda como std::shared_ptr<T>: un Cambio puede llevarla al día en su
+    // lugar cuando nadie más la tiene (use_count() == 1).
     template <class T>
     std::shared_ptr<const T> convertida(std::string_view sql, const std::vector<Valor>& parametros,
                                         T (*convertir)(const Resultado&)) {
         auto& r = recordar(sql, parametros);
-        using Compartida = std::shared_ptr<const T>;
+        using Compartida = std::shared_ptr<T>;
         if (const auto* t = std::any_cast<Compartida>(&r.convertida)) return *t;
-        return r.convertida.emplace<Compartida>(std::make_shared<const T>(convertir(r.resultado)));
+        return r.convertida.emplace<Compartida>(std::make_shared<T>(convertir(r.resultado)));
     }
 
     // Lo recordado y vigente de esa consulta, sin ir a la base; nulo si no lo hay.

@@ -67,5 +67,26 @@ TEST_P(FilasRecordadas, QuedanComoLasDeLaBase) {
     EXPECT_EQ(leer(r).find("LICENCIA"), std::string::npos);
 }
 
+// Las que alguien tiene en la mano no cambian al escribir: la escritura
+// trabaja sobre una copia; las que nadie tiene se llevan al día en su lugar.
+TEST_P(FilasRecordadas, LasQueAlguienTieneNoCambianAlEscribir) {
+    const common::Mes mes{2026, 3};
+    store::ConexionRecordada r(c());
+    const auto escribir = [&](const FilaGenerada& f) {
+        escribirFila(r, TablaLiquidacion::Habydesc, "ACME", "PEREZ", mes, f);
+    };
+    escribir(fila(1, "SUELDO", "Hab", 100));
+    const auto tenidas = leerFilasDelMes(r, TablaLiquidacion::Habydesc, "ACME", "PEREZ", mes);
+    const auto antes = comoTexto(tenidas);
+    escribir(fila(1, "SUELDO", "Hab", 200));
+    escribir(fila(2, "PRIMA", "Hab", 5));
+    EXPECT_EQ(comoTexto(tenidas), antes);
+    EXPECT_EQ(tenidas.size(), 1u);
+    escribir(fila(3, "OTRA", "Hab", 7));
+    EXPECT_EQ(comoTexto(leerFilasDelMes(r, TablaLiquidacion::Habydesc, "ACME", "PEREZ", mes)),
+              comoTexto(leerFilasDelMes(c(), TablaLiquidacion::Habydesc, "ACME", "PEREZ", mes)));
+    EXPECT_EQ(r.leidas(), 1u);
+}
+
 }  // namespace
 }  // namespace nomira::engine
