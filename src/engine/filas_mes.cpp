@@ -140,53 +140,34 @@ bool hayEgresos(store::Conexion& base, const std::string& empresa, const std::st
 
 namespace {
 
-// Lo que una escritura de la fila `f` le hace a las filas del mes tal como las
-// devuelve la consulta de leerFilas: cambia concepto y total de las de su
-// código, o la agrega al final, donde la pondría una lectura nueva (es la
-// última dada de alta en su fecha).
-void actualizarLeidas(store::Resultado& r, const FilaGenerada& f, bool insertada) {
-    const auto codigoDe = [](const store::Fila& x) { return x.entero(std::size_t{0}); };
-    const std::int64_t codigo = f.codigo;
-    if (!insertada) {
-        for (auto& x : r.filas) {
-            if (codigoDe(x) != codigo) continue;
-            std::vector<store::Valor> v;
-            for (std::size_t i = 0; i < x.tamano(); ++i) v.push_back(x.valor(i));
-            v[1] = f.concepto;
-            v[5] = f.total.aDouble();
-            v[6] = f.cant;
-            x = store::Fila(x, std::move(v));
-        }
-        return;
-    }
-    std::vector<store::Valor> v = {codigo, f.concepto,        f.tipo, f.gravado,
-                                   f.ipd,  f.total.aDouble(), f.cant};
-    r.filas.push_back(r.filas.empty() ? store::Fila(&r.columnas, std::move(v))
-                                      : store::Fila(r.filas.front(), std::move(v)));
-}
-
-// Lo mismo sobre las filas ya convertidas, si las hay: la fila cambiada o
-// agregada donde la pondría filasDe (después de las de código menor o igual),
-// en su lugar si nadie más las tiene y si no sobre una copia, que cuesta menos
-// que volver a convertirlas todas.
-void actualizarConvertidas(std::any& convertida, const FilaGenerada& f, bool insertada) {
-    using Filas = std::shared_ptr<std::vector<FilaMes>>;
-    auto* filas = std::any_cast<Filas>(&convertida);
+// Las filas del mes ya convertidas, para cambiarlas: en su lugar si nadie más
+// las tiene y si no una copia, que cuesta menos que volver a leerlas. Nulo (y
+// se olvidan) si lo convertido no son filas del mes.
+std::vector<FilaMes>* filasParaCambiar(std::any& convertida) {
+    auto* filas = std::any_cast<std::shared_ptr<std::vector<FilaMes>>>(&convertida);
     if (!filas) {
         convertida.reset();
-        return;
+        return nullptr;
     }
     if (filas->use_count() > 1) *filas = std::make_shared<std::vector<FilaMes>>(**filas);
-    auto& nuevas = **filas;
+    return filas->get();
+}
+
+// Lo que una escritura de la fila `f` les hace: cambia concepto, total y cant
+// de las de su código, o la agrega donde la pondría filasDe (después de las de
+// código menor o igual).
+void actualizarConvertidas(std::any& convertida, const FilaGenerada& f, bool insertada) {
+    auto* filas = filasParaCambiar(convertida);
+    if (!filas) return;
     const auto total = common::Dinero::desdeDouble(f.total.aDouble());
     if (insertada) {
         const auto pos =
-            std::upper_bound(nuevas.begin(), nuevas.end(), f.codigo,
+            std::upper_bound(filas->begin(), filas->end(), f.codigo,
                              [](long codigo, const FilaMes& x) { return codigo < x.codigo; });
-        nuevas.insert(pos, FilaMes{f.codigo, f.concepto, f.tipo, f.gravado, f.ipd, total, f.cant});
+        filas->insert(pos, FilaMes{f.codigo, f.concepto, f.tipo, f.gravado, f.ipd, total, f.cant});
         return;
     }
-    for (auto& m : nuevas)
+    for (auto& m : *filas)
         if (m.codigo == f.codigo) {
             m.concepto = f.concepto;
             m.total = total;
@@ -194,9 +175,10 @@ void actualizarConvertidas(std::any& convertida, const FilaGenerada& f, bool ins
         }
 }
 
-// Quita de las filas del mes recordadas las del tipo borrado.
-void quitarLeidas(store::Resultado& r, const std::string& tipo) {
-    std::erase_if(r.filas, [&](const store::Fila& x) { return x.texto(std::size_t{2}) == tipo; });
+// Lo que les hace borrar las del tipo.
+void quitarConvertidas(std::any& convertida, const std::string& tipo) {
+    if (auto* filas = filasParaCambiar(convertida))
+        std::erase_if(*filas, [&](const FilaMes& f) { return f.tipo == tipo; });
 }
 
 // UPDATE por código (sólo si `probar`) y, si no cambió nada, INSERT. Por una
@@ -207,26 +189,25 @@ void escribir(store::Conexion& base, TablaLiquidacion tabla, const std::string& 
               bool probar) {
     if (tabla == TablaLiquidacion::Aguinaldos)
         throw common::Fallo(5, "Las filas de aguinaldos no se escriben aquí");
-    const std::string fecha = mes.primerDia().iso();
     const std::int64_t codigo = f.codigo;
     auto* recordada = dynamic_cast<store::ConexionRecordada*>(&base);
     const auto delMes = claves(empresa, nombre, mes, mes);
+    const auto& fecha = std::get<std::string>(delMes[2]);
     const auto escribirLeidas = [&](const std::string& sql, const std::vector<store::Valor>& p,
                                     bool insertada) {
         if (!recordada) return base.ejecuta(sql, p);
-        return recordada->ejecutaConCambio(
-            sql, p, sqlFilas(tabla), delMes,
-            [&](store::Resultado& r, std::int64_t afectadas, std::any& convertida) {
-                if (afectadas == 0) return;
-                actualizarLeidas(r, f, insertada);
-                actualizarConvertidas(convertida, f, insertada);
-            });
+        return recordada->ejecutaConCambio(sql, p, sqlFilas(tabla), delMes,
+                                           [&](std::any& convertida, std::int64_t afectadas) {
+                                               if (afectadas > 0)
+                                                   actualizarConvertidas(convertida, f, insertada);
+                                           });
     };
     // Si las filas del mes están recordadas, ya se sabe si el código tiene fila.
-    if (const auto* leidas = recordada ? recordada->recordado(sqlFilas(tabla), delMes) : nullptr)
-        probar = std::any_of(leidas->filas.begin(), leidas->filas.end(), [&](const store::Fila& x) {
-            return x.entero(std::size_t{0}) == codigo;
-        });
+    if (const auto leidas = recordada ? recordada->convertidaRecordada<std::vector<FilaMes>>(
+                                            sqlFilas(tabla), delMes)
+                                      : nullptr)
+        probar = std::any_of(leidas->begin(), leidas->end(),
+                             [&](const FilaMes& x) { return x.codigo == codigo; });
     const auto& sql = sentencias(tabla);
     if (probar && escribirLeidas(sql.actualizar,
                                  {f.concepto, f.unidad, f.cant, f.total.aDouble(), empresa, nombre,
@@ -265,10 +246,7 @@ std::int64_t borrarTipoDelMes(store::Conexion& base, TablaLiquidacion tabla,
     if (!recordada) return base.ejecuta(sql, p);
     return recordada->ejecutaConCambio(
         sql, p, sqlFilas(tabla), claves(empresa, nombre, mes, mes),
-        [&](store::Resultado& r, std::int64_t, std::any& convertida) {
-            quitarLeidas(r, tipo);
-            convertida.reset();
-        });
+        [&](std::any& convertida, std::int64_t) { quitarConvertidas(convertida, tipo); });
 }
 
 void escribirFila(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,

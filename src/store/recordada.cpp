@@ -69,7 +69,7 @@ std::vector<std::string> tablasDeLaSentencia(std::string_view sql) {
 
 Resultado ConexionRecordada::consulta(std::string_view sql, const std::vector<Valor>& parametros) {
     const auto k = clave(sql, parametros);
-    if (const auto* r = vigenteDe(k)) {
+    if (const auto* r = vigenteDe(k); r && r->crudo) {
         ++recordadas_;
         return r->resultado;
     }
@@ -82,13 +82,18 @@ Resultado ConexionRecordada::consulta(std::string_view sql, const std::vector<Va
 
 ConexionRecordada::Recuerdo& ConexionRecordada::recordar(std::string_view sql,
                                                          const std::vector<Valor>& parametros) {
-    std::string k(clave(sql, parametros));
-    if (auto* r = vigenteDe(k)) {
+    if (auto* r = vigenteDe(clave(sql, parametros))) {
         ++recordadas_;
         return *r;
     }
+    return releer(sql, parametros);
+}
+
+ConexionRecordada::Recuerdo& ConexionRecordada::releer(std::string_view sql,
+                                                       const std::vector<Valor>& parametros) {
     ++leidas_;
-    return guardar(std::move(k), sql, base_.consulta(sql, parametros));
+    auto leido = base_.consulta(sql, parametros);
+    return guardar(std::string(clave(sql, parametros)), sql, std::move(leido));
 }
 
 ConexionRecordada::Recuerdo* ConexionRecordada::vigenteDe(std::string_view clave) {
@@ -147,18 +152,14 @@ std::int64_t ConexionRecordada::ejecutaConCambio(std::string_view sql,
                                                  const Cambio& cambio) {
     auto* recuerdo = vigenteDe(clave(consulta, parametrosConsulta));
     const auto afectadas = ejecuta(sql, parametros);
-    if (recuerdo) {
-        cambio(recuerdo->resultado, afectadas, recuerdo->convertida);
+    // Sin nada convertido que llevar al día, la escritura la hace olvidar.
+    if (recuerdo && recuerdo->convertida.has_value()) {
+        cambio(recuerdo->convertida, afectadas);
+        recuerdo->crudo = false;
         recuerdo->general = general_;
         for (auto& [tabla, gen] : recuerdo->tablas) gen = generaciones_[tabla];
     }
     return afectadas;
-}
-
-const Resultado* ConexionRecordada::recordado(std::string_view consulta,
-                                              const std::vector<Valor>& parametros) {
-    const auto* recuerdo = vigenteDe(clave(consulta, parametros));
-    return recuerdo ? &recuerdo->resultado : nullptr;
 }
 
 void ConexionRecordada::deshacer() {

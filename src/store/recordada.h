@@ -40,12 +40,11 @@ class ConexionRecordada : public Conexion {
     void confirmar() override { base_.confirmar(); }
     void deshacer() override;
 
-    // Una escritura cuyo efecto sobre una consulta recordada se conoce (la fila
-    // que se agrega o se cambia): se ejecuta y, si la consulta estaba vigente, se
-    // le aplica el cambio y sigue vigente en lugar de volver a leerse. El cambio
-    // recibe lo recordado, las filas que afectó la escritura y lo convertido
-    // (ver convertida), que lleva al día o vacía.
-    using Cambio = std::function<void(Resultado&, std::int64_t afectadas, std::any& convertida)>;
+    // Una escritura cuyo efecto sobre una consulta recordada y convertida (ver
+    // convertida) se conoce: se ejecuta y, si lo convertido estaba vigente, el
+    // cambio lo lleva al día y sigue vigente en lugar de volver a leerse. Lo
+    // crudo de esa consulta deja de valer: una consulta() vuelve a la base.
+    using Cambio = std::function<void(std::any& convertida, std::int64_t afectadas)>;
     std::int64_t ejecutaConCambio(std::string_view sql, const std::vector<Valor>& parametros,
                                   std::string_view consulta,
                                   const std::vector<Valor>& parametrosConsulta,
@@ -59,14 +58,22 @@ class ConexionRecordada : public Conexion {
     template <class T>
     std::shared_ptr<const T> convertida(std::string_view sql, const std::vector<Valor>& parametros,
                                         T (*convertir)(const Resultado&)) {
-        auto& r = recordar(sql, parametros);
+        auto* r = &recordar(sql, parametros);
         using Compartida = std::shared_ptr<T>;
-        if (const auto* t = std::any_cast<Compartida>(&r.convertida)) return *t;
-        return r.convertida.emplace<Compartida>(std::make_shared<T>(convertir(r.resultado)));
+        if (const auto* t = std::any_cast<Compartida>(&r->convertida)) return *t;
+        if (!r->crudo) r = &releer(sql, parametros);
+        return r->convertida.emplace<Compartida>(std::make_shared<T>(convertir(r->resultado)));
     }
 
-    // Lo recordado y vigente de esa consulta, sin ir a la base; nulo si no lo hay.
-    const Resultado* recordado(std::string_view consulta, const std::vector<Valor>& parametros);
+    // Lo convertido como T de esa consulta, vigente, sin ir a la base; nulo si
+    // no lo hay.
+    template <class T>
+    std::shared_ptr<const T> convertidaRecordada(std::string_view sql,
+                                                 const std::vector<Valor>& parametros) {
+        const auto* r = vigenteDe(clave(sql, parametros));
+        const auto* t = r ? std::any_cast<std::shared_ptr<T>>(&r->convertida) : nullptr;
+        return t ? *t : nullptr;
+    }
 
     // Olvida lo que no se usó desde la llamada anterior: entre persona y persona
     // de una corrida quedan la empresa, los conceptos y las escalas, no las
@@ -87,9 +94,12 @@ class ConexionRecordada : public Conexion {
         std::vector<std::pair<std::size_t, std::uint64_t>> tablas;  // índice, generación
         Resultado resultado;
         std::any convertida;  // vacía hasta que alguien la pide
+        bool crudo = true;    // resultado vale; si no, sólo lo convertido
     };
     // El recuerdo vigente de la consulta, leyéndola si hace falta.
     Recuerdo& recordar(std::string_view sql, const std::vector<Valor>& parametros);
+    // La consulta leída otra vez, en lugar de lo que se recordaba.
+    Recuerdo& releer(std::string_view sql, const std::vector<Valor>& parametros);
     Recuerdo* vigenteDe(std::string_view clave);  // nulo si no lo hay o ya no vale
     Recuerdo& guardar(std::string clave, std::string_view sql, Resultado resultado);
     bool vigente(const Recuerdo& r) const;

@@ -82,5 +82,37 @@ TEST_P(Recordada, EntrePersonasOlvidaLoQueNoSeUso) {
     EXPECT_EQ(r.leidas(), 3u);
 }
 
+std::vector<std::string> nombres(const Resultado& r) {
+    std::vector<std::string> n;
+    for (const auto& f : r.filas) n.push_back(f.texto(std::size_t{0}));
+    return n;
+}
+
+// Una escritura que sabe lo que le hace a lo convertido lo lleva al día sin
+// releerlo; lo crudo de esa consulta ya no vale y se vuelve a leer.
+TEST_P(Recordada, UnCambioLlevaAlDiaLoConvertidoYLoCrudoSeRelee) {
+    ConexionRecordada r(c());
+    const std::string sql = "SELECT nombre FROM depto ORDER BY nombre";
+    const auto convertidos = [&] { return *r.convertida(sql, {}, nombres); };
+    EXPECT_TRUE(convertidos().empty());
+    const auto agregar = [&](const std::string& nombre) {
+        r.ejecutaConCambio(
+            "INSERT INTO depto (nombre) VALUES (?)", {nombre}, sql, {},
+            [&](std::any& convertida, std::int64_t afectadas) {
+                auto& v = *std::any_cast<std::shared_ptr<std::vector<std::string>>>(convertida);
+                if (afectadas == 1) v.push_back(nombre);
+            });
+    };
+    agregar("CANELONES");
+    agregar("FLORIDA");
+    EXPECT_EQ(convertidos(), (std::vector<std::string>{"CANELONES", "FLORIDA"}));
+    EXPECT_EQ(r.leidas(), 1u);
+    EXPECT_EQ(r.consulta(sql).filas.size(), 2u);
+    EXPECT_EQ(r.leidas(), 2u);
+    // Sin nada convertido, la escritura la hace olvidar como cualquier otra.
+    agregar("RIVERA");
+    EXPECT_EQ(r.consulta(sql).filas.size(), 3u);
+}
+
 }  // namespace
 }  // namespace nomira::store::prueba
