@@ -28,14 +28,11 @@ BaseMes Desglose(const EntradaDesglose& e) {
             b.montoirpf += f.total;
     }
     b.montonominal = b.montoirpf - b.parteVacacional;
-    b.explicacion = "gravado " + pesos(b.montograv) + ", IRPF " + pesos(b.montoirpf) +
-                    " (vacacional " + pesos(b.parteVacacional) + ")";
     if (e.tipoaporte != "04" && (e.sueldo != 0 || !vinculoSinAdicion(e.vinculofun)) &&
         b.montoirpf.aDouble() > 10 * e.bpc) {
         b.montoirpf =
             common::Dinero::desdeDouble(b.montoirpf.aDouble() + b.montograv.aDouble() * 6 / 100);
         b.conAdicion = true;
-        b.explicacion += "; más de 10 BPC: + 6% del gravado = " + pesos(b.montoirpf);
     }
     b.liquido = liquidoNeto(e.filas, opcionesLiquidoForm42());
     return b;

@@ -26,7 +26,6 @@ struct BaseMes {
     common::Dinero montoirpf, montonominal;  // montonominal es también "M.Dedu."
     bool conAdicion = false;                 // se sumó el 6% del gravado
     LiquidoNeto liquido;
-    std::string explicacion;
 };
 
 // ¿Tiene el vínculo la excepción de los dueños y directores (sin el 6%, sin
