@@ -101,7 +101,8 @@ int liquidacion(const Contexto& ctx, const OpcionesLiquidacion& o) {
               << "Líquido a Cobrar: " << engine::pesos(cifras.aCobrar) << '\n'
               << "M.Irpf: " << engine::pesos(cifras.montoirpf) << '\n'
               << "M.Dedu.: " << engine::pesos(cifras.montodedu) << '\n';
-    if (o.explicar) std::cout << d.explicacion << '\n' << engine::explicacion(d.liquido) << '\n';
+    if (o.explicar)
+        std::cout << engine::explicacion(d) << '\n' << engine::explicacion(d.liquido) << '\n';
     return 0;
 }
 

@@ -54,6 +54,15 @@ BaseMes leerDesglose(store::Conexion& base, const std::string& empresa, const st
     return Desglose(e);
 }
 
+std::string explicacion(const BaseMes& b) {
+    // Antes del 6%, el monto del IRPF era el nominal más la parte vacacional.
+    std::string texto = "gravado " + pesos(b.montograv) + ", IRPF " +
+                        pesos(b.montonominal + b.parteVacacional) + " (vacacional " +
+                        pesos(b.parteVacacional) + ")";
+    if (b.conAdicion) texto += "; más de 10 BPC: + 6% del gravado = " + pesos(b.montoirpf);
+    return texto;
+}
+
 void volcarEnContexto(const BaseMes& b, ContextoFormula& ctx) {
     ctx.montograv = b.montograv;
     ctx.montogravag = b.montogravag;

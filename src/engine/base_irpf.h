@@ -33,6 +33,8 @@ struct BaseMes {
 bool vinculoSinAdicion(const std::string& vinculofun);
 
 BaseMes Desglose(const EntradaDesglose& e);
+// Cómo se llegó a la base, para quien la pide.
+std::string explicacion(const BaseMes& b);
 
 // Lee las filas del mes y arma la base.
 BaseMes leerDesglose(store::Conexion& base, const std::string& empresa, const std::string& nombre,

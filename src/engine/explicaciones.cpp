@@ -80,13 +80,25 @@ std::vector<store::Valor> clave(TablaLiquidacion tabla, const std::string& empre
     return {empresa, nombre, mes.primerDia().iso(), std::string(nombreTabla(tabla))};
 }
 
-constexpr const char* kDonde = " WHERE empresa = ? AND nombre = ? AND fecha = ? AND tabla = ?";
+// Las sentencias, con su texto fijo: la corrida de una empresa las usa en cada
+// persona.
+constexpr const char* kLeer =
+    "SELECT texto FROM explicacionesmes WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
+    "tabla = ? ORDER BY tipo";
+constexpr const char* kLeerTipo =
+    "SELECT texto FROM explicacionesmes WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
+    "tabla = ? AND tipo = ?";
+constexpr const char* kBorrarTipo =
+    "DELETE FROM explicacionesmes WHERE empresa = ? AND nombre = ? AND fecha = ? AND tabla = ? "
+    "AND tipo = ?";
+constexpr const char* kCambiarTipo =
+    "UPDATE explicacionesmes SET texto = ? WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
+    "tabla = ? AND tipo = ?";
 
 // Todas las de la persona en el mes, las sin tipo primero: las de tipo
 // reemplazan a las que una base anterior guardó sin él.
 PorCodigo leer(store::Conexion& base, const std::vector<store::Valor>& k) {
-    const auto r = base.consulta(
-        std::string("SELECT texto FROM explicacionesmes") + kDonde + " ORDER BY tipo", k);
+    const auto r = base.consulta(kLeer, k);
     PorCodigo m;
     for (const auto& f : r.filas) m = desarmar(f.texto(std::size_t{0}), std::move(m));
     return m;
@@ -95,14 +107,13 @@ PorCodigo leer(store::Conexion& base, const std::vector<store::Valor>& k) {
 // k: la clave y el tipo. Sin texto, la fila se va.
 void escribir(store::Conexion& base, std::vector<store::Valor> k, const std::string& texto,
               bool habia) {
-    const std::string donde = std::string(kDonde) + " AND tipo = ?";
     if (habia && texto.empty()) {
-        base.ejecuta("DELETE FROM explicacionesmes" + donde, k);
+        base.ejecuta(kBorrarTipo, k);
         return;
     }
     if (habia) {
         k.insert(k.begin(), texto);
-        base.ejecuta("UPDATE explicacionesmes SET texto = ?" + donde, k);
+        base.ejecuta(kCambiarTipo, k);
     } else if (!texto.empty()) {
         k.push_back(texto);
         base.ejecuta(
@@ -115,8 +126,7 @@ void escribir(store::Conexion& base, std::vector<store::Valor> k, const std::str
 // Las guardadas de ese tipo con las nuevas, por código; un código escrito otra
 // vez queda con la última.
 void juntar(store::Conexion& base, std::vector<store::Valor> k, const std::string& nuevas) {
-    const auto r = base.consulta(
-        std::string("SELECT texto FROM explicacionesmes") + kDonde + " AND tipo = ?", k);
+    const auto r = base.consulta(kLeerTipo, k);
     std::string guardadas;
     for (const auto& f : r.filas) {
         if (!guardadas.empty()) guardadas += kRegistro;

@@ -63,7 +63,9 @@ TEST(OrdenHaberes, EmpresaPersonaYDesglose) {
     for (const char* linea : {"1 | SUELDO | Hab | 1 | 20,000.00\n    Fórmula [SUELDO] = 20000 con "
                               "cantidad 1: 20,000.00.\n",
                               "    Ingreso el 2026-02-11: 10 días sin trabajar, -(20,000.00 / 30 x "
-                              "10) = -6,666.67.\n"})
+                              "10) = -6,666.67.\n",
+                              "M.Dedu.: 13,333.33\ngravado 13,333.33, IRPF 13,333.33 (vacacional "
+                              "0.00)\nLIQUIDONETO = haberes 13,333.33"})
         EXPECT_NE(s.texto.find(linea), std::string::npos) << linea << s.texto;
 
     s = pruebas::cli(b + "--no borrar --empresa ACME --nombre 'GOMEZ, ANA' --mes 02/26 --haberes");

@@ -192,6 +192,9 @@ TEST_P(IRPFMes, SobreDiezBPCConHijoYCasilla02Categoria04) {
     // Pasa de 10 BPC: + 6% de 102960 = 6177.60; el nominal no lo lleva.
     EXPECT_EQ(b.montoirpf, d(109137.60));
     EXPECT_EQ(b.montonominal, d(102960));
+    EXPECT_EQ(explicacion(b),
+              "gravado 102,960.00, IRPF 102,960.00 (vacacional 0.00); más de 10 BPC: + 6% del "
+              "gravado = 109,137.60");
     volcarEnContexto(b, c);
     const auto r = CalculoIRPF(c, b.montoirpf, b.montonominal, opcionesIRPFForm42(), dialogo);
     // Escala: 2059.20 + 5148 + 6177.60 x 24% (1482.624) = 8689.824.
