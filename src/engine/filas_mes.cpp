@@ -192,7 +192,7 @@ void escribir(store::Conexion& base, TablaLiquidacion tabla, const std::string& 
     const std::int64_t codigo = f.codigo;
     auto* recordada = dynamic_cast<store::ConexionRecordada*>(&base);
     const auto delMes = claves(empresa, nombre, mes, mes);
-    const auto& fecha = std::get<std::string>(delMes[2]);
+    const auto& fecha = std::get<std::string>(delMes[2]);  // desde: el primer día del mes
     const auto escribirLeidas = [&](const std::string& sql, const std::vector<store::Valor>& p,
                                     bool insertada) {
         if (!recordada) return base.ejecuta(sql, p);
