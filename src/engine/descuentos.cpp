@@ -161,17 +161,19 @@ std::vector<FilaLiquidada> generarDescuentos(store::Conexion& base, MesPersona& 
                                              ContextoFormula& ctx, common::Dialogo& dialogo) {
     std::vector<FilaLiquidada> hechas;
     hechas.reserve(8);  // las filas son grandes: sin mudarlas al crecer
-    std::vector<FilaMes> haberes;
-    for (const auto& f :
-         leerFilasDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes))
-        if (f.tipo == "Hab") haberes.push_back(f);
+    // Cuántos haberes hay y el total de la última licencia, sin retener las filas.
+    std::size_t haberes = 0;
     double licencia = 0;
-    for (const auto& f : haberes)
+    for (const auto& f :
+         leerFilasDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes)) {
+        if (f.tipo != "Hab") continue;
+        ++haberes;
         if (f.concepto == "LICENCIA" || f.concepto == "LICENCIA 2DA ACT")
             licencia = f.total.aDouble();
-    const bool unicoHaber = jornaleroOPorHora(mp.tiposueldo) && haberes.size() == 1;
+    }
+    const bool unicoHaber = jornaleroOPorHora(mp.tiposueldo) && haberes == 1;
 
-    if (jornaleroOPorHora(mp.tiposueldo) && haberes.size() > 1)
+    if (jornaleroOPorHora(mp.tiposueldo) && haberes > 1)
         if (auto f = adelantoLicencia(base, mp, ctx, licencia, dialogo))
             hechas.push_back(std::move(*f));
     if (!unicoHaber)

@@ -63,15 +63,12 @@ void agregar(std::string& texto, long codigo, std::string_view explicacion) {
     texto += explicacion;
 }
 
-std::string armar(const std::vector<Entrada>& e) {
+// El texto guardado de pares (código, explicación) ya en orden: entradas o un
+// PorCodigo.
+template <class Pares>
+std::string armar(const Pares& pares) {
     std::string texto;
-    for (const auto& [codigo, explicacion] : e) agregar(texto, codigo, explicacion);
-    return texto;
-}
-
-std::string armar(const PorCodigo& m) {
-    std::string texto;
-    for (const auto& [codigo, explicacion] : m) agregar(texto, codigo, explicacion);
+    for (const auto& [codigo, explicacion] : pares) agregar(texto, codigo, explicacion);
     return texto;
 }
 
@@ -91,6 +88,9 @@ constexpr const char* kLeerTipo =
 constexpr const char* kBorrarTipo =
     "DELETE FROM explicacionesmes WHERE empresa = ? AND nombre = ? AND fecha = ? AND tabla = ? "
     "AND tipo = ?";
+constexpr const char* kInsertar =
+    "INSERT INTO explicacionesmes (empresa, nombre, fecha, tabla, tipo, texto) VALUES (?, ?, ?, ?, "
+    "?, ?)";
 constexpr const char* kCambiarTipo =
     "UPDATE explicacionesmes SET texto = ? WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
     "tabla = ? AND tipo = ?";
@@ -116,10 +116,7 @@ void escribir(store::Conexion& base, std::vector<store::Valor> k, const std::str
         base.ejecuta(kCambiarTipo, k);
     } else if (!texto.empty()) {
         k.push_back(texto);
-        base.ejecuta(
-            "INSERT INTO explicacionesmes (empresa, nombre, fecha, tabla, tipo, texto) VALUES (?, "
-            "?, ?, ?, ?, ?)",
-            k);
+        base.ejecuta(kInsertar, k);
     }
 }
 
