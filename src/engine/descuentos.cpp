@@ -249,8 +249,7 @@ ResultadoEmpresa ActDesPermxEmpresa(store::Conexion& base, master::LectorVariabl
                                     const std::string& empresa, const common::Mes& mes,
                                     common::Dialogo& dialogo, const ProgresoEmpresa& progreso,
                                     const CancelarEmpresa& cancelar) {
-    const auto leida = leerEmpresaDelMes(base, empresa);
-    HorasDeLaCorrida horas;
+    LecturasDeLaCorrida corrida(base, variables, empresa, mes);
     auto porPersona = [&](store::Conexion& base, const master::PersonaCompartida& p) {
         ResultadoPersona r;
         r.empresa = empresa;
@@ -261,10 +260,7 @@ ResultadoEmpresa ActDesPermxEmpresa(store::Conexion& base, master::LectorVariabl
             return r;
         }
         ContextoFormula ctx;
-        ctx.horasDeLaCorrida = &horas;
-        ctx.personaLeida = ContextoFormula::PersonaLeida{empresa, p->nombre, p};
-        auto mp = BuscarVerif(base, variables, empresa, p->nombre, mes, ctx, dialogo,
-                              leida ? &*leida : nullptr);
+        auto mp = corrida.buscarVerif(base, p, ctx, dialogo);
         if (!mp) return r;
         // Sin haberes no hay descuentos.
         if (!conHaberes(leerFilasDelMes(base, TablaLiquidacion::Habydesc, empresa, p->nombre, mes)))

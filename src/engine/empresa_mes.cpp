@@ -30,6 +30,23 @@ std::vector<master::PersonaCompartida> personasPorCantbfc(store::Conexion& base,
     return personas;
 }
 
+LecturasDeLaCorrida::LecturasDeLaCorrida(store::Conexion& base, master::LectorVariables& variables,
+                                         std::string empresa, const common::Mes& mes)
+    : variables_(variables),
+      empresa_(std::move(empresa)),
+      mes_(mes),
+      leida_(leerEmpresaDelMes(base, empresa_)) {}
+
+std::optional<MesPersona> LecturasDeLaCorrida::buscarVerif(store::Conexion& base,
+                                                           const master::PersonaCompartida& persona,
+                                                           ContextoFormula& ctx,
+                                                           common::Dialogo& dialogo) {
+    ctx.horasDeLaCorrida = &horas_;
+    ctx.personaLeida = ContextoFormula::PersonaLeida{empresa_, persona->nombre, persona};
+    return BuscarVerif(base, variables_, empresa_, persona->nombre, mes_, ctx, dialogo,
+                       leida_ ? &*leida_ : nullptr);
+}
+
 ResultadoEmpresa recorrerEmpresa(store::Conexion& base, const std::string& empresa,
                                  const common::Mes& mes, const PorPersona& porPersona,
                                  const ProgresoEmpresa& progreso, const CancelarEmpresa& cancelar) {

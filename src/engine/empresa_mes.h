@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "common/fechas.h"
+#include "engine/horas.h"
 #include "engine/mes_persona.h"
 #include "master/personal.h"
 #include "store/conexion.h"
@@ -41,6 +42,26 @@ struct ResultadoEmpresa {
     // Un fallo detiene el recorrido: lo de esa persona se deshizo, lo anterior queda.
     std::exception_ptr fallo;
     std::string personaFallida;
+};
+
+// Lo que las dos corridas de una empresa leen una vez para todas sus personas:
+// la empresa del mes y el archivo de horas (las variables, quien las pasa).
+class LecturasDeLaCorrida {
+  public:
+    LecturasDeLaCorrida(store::Conexion& base, master::LectorVariables& variables,
+                        std::string empresa, const common::Mes& mes);
+    // BuscarVerif de una persona de la corrida, con la persona ya leída y lo
+    // de la corrida en ctx.
+    std::optional<MesPersona> buscarVerif(store::Conexion& base,
+                                          const master::PersonaCompartida& persona,
+                                          ContextoFormula& ctx, common::Dialogo& dialogo);
+
+  private:
+    master::LectorVariables& variables_;
+    std::string empresa_;
+    common::Mes mes_;
+    std::optional<EmpresaDelMes> leida_;
+    HorasDeLaCorrida horas_;
 };
 
 // Confirmar una transacción por persona costaba más que liquidarla: las

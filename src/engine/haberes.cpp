@@ -256,16 +256,12 @@ ResultadoEmpresa ActHamPermxEmpresa(store::Conexion& base, const std::string& em
     }
     // Una lectura de las variables y de la empresa para toda la corrida.
     master::LectorVariables variables(base);
-    const auto leida = leerEmpresaDelMes(base, empresa);
+    LecturasDeLaCorrida corrida(base, variables, empresa, mes);
     auto deLaCorrida = opciones;
     deLaCorrida.borrarDescuentos = false;
-    HorasDeLaCorrida horas;
     const auto porPersona = [&](store::Conexion& base, const master::PersonaCompartida& p) {
         ContextoFormula ctx;
-        ctx.horasDeLaCorrida = &horas;
-        ctx.personaLeida = ContextoFormula::PersonaLeida{empresa, p->nombre, p};
-        auto mp = BuscarVerif(base, variables, empresa, p->nombre, mes, ctx, dialogo,
-                              leida ? &*leida : nullptr);
+        auto mp = corrida.buscarVerif(base, p, ctx, dialogo);
         if (!mp) return ResultadoPersona{empresa, p->nombre, mes, false, "", {}};
         return HabPerm(base, *mp, ctx, dialogo, deLaCorrida);
     };
