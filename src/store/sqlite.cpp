@@ -142,18 +142,17 @@ void ConexionSqlite::enlazar(sqlite3_stmt* s, const std::vector<Valor>& parametr
 Resultado ConexionSqlite::consulta(std::string_view sql, const std::vector<Valor>& parametros) {
     Resultado resultado;
     leer(sql, parametros, &resultado.columnas,
-         [&](Fila f) { resultado.filas.push_back(std::move(f)); });
+         [&](const Fila& f) { resultado.filas.push_back(f); });
     return resultado;
 }
 
 void ConexionSqlite::recorrer(std::string_view sql, const std::vector<Valor>& parametros,
                               const PorFila& porFila) {
-    leer(sql, parametros, nullptr, [&](Fila f) { porFila(f); });
+    leer(sql, parametros, nullptr, porFila);
 }
 
 void ConexionSqlite::leer(std::string_view sql, const std::vector<Valor>& parametros,
-                          std::vector<std::string>* nombres,
-                          const std::function<void(Fila)>& porFila) {
+                          std::vector<std::string>* nombres, const PorFila& porFila) {
     const auto p = preparar(sql);
     sqlite3_stmt* s = p.sentencia;
     try {

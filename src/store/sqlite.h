@@ -3,7 +3,6 @@
 // conexión se usa desde un hilo a la vez.
 #include <sqlite3.h>
 
-#include <functional>
 #include <string>
 #include <unordered_map>
 
@@ -47,7 +46,7 @@ class ConexionSqlite : public Conexion {
     void enlazar(sqlite3_stmt* sentencia, const std::vector<Valor>& parametros);
     // La consulta fila por fila; con `nombres`, también los de las columnas.
     void leer(std::string_view sql, const std::vector<Valor>& parametros,
-              std::vector<std::string>* nombres, const std::function<void(Fila)>& porFila);
+              std::vector<std::string>* nombres, const PorFila& porFila);
     [[noreturn]] void fallar(int codigo) const;
     void directa(const std::string& sql);
 
