@@ -124,8 +124,11 @@ ImportacionHoras importarDelMes(ContextoFormula& ctx, bool descuentos, common::D
     std::optional<ArchivoHoras> propio;
     const std::optional<ArchivoHoras>* archivo = &propio;
     if (auto* corrida = ctx.horasDeLaCorrida) {
-        if (!corrida->leido) corrida->leido = leerDelMes(ctx);
-        archivo = &*corrida->leido;
+        if (!corrida->buscado) {
+            corrida->archivo = leerDelMes(ctx);
+            corrida->buscado = true;
+        }
+        archivo = &corrida->archivo;
     } else {
         propio = leerDelMes(ctx);
     }

@@ -48,7 +48,8 @@ ArchivoHoras leerArchivoHoras(const std::filesystem::path& ruta);
 // horasDeLaCorrida): se busca y se lee una vez, con la primera persona que lo
 // pide, y sirve para todas.
 struct HorasDeLaCorrida {
-    std::optional<std::optional<ArchivoHoras>> leido;
+    bool buscado = false;
+    std::optional<ArchivoHoras> archivo;  // nada si el mes no tiene archivo
 };
 
 struct ImportacionHoras {
