@@ -14,10 +14,11 @@ std::vector<master::PersonaCompartida> personasPorCantbfc(store::Conexion& base,
                                                           const std::string& empresa) {
     std::vector<std::pair<double, master::PersonaCompartida>> leidas;
     // Fila por fila: de cada una queda sólo la persona.
+    master::LectorRegistros<master::Persona> lector(master::camposPersona());
     base.recorrer("SELECT * FROM personal WHERE empresa = ? ORDER BY nombre", {empresa},
-                  [&](const store::Fila& f) {
-                      auto p = std::make_shared<const master::Persona>(
-                          master::leerRegistro(f, master::camposPersona()));
+                  [&](const store::FilaAlPaso& f) {
+                      auto p = std::make_shared<master::Persona>();
+                      lector.leer(f, *p);
                       // cantbfc es texto en la tabla: se ordena por su valor, así un
                       // vacío o un Null cuenta 0 igual en los dos motores.
                       leidas.emplace_back(common::textoANumero(p->cantbfc), std::move(p));

@@ -48,19 +48,42 @@ std::vector<std::string> textosDe(const T& registro, const Campos<T>& campos) {
     return t;
 }
 
+// Registros de las filas de una consulta (Fila o FilaAlPaso): la columna de
+// cada campo se busca en la primera fila, no en cada una.
 template <class T>
-T leerRegistro(const store::Fila& fila, const Campos<T>& campos) {
-    T r;
-    // Con SELECT * las columnas llegan en el orden de la lista: se prueba primero
-    // la misma posición.
-    const auto& columnas = fila.columnas();
-    for (std::size_t i = 0; i < campos.size(); ++i) {
-        const auto& campo = campos[i];
-        r.*campo.miembro = i < columnas.size() && columnas[i] == campo.columna
-                               ? fila.texto(i)
-                               : fila.texto(campo.columna);
+class LectorRegistros {
+  public:
+    explicit LectorRegistros(const Campos<T>& campos) : campos_(campos) {}
+
+    template <class F>
+    void leer(const F& fila, T& registro) {
+        if (posiciones_.empty()) {
+            // Con SELECT * llegan en el orden de la lista: cada una se busca
+            // desde la que sigue a la anterior.
+            std::size_t desde = 0;
+            for (const auto& campo : campos_) {
+                posiciones_.push_back(store::posicionDe(fila.columnas(), campo.columna, desde));
+                desde = posiciones_.back() + 1;
+            }
+        }
+        for (std::size_t i = 0; i < campos_.size(); ++i)
+            registro.*campos_[i].miembro = fila.texto(posiciones_[i]);
     }
-    return r;
+    template <class F>
+    T leer(const F& fila) {
+        T r;
+        leer(fila, r);
+        return r;
+    }
+
+  private:
+    const Campos<T>& campos_;
+    std::vector<std::size_t> posiciones_;
+};
+
+template <class T, class F>
+T leerRegistro(const F& fila, const Campos<T>& campos) {
+    return LectorRegistros<T>(campos).leer(fila);
 }
 
 // INSERT de todas las columnas de la lista.

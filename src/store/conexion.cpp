@@ -22,9 +22,9 @@ bool igualesSinMayusculas(std::string_view a, std::string_view b) {
 // Lee el número con que empieza el texto, como lo haría Val(): "12abc" es 12,
 // " 3.5" es 3.5 y un texto sin número es 0. from_chars no depende del locale,
 // que la parte Qt cambia al arrancar.
-double numeroDeTexto(const std::string& texto) {
+double numeroDeTexto(std::string_view texto) {
     std::size_t i = texto.find_first_not_of(" \t");
-    if (i == std::string::npos) return 0;
+    if (i == std::string_view::npos) return 0;
     if (texto[i] == '+') ++i;
     double numero = 0;
     std::from_chars(texto.data() + i, texto.data() + texto.size(), numero);
@@ -52,9 +52,68 @@ std::string textoDeNumero(double numero) {
     return texto;
 }
 
+namespace {
+
+// Una Fila ya leída, entregada como si se leyera.
+class FilaAlPasoDeFila final : public FilaAlPaso {
+  public:
+    explicit FilaAlPasoDeFila(const Fila& f) : f_(f) {}
+    const std::vector<std::string>& columnas() const override { return f_.columnas(); }
+    Celda celda(std::size_t posicion) const override { return celdaDe(f_.valor(posicion)); }
+
+  private:
+    const Fila& f_;
+};
+
+}  // namespace
+
 void Conexion::recorrer(std::string_view sql, const std::vector<Valor>& parametros,
                         const PorFila& porFila) {
-    for (const auto& f : consulta(sql, parametros).filas) porFila(f);
+    for (const auto& f : consulta(sql, parametros).filas) porFila(FilaAlPasoDeFila(f));
+}
+
+Celda celdaDe(const Valor& v) {
+    if (const auto* s = std::get_if<std::string>(&v)) return std::string_view(*s);
+    if (const auto* i = std::get_if<std::int64_t>(&v)) return *i;
+    if (const auto* d = std::get_if<double>(&v)) return *d;
+    return Nulo{};
+}
+
+std::string textoDe(const Celda& c) {
+    if (const auto* s = std::get_if<std::string_view>(&c)) return std::string(*s);
+    if (const auto* i = std::get_if<std::int64_t>(&c)) return std::to_string(*i);
+    if (const auto* d = std::get_if<double>(&c)) return textoDeNumero(*d);
+    return "";
+}
+
+std::int64_t enteroDe(const Celda& c) {
+    if (const auto* i = std::get_if<std::int64_t>(&c)) return *i;
+    if (const auto* d = std::get_if<double>(&c)) return enteroDeDouble(*d);
+    if (const auto* s = std::get_if<std::string_view>(&c)) return enteroDeDouble(numeroDeTexto(*s));
+    return 0;
+}
+
+double realDe(const Celda& c) {
+    if (const auto* d = std::get_if<double>(&c)) return *d;
+    if (const auto* i = std::get_if<std::int64_t>(&c)) return static_cast<double>(*i);
+    if (const auto* s = std::get_if<std::string_view>(&c)) return numeroDeTexto(*s);
+    return 0;
+}
+
+bool esNuloDe(const Celda& c) {
+    if (std::holds_alternative<Nulo>(c)) return true;
+    const auto* s = std::get_if<std::string_view>(&c);
+    return s && s->empty();
+}
+
+std::size_t posicionDe(const std::vector<std::string>& columnas, std::string_view columna,
+                       std::size_t desde) {
+    const auto n = columnas.size();
+    for (std::size_t k = 0; k < n; ++k) {
+        const std::size_t i = (desde + k) % n;
+        if (igualesSinMayusculas(columnas[i], columna)) return i;
+    }
+    throw ErrorBase(kErrorUso, "No existe la columna " + std::string(columna) + " en el resultado");
 }
 
 Valor textoONulo(std::string_view texto) {
@@ -63,16 +122,9 @@ Valor textoONulo(std::string_view texto) {
 }
 
 std::size_t Fila::posicion(std::string_view columna) const {
-    const auto& nombres = *columnas_;
-    const auto n = nombres.size();
-    for (std::size_t k = 0; k < n; ++k) {
-        const std::size_t i = (siguiente_ + k) % n;
-        if (igualesSinMayusculas(nombres[i], columna)) {
-            siguiente_ = i + 1;
-            return i;
-        }
-    }
-    throw ErrorBase(kErrorUso, "No existe la columna " + std::string(columna) + " en el resultado");
+    const auto i = posicionDe(*columnas_, columna, siguiente_);
+    siguiente_ = i + 1;
+    return i;
 }
 
 const Valor& Fila::valor(std::string_view columna) const {
@@ -80,10 +132,7 @@ const Valor& Fila::valor(std::string_view columna) const {
 }
 
 bool Fila::esNulo(std::size_t posicion) const {
-    const Valor& v = valores_->at(posicion);
-    if (std::holds_alternative<Nulo>(v)) return true;
-    const auto* s = std::get_if<std::string>(&v);
-    return s && s->empty();
+    return esNuloDe(celdaDe(valores_->at(posicion)));
 }
 
 bool Fila::esNulo(std::string_view columna) const {
@@ -91,11 +140,7 @@ bool Fila::esNulo(std::string_view columna) const {
 }
 
 std::string Fila::texto(std::size_t posicion) const {
-    const Valor& v = valores_->at(posicion);
-    if (const auto* s = std::get_if<std::string>(&v)) return *s;
-    if (const auto* i = std::get_if<std::int64_t>(&v)) return std::to_string(*i);
-    if (const auto* d = std::get_if<double>(&v)) return textoDeNumero(*d);
-    return "";
+    return textoDe(celdaDe(valores_->at(posicion)));
 }
 
 std::string Fila::texto(std::string_view columna) const {
@@ -103,11 +148,7 @@ std::string Fila::texto(std::string_view columna) const {
 }
 
 std::int64_t Fila::entero(std::size_t posicion) const {
-    const Valor& v = valores_->at(posicion);
-    if (const auto* i = std::get_if<std::int64_t>(&v)) return *i;
-    if (const auto* d = std::get_if<double>(&v)) return enteroDeDouble(*d);
-    if (const auto* s = std::get_if<std::string>(&v)) return enteroDeDouble(numeroDeTexto(*s));
-    return 0;
+    return enteroDe(celdaDe(valores_->at(posicion)));
 }
 
 std::int64_t Fila::entero(std::string_view columna) const {
@@ -115,11 +156,7 @@ std::int64_t Fila::entero(std::string_view columna) const {
 }
 
 double Fila::real(std::size_t posicion) const {
-    const Valor& v = valores_->at(posicion);
-    if (const auto* d = std::get_if<double>(&v)) return *d;
-    if (const auto* i = std::get_if<std::int64_t>(&v)) return static_cast<double>(*i);
-    if (const auto* s = std::get_if<std::string>(&v)) return numeroDeTexto(*s);
-    return 0;
+    return realDe(celdaDe(valores_->at(posicion)));
 }
 
 double Fila::real(std::string_view columna) const {

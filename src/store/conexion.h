@@ -38,6 +38,23 @@ constexpr int kErrorPostgres = 3100;
 constexpr int kErrorPostgresConexion = 3108;
 constexpr int kErrorUso = 3200;
 
+// Un valor tal como se lee, sin copiarlo: el texto es una vista sobre lo leído.
+using Celda = std::variant<Nulo, std::int64_t, double, std::string_view>;
+Celda celdaDe(const Valor& v);
+
+// Las conversiones de una columna leída, las mismas para Fila y FilaAlPaso.
+// Texto: Null da ""; un número se convierte a texto. Números: Null y "" dan 0;
+// un texto con número se convierte.
+std::string textoDe(const Celda& c);
+std::int64_t enteroDe(const Celda& c);
+double realDe(const Celda& c);
+bool esNuloDe(const Celda& c);  // Null o ""
+
+// La posición de la columna (sin distinguir mayúsculas), buscando desde
+// `desde`: los lectores las piden casi siempre en su orden.
+std::size_t posicionDe(const std::vector<std::string>& columnas, std::string_view columna,
+                       std::size_t desde = 0);
+
 // Una fila leída: columnas por nombre o por posición; Null y "" se leen igual.
 // Los nombres de columna se comparten entre las filas de un resultado, así una
 // fila sigue siendo válida aunque el Resultado se mueva o se descarte. Una fila
@@ -81,6 +98,22 @@ class Fila {
     mutable std::size_t siguiente_ = 0;
 };
 
+// Una fila mientras se lee, por posición y sin copiarse: vale sólo dentro de la
+// llamada que la recibe. Convierte igual que Fila.
+class FilaAlPaso {
+  public:
+    virtual ~FilaAlPaso() = default;
+    virtual const std::vector<std::string>& columnas() const = 0;
+    virtual Celda celda(std::size_t posicion) const = 0;
+
+    std::string texto(std::size_t posicion) const { return textoDe(celda(posicion)); }
+    std::string texto(std::string_view columna) const {
+        return texto(posicionDe(columnas(), columna));
+    }
+    std::int64_t entero(std::size_t posicion) const { return enteroDe(celda(posicion)); }
+    double real(std::size_t posicion) const { return realDe(celda(posicion)); }
+};
+
 struct Resultado {
     std::vector<std::string> columnas;
     std::vector<Fila> filas;
@@ -110,9 +143,9 @@ class Conexion {
 
     // SELECT con parámetros "?".
     virtual Resultado consulta(std::string_view sql, const std::vector<Valor>& parametros = {}) = 0;
-    // Lo mismo fila por fila, sin juntarlas: para leer muchas filas anchas y
-    // quedarse con otra cosa. Por omisión, sobre consulta().
-    using PorFila = std::function<void(const Fila&)>;
+    // Lo mismo fila por fila, sin juntarlas ni copiarlas: para leer muchas filas
+    // anchas y quedarse con otra cosa. Por omisión, sobre consulta().
+    using PorFila = std::function<void(const FilaAlPaso&)>;
     virtual void recorrer(std::string_view sql, const std::vector<Valor>& parametros,
                           const PorFila& porFila);
     // INSERT, UPDATE, DELETE o DDL; devuelve las filas afectadas.

@@ -18,7 +18,9 @@ bool soloEspacios(const char* texto) {
     return true;
 }
 
-Valor leerColumna(sqlite3_stmt* s, int i) {
+// La columna de la fila en que está parada la sentencia; el texto vale hasta
+// el próximo paso.
+Celda leerCelda(sqlite3_stmt* s, int i) {
     switch (sqlite3_column_type(s, i)) {
         case SQLITE_INTEGER:
             return static_cast<std::int64_t>(sqlite3_column_int64(s, i));
@@ -28,10 +30,37 @@ Valor leerColumna(sqlite3_stmt* s, int i) {
             return Nulo{};
         default: {
             const auto* texto = reinterpret_cast<const char*>(sqlite3_column_text(s, i));
-            return std::string(texto, static_cast<std::size_t>(sqlite3_column_bytes(s, i)));
+            return std::string_view(texto, static_cast<std::size_t>(sqlite3_column_bytes(s, i)));
         }
     }
 }
+
+Valor leerColumna(sqlite3_stmt* s, int i) {
+    return std::visit(
+        [](const auto& c) -> Valor {
+            if constexpr (std::is_same_v<std::decay_t<decltype(c)>, std::string_view>)
+                return std::string(c);
+            else
+                return c;
+        },
+        leerCelda(s, i));
+}
+
+// La fila en que está parada la sentencia, leída en el momento.
+class FilaSqlite final : public FilaAlPaso {
+  public:
+    FilaSqlite(sqlite3_stmt* s, const Fila::Columnas& columnas) : s_(s), columnas_(*columnas) {}
+    const std::vector<std::string>& columnas() const override { return columnas_; }
+    Celda celda(std::size_t posicion) const override {
+        if (posicion >= columnas_.size())
+            throw ErrorBase(kErrorUso, "No existe la columna " + std::to_string(posicion));
+        return leerCelda(s_, static_cast<int>(posicion));
+    }
+
+  private:
+    sqlite3_stmt* s_;
+    const std::vector<std::string>& columnas_;
+};
 
 }  // namespace
 
@@ -65,8 +94,13 @@ ConexionSqlite::ConexionSqlite(std::string ruta) : ruta_(std::move(ruta)) {
 }
 
 ConexionSqlite::~ConexionSqlite() {
-    for (auto& [texto, sentencia] : cache_) sqlite3_finalize(sentencia);
+    olvidarSentencias();
     sqlite3_close(base_);
+}
+
+void ConexionSqlite::olvidarSentencias() {
+    for (auto& [texto, guardada] : cache_) sqlite3_finalize(guardada.sentencia);
+    cache_.clear();
 }
 
 void ConexionSqlite::fallar(int codigo) const {
@@ -85,7 +119,7 @@ void ConexionSqlite::directa(const std::string& sql) {
 }
 
 ConexionSqlite::Preparada ConexionSqlite::preparar(std::string_view sql) {
-    if (auto it = cache_.find(sql); it != cache_.end()) return {it->second, true};
+    if (auto it = cache_.find(sql); it != cache_.end()) return {it->second.sentencia, &it->second};
     std::string texto(sql);
     sqlite3_stmt* sentencia = nullptr;
     const char* resto = nullptr;
@@ -97,17 +131,15 @@ ConexionSqlite::Preparada ConexionSqlite::preparar(std::string_view sql) {
         sqlite3_finalize(sentencia);
         throw ErrorBase(kErrorUso, "Se pasó más de una sentencia en un solo texto");
     }
-    if (!esDeDatos(sql) && !esDeTransaccion(sql)) return {sentencia, false};
-    if (cache_.size() >= kMaxCache) {
-        for (auto& [t, s] : cache_) sqlite3_finalize(s);
-        cache_.clear();
-    }
-    cache_.emplace(std::move(texto), sentencia);
-    return {sentencia, true};
+    if (!esDeDatos(sql) && !esDeTransaccion(sql)) return {sentencia, nullptr};
+    if (cache_.size() >= kMaxCache) olvidarSentencias();
+    auto& guardada =
+        cache_.emplace(std::move(texto), Guardada{sentencia, nullptr, -1}).first->second;
+    return {sentencia, &guardada};
 }
 
 void ConexionSqlite::liberar(Preparada p) {
-    if (p.enCache) {
+    if (p.guardada) {
         sqlite3_reset(p.sentencia);
         sqlite3_clear_bindings(p.sentencia);
     } else {
@@ -141,42 +173,53 @@ void ConexionSqlite::enlazar(sqlite3_stmt* s, const std::vector<Valor>& parametr
 
 Resultado ConexionSqlite::consulta(std::string_view sql, const std::vector<Valor>& parametros) {
     Resultado resultado;
-    leer(sql, parametros, &resultado.columnas,
-         [&](const Fila& f) { resultado.filas.push_back(f); });
+    const auto columnas =
+        leer(sql, parametros, [&](sqlite3_stmt* s, const Fila::Columnas& columnas) {
+            std::vector<Valor> valores;
+            valores.reserve(columnas->size());
+            for (std::size_t i = 0; i < columnas->size(); ++i)
+                valores.push_back(leerColumna(s, static_cast<int>(i)));
+            resultado.filas.emplace_back(columnas, std::move(valores));
+        });
+    resultado.columnas = *columnas;
     return resultado;
 }
 
 void ConexionSqlite::recorrer(std::string_view sql, const std::vector<Valor>& parametros,
                               const PorFila& porFila) {
-    leer(sql, parametros, nullptr, porFila);
+    leer(sql, parametros, [&](sqlite3_stmt* s, const Fila::Columnas& columnas) {
+        porFila(FilaSqlite(s, columnas));
+    });
 }
 
-void ConexionSqlite::leer(std::string_view sql, const std::vector<Valor>& parametros,
-                          std::vector<std::string>* nombres, const PorFila& porFila) {
+Fila::Columnas ConexionSqlite::leer(std::string_view sql, const std::vector<Valor>& parametros,
+                                    const PorPaso& porFila) {
     const auto p = preparar(sql);
     sqlite3_stmt* s = p.sentencia;
+    Fila::Columnas columnas;
     try {
         enlazar(s, parametros);
         // Los nombres se leen después del primer paso: si la tabla cambió,
         // SQLite vuelve a preparar la sentencia en ese paso.
         int codigo = sqlite3_step(s);
-        const int n = sqlite3_column_count(s);
-        auto columnas = std::make_shared<std::vector<std::string>>();
-        for (int i = 0; i < n; ++i) columnas->emplace_back(sqlite3_column_name(s, i));
-        if (nombres) *nombres = *columnas;
-        const Fila::Columnas compartidas = std::move(columnas);
-        for (; codigo == SQLITE_ROW; codigo = sqlite3_step(s)) {
-            std::vector<Valor> valores;
-            valores.reserve(static_cast<std::size_t>(n));
-            for (int i = 0; i < n; ++i) valores.push_back(leerColumna(s, i));
-            porFila(Fila(compartidas, std::move(valores)));
+        const int preparaciones = sqlite3_stmt_status(s, SQLITE_STMTSTATUS_REPREPARE, 0);
+        if (p.guardada && p.guardada->preparaciones == preparaciones) {
+            columnas = p.guardada->columnas;
+        } else {
+            auto nombres = std::make_shared<std::vector<std::string>>();
+            for (int i = 0, n = sqlite3_column_count(s); i < n; ++i)
+                nombres->emplace_back(sqlite3_column_name(s, i));
+            columnas = std::move(nombres);
+            if (p.guardada) *p.guardada = {s, columnas, preparaciones};
         }
+        for (; codigo == SQLITE_ROW; codigo = sqlite3_step(s)) porFila(s, columnas);
         if (codigo != SQLITE_DONE) fallar(codigo);
     } catch (...) {
         liberar(p);
         throw;
     }
     liberar(p);
+    return columnas;
 }
 
 std::int64_t ConexionSqlite::ejecuta(std::string_view sql, const std::vector<Valor>& parametros) {
@@ -194,10 +237,7 @@ std::int64_t ConexionSqlite::ejecuta(std::string_view sql, const std::vector<Val
     }
     liberar(p);
     // Las sentencias guardadas no cambian tablas: sólo otra puede hacerlo.
-    if (!p.enCache && cambiaTablas(sql)) {
-        for (auto& [t, guardada] : cache_) sqlite3_finalize(guardada);
-        cache_.clear();
-    }
+    if (!p.guardada && cambiaTablas(sql)) olvidarSentencias();
     return sqlite3_changes64(base_);
 }
 

@@ -3,6 +3,7 @@
 // conexión se usa desde un hilo a la vez.
 #include <sqlite3.h>
 
+#include <functional>
 #include <string>
 #include <unordered_map>
 
@@ -35,18 +36,29 @@ class ConexionSqlite : public Conexion {
     void deshacer() override;
 
   private:
-    // La sentencia lista para enlazar; enCache si queda guardada para la
-    // próxima vez (las de datos) y no hay que finalizarla.
+    // Una sentencia guardada para la próxima vez (las de datos) con los nombres
+    // de sus columnas, que se leen la primera vez y de nuevo sólo si SQLite la
+    // volvió a preparar porque cambió una tabla.
+    struct Guardada {
+        sqlite3_stmt* sentencia = nullptr;
+        Fila::Columnas columnas;
+        int preparaciones = -1;  // las de SQLITE_STMTSTATUS_REPREPARE al leerlos
+    };
+    // La sentencia lista para enlazar; `guardada` nula si no queda guardada y
+    // hay que finalizarla.
     struct Preparada {
         sqlite3_stmt* sentencia;
-        bool enCache;
+        Guardada* guardada;
     };
     Preparada preparar(std::string_view sql);
     void liberar(Preparada p);
     void enlazar(sqlite3_stmt* sentencia, const std::vector<Valor>& parametros);
-    // La consulta fila por fila; con `nombres`, también los de las columnas.
-    void leer(std::string_view sql, const std::vector<Valor>& parametros,
-              std::vector<std::string>* nombres, const PorFila& porFila);
+    // La consulta fila por fila: `porFila` recibe la sentencia parada en cada
+    // fila y los nombres de las columnas, que se devuelven.
+    using PorPaso = std::function<void(sqlite3_stmt*, const Fila::Columnas&)>;
+    Fila::Columnas leer(std::string_view sql, const std::vector<Valor>& parametros,
+                        const PorPaso& porFila);
+    void olvidarSentencias();
     [[noreturn]] void fallar(int codigo) const;
     void directa(const std::string& sql);
 
@@ -54,7 +66,7 @@ class ConexionSqlite : public Conexion {
     sqlite3* base_ = nullptr;
     // Las sentencias preparadas, por su texto: una liquidación repite las
     // mismas miles de veces.
-    MapaPorTexto<sqlite3_stmt*> cache_;
+    MapaPorTexto<Guardada> cache_;
     int profundidad_ = 0;
 };
 

@@ -129,6 +129,23 @@ TEST_P(Datos, FechasVaciasDineroYNumerosVuelvenComoSeEscribieron) {
                            {std::string("2024-03-01"), std::string("2024-03-31")})
                   .filas.size(),
               2u);
+    // Fila por fila (sin copiar la fila), lo mismo que la consulta entera:
+    // Null, números y textos con las mismas conversiones.
+    const std::string todas = "SELECT fecha, codigo, total, concepto, cant, lic FROM habydesc";
+    const auto entera = c().consulta(todas);
+    std::size_t i = 0;
+    c().recorrer(todas, {}, [&](const FilaAlPaso& f) {
+        ASSERT_LT(i, entera.filas.size());
+        const auto& e = entera.filas[i++];
+        for (std::size_t k = 0; k < e.tamano(); ++k) {
+            EXPECT_EQ(f.texto(k), e.texto(k));
+            EXPECT_EQ(f.entero(k), e.entero(k));
+            EXPECT_EQ(f.real(k), e.real(k));
+        }
+        EXPECT_EQ(f.texto("TOTAL"), e.texto("total"));
+    });
+    EXPECT_EQ(i, 2u);
+
     // total = total + ?: el motor suma sobre el dinero guardado.
     c().ejecuta("UPDATE habydesc SET total = total + ? WHERE codigo = ?",
                 {0.0099, std::int64_t{1}});
