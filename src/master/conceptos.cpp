@@ -2,6 +2,7 @@
 
 #include "common/formato.h"
 #include "store/like.h"
+#include "store/recordada.h"
 
 namespace nomira::master {
 
@@ -43,11 +44,20 @@ std::vector<Concepto> leerConceptos(const store::Resultado& r) {
     return lista;
 }
 
-std::optional<Concepto> leerConcepto(store::Conexion& base, long codigo) {
-    const auto r =
-        base.consulta("SELECT * FROM conceptos WHERE codigo = ?", {std::int64_t{codigo}});
+namespace {
+
+std::optional<Concepto> primerConcepto(const store::Resultado& r) {
     if (r.vacio()) return std::nullopt;
     return leerRegistro(r.primera(), camposConcepto());
+}
+
+}  // namespace
+
+std::optional<Concepto> leerConcepto(store::Conexion& base, long codigo) {
+    // La corrida de los descuentos pide los mismos en cada persona: se
+    // convierten una vez.
+    return *store::consultaConvertida(base, "SELECT * FROM conceptos WHERE codigo = ?",
+                                      {std::int64_t{codigo}}, primerConcepto);
 }
 
 std::vector<Concepto> listarConceptos(store::Conexion& base) {

@@ -125,24 +125,14 @@ std::int64_t ConexionRecordada::ejecuta(std::string_view sql,
 }
 
 const ConexionRecordada::Sentencia& ConexionRecordada::sentenciaDe(std::string_view sql) {
-    // Casi todas las sentencias son literales que vuelven desde la misma
-    // dirección: comparar el texto allí es más barato que calcularle el hash.
-    if (const auto d = porDireccion_.find(sql.data());
-        d != porDireccion_.end() && d->second->first == sql)
-        return d->second->second;
-    auto it = sentencias_.find(sql);
-    if (it == sentencias_.end()) {
-        const auto id = static_cast<std::uint32_t>(sentencias_.size());
-        Sentencia nueva{id, {}};
-        for (const auto& t : tablasDeLaSentencia(sql)) {
-            auto [i, nuevaTabla] = indiceDeTabla_.try_emplace(t, generaciones_.size());
-            if (nuevaTabla) generaciones_.push_back(0);
-            nueva.tablas.push_back(i->second);
-        }
-        it = sentencias_.emplace(std::string(sql), std::move(nueva)).first;
+    if (const auto* s = sentencias_.buscar(sql)) return *s;
+    Sentencia nueva{static_cast<std::uint32_t>(sentencias_.size()), {}};
+    for (const auto& t : tablasDeLaSentencia(sql)) {
+        auto [i, nuevaTabla] = indiceDeTabla_.try_emplace(t, generaciones_.size());
+        if (nuevaTabla) generaciones_.push_back(0);
+        nueva.tablas.push_back(i->second);
     }
-    porDireccion_[sql.data()] = &*it;
-    return it->second;
+    return sentencias_.agregar(sql, std::move(nueva));
 }
 
 std::int64_t ConexionRecordada::ejecutaConCambio(std::string_view sql,

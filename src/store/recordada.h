@@ -20,6 +20,7 @@
 #include <vector>
 
 #include "store/conexion.h"
+#include "store/por_sentencia.h"
 
 namespace nomira::store {
 
@@ -118,9 +119,7 @@ class ConexionRecordada : public Conexion {
     std::vector<std::uint64_t> generaciones_;
     MapaPorTexto<std::size_t> indiceDeTabla_;
     std::string clave_;
-    MapaPorTexto<Sentencia> sentencias_;
-    // La última sentencia vista en cada dirección de texto.
-    std::unordered_map<const char*, const MapaPorTexto<Sentencia>::value_type*> porDireccion_;
+    PorSentencia<Sentencia> sentencias_;
     std::uint64_t general_ = 0, turno_ = 0;
     std::size_t recordadas_ = 0, leidas_ = 0;
 };

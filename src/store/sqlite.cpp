@@ -119,7 +119,7 @@ void ConexionSqlite::directa(const std::string& sql) {
 }
 
 ConexionSqlite::Preparada ConexionSqlite::preparar(std::string_view sql) {
-    if (auto it = cache_.find(sql); it != cache_.end()) return {it->second.sentencia, &it->second};
+    if (auto* g = cache_.buscar(sql)) return {g->sentencia, g};
     std::string texto(sql);
     sqlite3_stmt* sentencia = nullptr;
     const char* resto = nullptr;
@@ -133,8 +133,7 @@ ConexionSqlite::Preparada ConexionSqlite::preparar(std::string_view sql) {
     }
     if (!esDeDatos(sql) && !esDeTransaccion(sql)) return {sentencia, nullptr};
     if (cache_.size() >= kMaxCache) olvidarSentencias();
-    auto& guardada =
-        cache_.emplace(std::move(texto), Guardada{sentencia, nullptr, -1}).first->second;
+    auto& guardada = cache_.agregar(sql, Guardada{sentencia, nullptr, -1});
     return {sentencia, &guardada};
 }
 

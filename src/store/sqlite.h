@@ -8,6 +8,7 @@
 #include <unordered_map>
 
 #include "store/conexion.h"
+#include "store/por_sentencia.h"
 
 namespace nomira::store {
 
@@ -66,7 +67,7 @@ class ConexionSqlite : public Conexion {
     sqlite3* base_ = nullptr;
     // Las sentencias preparadas, por su texto: una liquidación repite las
     // mismas miles de veces.
-    MapaPorTexto<Guardada> cache_;
+    PorSentencia<Guardada> cache_;
     int profundidad_ = 0;
 };
 
