@@ -10,16 +10,21 @@
 
 namespace nomira::common {
 
-Decimal descomponer(double x) {
+std::optional<std::int64_t> diezmilesimos(double x) {
     // Si x * 10000 da exactamente un entero r de menos de 15 cifras, x está a
     // menos de 1,2e-16 |x| de r / 10000, que es un número de 15 cifras; la
     // separación entre números de 15 cifras cerca de x es de al menos
     // 1e-15 |x|, así que r / 10000 es la forma de 15 cifras de x.
-    const double y = x * 10000.0;
-    if (std::fabs(y) < 1e15 && y == std::trunc(y) && x != 0) {
+    const double y = std::fabs(x * 10000.0);
+    if (y < 1e15 && y == std::trunc(y)) return static_cast<std::int64_t>(y);
+    return std::nullopt;
+}
+
+Decimal descomponer(double x) {
+    if (const auto r = diezmilesimos(x); r && x != 0) {
         Decimal d;
-        d.negativo = y < 0;
-        d.cifras = std::to_string(static_cast<std::int64_t>(std::fabs(y)));
+        d.negativo = x < 0;
+        d.cifras = std::to_string(*r);
         d.enteras = static_cast<int>(d.cifras.size()) - 4;
         while (d.cifras.back() == '0') d.cifras.pop_back();
         return d;

@@ -3,6 +3,8 @@
 // números del sistema. Todo redondeo de dinero, de Round y de los formatos se
 // hace sobre esta forma y no sobre el valor binario: así 1.005 es "1.005" y no
 // 1.00499999999999989..., y el resultado coincide con lo que el usuario ve.
+#include <cstdint>
+#include <optional>
 #include <string>
 
 namespace nomira::common {
@@ -14,6 +16,11 @@ struct Decimal {
 };
 
 enum class Redondeo { MitadAlPar, MitadLejosDelCero };
+
+// |x| * 10000 cuando es un entero exacto de menos de 15 cifras (los importes
+// de hasta cuatro decimales): entonces la forma de 15 cifras de x es ese entero
+// con cuatro decimales. Vacío si no.
+std::optional<std::int64_t> diezmilesimos(double x);
 
 // Lanza Fallo(6, "Desbordamiento") para infinitos y NaN.
 Decimal descomponer(double x);

@@ -43,9 +43,20 @@ std::string agrupar(const std::string& enteras) {
 
 std::string formatear(double x, std::string_view patron) {
     const Patron p = leerPatron(patron);
-    const Decimal d = descomponer(x);
-    std::string cifras = escalarRedondeando(d, p.decimales, Redondeo::MitadLejosDelCero);
-    const bool negativo = d.negativo && cifras != "0";
+    std::string cifras;
+    bool negativo;
+    if (const auto r = diezmilesimos(x); r && p.decimales <= 4) {
+        // El atajo de los importes: el mismo redondeo, en enteros.
+        std::int64_t escala = 1;
+        for (int i = p.decimales; i < 4; ++i) escala *= 10;
+        const auto redondeado = *r / escala + (*r % escala * 2 >= escala ? 1 : 0);
+        cifras = std::to_string(redondeado);
+        negativo = x < 0 && redondeado != 0;
+    } else {
+        const Decimal d = descomponer(x);
+        cifras = escalarRedondeando(d, p.decimales, Redondeo::MitadLejosDelCero);
+        negativo = d.negativo && cifras != "0";
+    }
 
     // Con decimales hacen falta al menos decimales + 1 cifras para separar.
     const std::size_t dec = static_cast<std::size_t>(p.decimales);

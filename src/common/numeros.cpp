@@ -8,6 +8,9 @@
 namespace nomira::common {
 
 std::string numeroATexto(double x) {
+    // Un entero (casi todas las variables de las fórmulas) son sus cifras.
+    if (const auto r = diezmilesimos(x); r && *r % 10000 == 0)
+        return std::to_string(x < 0 ? -(*r / 10000) : *r / 10000);
     const Decimal d = descomponer(x);
     if (d.cifras.empty()) return "0";
     const int largo = static_cast<int>(d.cifras.size());

@@ -19,6 +19,8 @@ TEST(NumeroATexto, ComoLoEscribenLasFormulas) {
     EXPECT_EQ(numeroATexto(2.0 / 3), "0.666666666666667");
     EXPECT_EQ(numeroATexto(-1.0 / 3), "-0.333333333333333");
     EXPECT_EQ(numeroATexto(123456789012345), "123456789012345");
+    EXPECT_EQ(numeroATexto(-70000), "-70000");
+    EXPECT_EQ(numeroATexto(99999999999.9999), "99999999999.9999");
     EXPECT_EQ(numeroATexto(0.0001), "0.0001");
     EXPECT_EQ(numeroATexto(0.00012), "0.00012");
 }
@@ -75,6 +77,12 @@ TEST(Formatear, ConAgrupacionYDosDecimales) {
     EXPECT_EQ(formatear(1.005, "##,##0.00"), "1.01");
     EXPECT_EQ(formatear(-1.005, "##,##0.00"), "-1.01");
     EXPECT_EQ(formatear(0.125, "#0.00"), "0.13");
+    // En el borde de los importes de cuatro decimales y por debajo del centavo.
+    EXPECT_EQ(formatear(99999999999.9951, "##,##0.00"), "100,000,000,000.00");
+    EXPECT_EQ(formatear(99999999999.9949, "##,##0.00"), "99,999,999,999.99");
+    EXPECT_EQ(formatear(-0.005, "##,##0.00"), "-0.01");
+    EXPECT_EQ(formatear(0.0049, "##,##0.00"), "0.00");
+    EXPECT_EQ(formatear(0.00005, "0.0000"), "0.0001");
 }
 
 TEST(Formatear, SinAgrupacion) {
