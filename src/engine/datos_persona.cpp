@@ -1,5 +1,7 @@
 #include "engine/datos_persona.h"
 
+#include <array>
+
 #include "common/edad.h"
 #include "common/numeros.h"
 #include "common/texto.h"
@@ -17,9 +19,16 @@ bool enBlanco(const std::string& s) {
 // categoriadeducciones: nombre Like '*código' y nombre2 Like '*categoría'; el
 // código es lo anterior al guion de nombre2.
 std::string codigoCategoria(store::Conexion& base, const std::string& ded, const std::string& cat) {
-    const auto r = base.consulta("SELECT nombre2 FROM categoriadeducciones WHERE " +
-                                     store::condicionLike(base, "nombre") + " AND " +
-                                     store::condicionLike(base, "nombre2") + " LIMIT 1",
+    // Armado una vez por motor: la corrida lo pide tres veces por persona.
+    static const auto sql = [] {
+        std::array<std::string, 2> s;
+        for (const auto m : {store::Motor::Sqlite, store::Motor::Postgres})
+            s[static_cast<std::size_t>(m)] = "SELECT nombre2 FROM categoriadeducciones WHERE " +
+                                             store::condicionLike(m, "nombre") + " AND " +
+                                             store::condicionLike(m, "nombre2") + " LIMIT 1";
+        return s;
+    }();
+    const auto r = base.consulta(sql[static_cast<std::size_t>(base.motor())],
                                  {store::patronLike(common::patronCatalogo(ded)),
                                   store::patronLike(common::patronCatalogo(cat))});
     const std::string c = r.vacio() ? "" : common::codigoDeCatalogo(r.primera().texto("nombre2"));

@@ -37,10 +37,15 @@ constexpr std::array<std::string_view, 24> kReferencia = {"tipocontrib",
                                                           "categoriadeducciones",
                                                           "deptocaja"};
 
-const store::Tabla& tablaDeReferencia(std::string_view tabla) {
-    if (std::find(kReferencia.begin(), kReferencia.end(), tabla) == kReferencia.end())
+std::size_t indiceDeReferencia(std::string_view tabla) {
+    const auto i = std::find(kReferencia.begin(), kReferencia.end(), tabla);
+    if (i == kReferencia.end())
         throw common::Fallo(5, "No es una tabla de referencia: " + std::string(tabla));
-    return store::tabla(tabla);
+    return static_cast<std::size_t>(i - kReferencia.begin());
+}
+
+const store::Tabla& tablaDeReferencia(std::string_view tabla) {
+    return store::tabla(kReferencia[indiceDeReferencia(tabla)]);
 }
 
 // Los nombres de columna también entran al SQL: sólo los de la tabla.
@@ -63,21 +68,41 @@ std::string condicionesIguales(const store::Tabla& t,
 
 }  // namespace
 
+std::string ordenDeCarga(store::Motor motor) {
+    return motor == store::Motor::Sqlite ? " ORDER BY rowid" : " ORDER BY ctid";
+}
+
 std::string ordenDeCarga(const store::Conexion& base) {
-    return base.motor() == store::Motor::Sqlite ? " ORDER BY rowid" : " ORDER BY ctid";
+    return ordenDeCarga(base.motor());
 }
 
 bool esTablaDeReferencia(std::string_view tabla) {
     return std::find(kReferencia.begin(), kReferencia.end(), tabla) != kReferencia.end();
 }
 
+namespace {
+
+// El SELECT de codigoEnCatalogo de cada tabla de referencia y motor, armado una
+// vez: la corrida de una empresa lo pide en cada persona.
+const std::string& sqlCodigoEnCatalogo(store::Motor motor, std::string_view tabla) {
+    static const auto sql = [] {
+        std::array<std::array<std::string, 2>, kReferencia.size()> s;
+        for (std::size_t i = 0; i < kReferencia.size(); ++i)
+            for (const auto m : {store::Motor::Sqlite, store::Motor::Postgres})
+                s[i][static_cast<std::size_t>(m)] =
+                    "SELECT nombre FROM " + tablaDeReferencia(kReferencia[i]).nombre + " WHERE " +
+                    store::condicionLike(m, "nombre") + ordenDeCarga(m) + " LIMIT 1";
+        return s;
+    }();
+    return sql[indiceDeReferencia(tabla)][static_cast<std::size_t>(motor)];
+}
+
+}  // namespace
+
 std::string codigoEnCatalogo(store::Conexion& base, std::string_view tabla,
                              std::string_view texto) {
-    const auto& t = tablaDeReferencia(tabla);
-    const auto r =
-        base.consulta("SELECT nombre FROM " + t.nombre + " WHERE " +
-                          store::condicionLike(base, "nombre") + ordenDeCarga(base) + " LIMIT 1",
-                      {store::patronLike(common::patronCatalogo(texto))});
+    const auto r = base.consulta(sqlCodigoEnCatalogo(base.motor(), tabla),
+                                 {store::patronLike(common::patronCatalogo(texto))});
     return r.vacio() ? std::string() : common::codigoDeCatalogo(r.primera().texto("nombre"));
 }
 

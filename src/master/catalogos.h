@@ -22,6 +22,7 @@ std::string codigoEnCatalogo(store::Conexion& base, std::string_view tabla, std:
 
 // " ORDER BY ..." del orden en que se cargaron las filas: SELECT * sin orden
 // las devuelve así en los dos motores, pero sólo pidiéndolo queda asegurado.
+std::string ordenDeCarga(store::Motor motor);
 std::string ordenDeCarga(const store::Conexion& base);
 
 // Filtro de una lista dependiente: (columna, texto). Los registros guardan el

@@ -2,12 +2,20 @@
 
 namespace nomira::store {
 
+std::string like(Motor m) {
+    return m == Motor::Postgres ? "ILIKE" : "LIKE";
+}
+
 std::string like(const Conexion& c) {
-    return c.motor() == Motor::Postgres ? "ILIKE" : "LIKE";
+    return like(c.motor());
+}
+
+std::string condicionLike(Motor m, std::string_view columna) {
+    return std::string(columna) + " " + like(m) + " ? ESCAPE '\\'";
 }
 
 std::string condicionLike(const Conexion& c, std::string_view columna) {
-    return std::string(columna) + " " + like(c) + " ? ESCAPE '\\'";
+    return condicionLike(c.motor(), columna);
 }
 
 std::string patronLike(std::string_view patron) {

@@ -17,9 +17,11 @@
 namespace nomira::store {
 
 // "LIKE" o "ILIKE", para quien arme la condición a mano (con ESCAPE '\').
+std::string like(Motor m);
 std::string like(const Conexion& c);
 
 // "<columna> LIKE ? ESCAPE '\'" o su equivalente en PostgreSQL.
+std::string condicionLike(Motor m, std::string_view columna);
 std::string condicionLike(const Conexion& c, std::string_view columna);
 
 std::string patronLike(std::string_view patronConAsterisco);
