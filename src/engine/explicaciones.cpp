@@ -5,6 +5,8 @@
 #include <map>
 #include <set>
 
+#include "store/recordada.h"
+
 namespace nomira::engine {
 
 namespace {
@@ -94,6 +96,23 @@ constexpr const char* kInsertar =
 constexpr const char* kCambiarTipo =
     "UPDATE explicacionesmes SET texto = ? WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
     "tabla = ? AND tipo = ?";
+// Quiénes de la empresa tienen explicaciones de un tipo en el mes: la corrida
+// de una empresa lo lee una vez y lo lleva al día al escribir, así no busca las
+// de cada persona, que casi nunca hay.
+constexpr const char* kConExplicaciones =
+    "SELECT nombre FROM explicacionesmes WHERE empresa = ? AND fecha = ? AND tabla = ? AND "
+    "tipo = ?";
+
+using Nombres = std::set<std::string>;
+
+void agregarNombre(Nombres& n, const store::FilaAlPaso& f) {
+    n.insert(f.texto(0));
+}
+
+// k: empresa, nombre, fecha, tabla y tipo; lo mismo sin el nombre.
+std::vector<store::Valor> deLaEmpresa(const std::vector<store::Valor>& k) {
+    return {k[0], k[2], k[3], k[4]};
+}
 
 // Todas las de la persona en el mes, las sin tipo primero: las de tipo
 // reemplazan a las que una base anterior guardó sin él.
@@ -104,26 +123,53 @@ PorCodigo leer(store::Conexion& base, const std::vector<store::Valor>& k) {
     return m;
 }
 
-// k: la clave y el tipo. Sin texto, la fila se va.
-void escribir(store::Conexion& base, std::vector<store::Valor> k, const std::string& texto,
-              bool habia) {
-    if (habia && texto.empty()) {
-        base.ejecuta(kBorrarTipo, k);
+// Por una conexión que recuerda, la escritura lleva al día quiénes tienen
+// explicaciones (si ya se leyó) en lugar de hacerlo olvidar.
+void ejecutar(store::Conexion& base, const char* sql, const std::vector<store::Valor>& p,
+              const std::vector<store::Valor>& k, bool queda) {
+    auto* recordada = dynamic_cast<store::ConexionRecordada*>(&base);
+    if (!recordada) {
+        base.ejecuta(sql, p);
         return;
     }
-    if (habia) {
-        k.insert(k.begin(), texto);
-        base.ejecuta(kCambiarTipo, k);
-    } else if (!texto.empty()) {
-        k.push_back(texto);
-        base.ejecuta(kInsertar, k);
+    recordada->ejecutaConCambio(sql, p, kConExplicaciones, deLaEmpresa(k),
+                                [&](std::any& convertida, std::int64_t) {
+                                    auto* nombres = store::paraCambiar<Nombres>(convertida);
+                                    const auto& nombre = std::get<std::string>(k[1]);
+                                    if (nombres && queda) nombres->insert(nombre);
+                                    if (nombres && !queda) nombres->erase(nombre);
+                                });
+}
+
+// k: la clave y el tipo. Sin texto, la fila se va.
+void escribir(store::Conexion& base, const std::vector<store::Valor>& k, const std::string& texto,
+              bool habia) {
+    if (habia && texto.empty()) {
+        ejecutar(base, kBorrarTipo, k, k, false);
+        return;
     }
+    auto p = k;
+    if (habia) {
+        p.insert(p.begin(), texto);
+        ejecutar(base, kCambiarTipo, p, k, true);
+    } else if (!texto.empty()) {
+        p.push_back(texto);
+        ejecutar(base, kInsertar, p, k, true);
+    }
+}
+
+// Si la persona puede tener guardadas de ese tipo: en la corrida de una
+// empresa se sabe sin leerlas.
+bool puedeTener(store::Conexion& base, const std::vector<store::Valor>& k) {
+    auto* recordada = dynamic_cast<store::ConexionRecordada*>(&base);
+    return !recordada || recordada->convertida(kConExplicaciones, deLaEmpresa(k), agregarNombre)
+                             ->count(std::get<std::string>(k[1]));
 }
 
 // Las guardadas de ese tipo con las nuevas, por código; un código escrito otra
 // vez queda con la última.
-void juntar(store::Conexion& base, std::vector<store::Valor> k, const std::string& nuevas) {
-    const auto r = base.consulta(kLeerTipo, k);
+void juntar(store::Conexion& base, const std::vector<store::Valor>& k, const std::string& nuevas) {
+    const auto r = puedeTener(base, k) ? base.consulta(kLeerTipo, k) : store::Resultado{};
     std::string guardadas;
     for (const auto& f : r.filas) {
         if (!guardadas.empty()) guardadas += kRegistro;
@@ -139,7 +185,7 @@ void juntar(store::Conexion& base, std::vector<store::Valor> k, const std::strin
         juntas.push_back(a);
     }
     juntas.insert(juntas.end(), v, viejas.end());
-    escribir(base, std::move(k), armar(juntas), !r.vacio());
+    escribir(base, k, armar(juntas), !r.vacio());
 }
 
 // Deja en `m` sólo las de los códigos que siguen teniendo fila.
@@ -161,7 +207,7 @@ void guardarExplicaciones(store::Conexion& base, TablaLiquidacion tabla, const s
     for (const auto& [tipo, nuevas] : nuevasPorTipo) {
         auto k = clave(tabla, empresa, nombre, mes);
         k.emplace_back(tipo);
-        juntar(base, std::move(k), nuevas);
+        juntar(base, k, nuevas);
     }
 }
 
@@ -210,7 +256,7 @@ void podarExplicaciones(store::Conexion& base, TablaLiquidacion tabla, const std
         if (!podar(m, codigos[persona])) continue;
         auto k = clave(tabla, empresa, persona, mes);
         k.emplace_back(f.texto(std::size_t{1}));
-        escribir(base, std::move(k), armar(m), true);
+        escribir(base, k, armar(m), true);
     }
 }
 

@@ -69,30 +69,29 @@ const std::string& sqlFilas(TablaLiquidacion tabla) {
 // Por posición, la de la lista del SELECT. aguinaldos: concepto, tipo, total;
 // las otras: codigo, concepto, tipo, gravado, ipd, total, cant.
 template <bool agui>
-std::vector<FilaMes> filasDe(const store::Resultado& r) {
+void agregarFila(std::vector<FilaMes>& filas, const store::FilaAlPaso& f) {
     const std::size_t c = agui ? 0 : 1;
-    std::vector<FilaMes> filas;
-    filas.reserve(r.filas.size());
-    for (const auto& f : r.filas) {
-        FilaMes m;
-        if (!agui) {
-            m.codigo = static_cast<long>(f.entero(std::size_t{0}));
-            m.gravado = f.texto(std::size_t{3});
-            m.ipd = f.texto(std::size_t{4});
-            m.cant = f.real(std::size_t{6});
-        }
-        m.concepto = f.texto(c);
-        m.tipo = f.texto(c + 1);
-        m.total = common::Dinero::desdeDouble(f.real(agui ? std::size_t{2} : std::size_t{5}));
+    FilaMes m;
+    if (!agui) {
+        m.codigo = static_cast<long>(f.entero(0));
+        m.gravado = f.texto(3);
+        m.ipd = f.texto(4);
+        m.cant = f.real(6);
+    }
+    m.concepto = f.texto(c);
+    m.tipo = f.texto(c + 1);
+    m.total = common::Dinero::desdeDouble(f.real(agui ? 2 : 5));
+    if (agui) {
         filas.push_back(std::move(m));
+        return;
     }
     // Por código y, en un mismo código, en el orden leído: el mismo que daría
     // un ORDER BY codigo sobre el índice, sin la tabla temporal de la base.
-    // Casi siempre ya lo están: se dieron de alta por código.
-    const auto porCodigo = [](const FilaMes& a, const FilaMes& b) { return a.codigo < b.codigo; };
-    if (!agui && !std::is_sorted(filas.begin(), filas.end(), porCodigo))
-        std::stable_sort(filas.begin(), filas.end(), porCodigo);
-    return filas;
+    // Casi siempre llegan así (se dieron de alta por código) y van al final.
+    const auto pos =
+        std::upper_bound(filas.begin(), filas.end(), m.codigo,
+                         [](long codigo, const FilaMes& x) { return codigo < x.codigo; });
+    filas.insert(pos, std::move(m));
 }
 
 }  // namespace
@@ -103,18 +102,14 @@ FilasLeidas leerFilas(store::Conexion& base, TablaLiquidacion tabla, const std::
     // En una corrida se leen muchas veces por persona: se convierten una vez.
     return FilasLeidas(store::consultaConvertida(
         base, sqlFilas(tabla), claves(empresa, nombre, desde, hasta),
-        tabla == TablaLiquidacion::Aguinaldos ? filasDe<true> : filasDe<false>));
+        tabla == TablaLiquidacion::Aguinaldos ? agregarFila<true> : agregarFila<false>));
 }
 
 namespace {
 
-std::vector<FilaSalVac> filasSalVac(const store::Resultado& r) {
-    std::vector<FilaSalVac> filas;
-    filas.reserve(r.filas.size());
-    for (const auto& f : r.filas)
-        filas.push_back({static_cast<long>(f.entero(std::size_t{0})), f.texto(std::size_t{1}),
-                         common::Dinero::desdeDouble(f.real(std::size_t{2}))});
-    return filas;
+void agregarSalVac(std::vector<FilaSalVac>& filas, const store::FilaAlPaso& f) {
+    filas.push_back(
+        {static_cast<long>(f.entero(0)), f.texto(1), common::Dinero::desdeDouble(f.real(2))});
 }
 
 }  // namespace
@@ -126,7 +121,7 @@ FilasCompartidas<FilaSalVac> leerSalvacacional(store::Conexion& base, const std:
         base,
         "SELECT codigo, concepto, total FROM salvacacional WHERE empresa = ? AND nombre = ? AND "
         "fecha >= ? AND fecha <= ?",
-        claves(empresa, nombre, desde, hasta), filasSalVac));
+        claves(empresa, nombre, desde, hasta), agregarSalVac));
 }
 
 bool hayEgresos(store::Conexion& base, const std::string& empresa, const std::string& nombre,
@@ -140,24 +135,11 @@ bool hayEgresos(store::Conexion& base, const std::string& empresa, const std::st
 
 namespace {
 
-// Las filas del mes ya convertidas, para cambiarlas: en su lugar si nadie más
-// las tiene y si no una copia, que cuesta menos que volver a leerlas. Nulo (y
-// se olvidan) si lo convertido no son filas del mes.
-std::vector<FilaMes>* filasParaCambiar(std::any& convertida) {
-    auto* filas = std::any_cast<std::shared_ptr<std::vector<FilaMes>>>(&convertida);
-    if (!filas) {
-        convertida.reset();
-        return nullptr;
-    }
-    if (filas->use_count() > 1) *filas = std::make_shared<std::vector<FilaMes>>(**filas);
-    return filas->get();
-}
-
 // Lo que una escritura de la fila `f` les hace: cambia concepto, total y cant
 // de las de su código, o la agrega donde la pondría filasDe (después de las de
 // código menor o igual).
 void actualizarConvertidas(std::any& convertida, const FilaGenerada& f, bool insertada) {
-    auto* filas = filasParaCambiar(convertida);
+    auto* filas = store::paraCambiar<std::vector<FilaMes>>(convertida);
     if (!filas) return;
     const auto total = common::Dinero::desdeDouble(f.total.aDouble());
     if (insertada) {
@@ -177,7 +159,7 @@ void actualizarConvertidas(std::any& convertida, const FilaGenerada& f, bool ins
 
 // Lo que les hace borrar las del tipo.
 void quitarConvertidas(std::any& convertida, const std::string& tipo) {
-    if (auto* filas = filasParaCambiar(convertida))
+    if (auto* filas = store::paraCambiar<std::vector<FilaMes>>(convertida))
         std::erase_if(*filas, [&](const FilaMes& f) { return f.tipo == tipo; });
 }
 

@@ -65,13 +65,10 @@ void escribirDiasNoTrabajados(store::Conexion& base, const MesPersona& mp, doubl
     r.filas.push_back(std::move(fl));
 }
 
-// Un código repetido en conceptos cuenta una vez: el primero.
-std::vector<master::Concepto> conceptosSinRepetir(const store::Resultado& r) {
-    auto lista = master::leerConceptos(r);
-    lista.erase(std::unique(lista.begin(), lista.end(),
-                            [](const auto& a, const auto& b) { return a.codigo == b.codigo; }),
-                lista.end());
-    return lista;
+// Un código repetido en conceptos cuenta una vez: el primero (llegan por código).
+void agregarSinRepetir(std::vector<master::Concepto>& lista, const store::FilaAlPaso& f) {
+    auto c = master::leerRegistro(f, master::camposConcepto());
+    if (lista.empty() || lista.back().codigo != c.codigo) lista.push_back(std::move(c));
 }
 
 }  // namespace
@@ -92,7 +89,7 @@ std::shared_ptr<const std::vector<master::Concepto>> conceptosPermanentes(store:
         base,
         "SELECT * FROM conceptos WHERE (especificode = ? OR especificode = 'G') AND tipo = 'Hab' "
         "AND permanente = 'Si' ORDER BY codigo",
-        {mp.tiposueldo}, conceptosSinRepetir);
+        {mp.tiposueldo}, agregarSinRepetir);
     const auto propios = master::leerConceptos(base.consulta(
         "SELECT conceptos.* FROM conceptos JOIN concpermxpers ON conceptos.codigo = "
         "concpermxpers.codigo WHERE concpermxpers.empresa = ? AND concpermxpers.nombre = ? AND "

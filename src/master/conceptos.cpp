@@ -46,9 +46,8 @@ std::vector<Concepto> leerConceptos(const store::Resultado& r) {
 
 namespace {
 
-std::optional<Concepto> primerConcepto(const store::Resultado& r) {
-    if (r.vacio()) return std::nullopt;
-    return leerRegistro(r.primera(), camposConcepto());
+void primerConcepto(std::optional<Concepto>& c, const store::FilaAlPaso& f) {
+    if (!c) c = leerRegistro(f, camposConcepto());
 }
 
 }  // namespace

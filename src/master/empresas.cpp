@@ -55,9 +55,8 @@ const Campos<Empresa>& camposEmpresa() {
 
 namespace {
 
-std::optional<Empresa> primeraEmpresa(const store::Resultado& r) {
-    if (r.vacio()) return std::nullopt;
-    return leerRegistro(r.primera(), camposEmpresa());
+void primeraEmpresa(std::optional<Empresa>& e, const store::FilaAlPaso& f) {
+    if (!e) e = leerRegistro(f, camposEmpresa());
 }
 
 }  // namespace

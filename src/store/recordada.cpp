@@ -80,22 +80,6 @@ Resultado ConexionRecordada::consulta(std::string_view sql, const std::vector<Va
     return r;
 }
 
-ConexionRecordada::Recuerdo& ConexionRecordada::recordar(std::string_view sql,
-                                                         const std::vector<Valor>& parametros) {
-    if (auto* r = vigenteDe(clave(sql, parametros))) {
-        ++recordadas_;
-        return *r;
-    }
-    return releer(sql, parametros);
-}
-
-ConexionRecordada::Recuerdo& ConexionRecordada::releer(std::string_view sql,
-                                                       const std::vector<Valor>& parametros) {
-    ++leidas_;
-    auto leido = base_.consulta(sql, parametros);
-    return guardar(std::string(clave(sql, parametros)), sql, std::move(leido));
-}
-
 ConexionRecordada::Recuerdo* ConexionRecordada::vigenteDe(std::string_view clave) {
     const auto it = memoria_.find(clave);
     if (it == memoria_.end() || !vigente(it->second)) return nullptr;

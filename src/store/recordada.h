@@ -52,18 +52,24 @@ class ConexionRecordada : public Conexion {
                                   const Cambio& cambio);
 
     // Lo recordado de una consulta ya convertido por quien la lee (las filas del
-    // mes como las usan los cálculos): se convierte una vez por lectura, se
-    // comparte sin copiarse y se olvida con ella o cuando una escritura la cambia.
-    // Se guarda como std::shared_ptr<T>: un Cambio puede llevarla al día en su
-    // lugar cuando nadie más la tiene (use_count() == 1).
+    // mes como las usan los cálculos): se convierte fila por fila al leerla, sin
+    // guardar lo crudo, se comparte sin copiarse y se olvida con ella o cuando una
+    // escritura la cambia. Se guarda como std::shared_ptr<T>: un Cambio puede
+    // llevarla al día en su lugar cuando nadie más la tiene (use_count() == 1).
     template <class T>
     std::shared_ptr<const T> convertida(std::string_view sql, const std::vector<Valor>& parametros,
-                                        T (*convertir)(const Resultado&)) {
-        auto* r = &recordar(sql, parametros);
-        using Compartida = std::shared_ptr<T>;
-        if (const auto* t = std::any_cast<Compartida>(&r->convertida)) return *t;
-        if (!r->crudo) r = &releer(sql, parametros);
-        return r->convertida.emplace<Compartida>(std::make_shared<T>(convertir(r->resultado)));
+                                        void (*agregar)(T&, const FilaAlPaso&)) {
+        if (auto t = convertidaRecordada<T>(sql, parametros)) {
+            ++recordadas_;
+            return t;
+        }
+        ++leidas_;
+        auto t = std::make_shared<T>();
+        base_.recorrer(sql, parametros, [&](const FilaAlPaso& f) { agregar(*t, f); });
+        auto& r = guardar(std::string(clave(sql, parametros)), sql, {});
+        r.crudo = false;
+        r.convertida = t;
+        return t;
     }
 
     // Lo convertido como T de esa consulta, vigente, sin ir a la base; nulo si
@@ -97,10 +103,6 @@ class ConexionRecordada : public Conexion {
         std::any convertida;  // vacía hasta que alguien la pide
         bool crudo = true;    // resultado vale; si no, sólo lo convertido
     };
-    // El recuerdo vigente de la consulta, leyéndola si hace falta.
-    Recuerdo& recordar(std::string_view sql, const std::vector<Valor>& parametros);
-    // La consulta leída otra vez, en lugar de lo que se recordaba.
-    Recuerdo& releer(std::string_view sql, const std::vector<Valor>& parametros);
     Recuerdo* vigenteDe(std::string_view clave);  // nulo si no lo hay o ya no vale
     Recuerdo& guardar(std::string clave, std::string_view sql, Resultado resultado);
     bool vigente(const Recuerdo& r) const;
@@ -124,15 +126,31 @@ class ConexionRecordada : public Conexion {
     std::size_t recordadas_ = 0, leidas_ = 0;
 };
 
-// La consulta convertida por `convertir`: por una conexión que recuerda, una vez
-// por lectura; por otra, cada vez.
+// Lo convertido como T, para que un Cambio lo lleve al día: en su lugar si
+// nadie más lo tiene y si no una copia, que cuesta menos que volver a leerlo.
+// Nulo (y se olvida) si lo convertido no es T.
+template <class T>
+T* paraCambiar(std::any& convertida) {
+    auto* t = std::any_cast<std::shared_ptr<T>>(&convertida);
+    if (!t) {
+        convertida.reset();
+        return nullptr;
+    }
+    if (t->use_count() > 1) *t = std::make_shared<T>(**t);
+    return t->get();
+}
+
+// La consulta convertida fila por fila por `agregar`: por una conexión que
+// recuerda, una vez por lectura; por otra, cada vez.
 template <class T>
 std::shared_ptr<const T> consultaConvertida(Conexion& base, std::string_view sql,
                                             const std::vector<Valor>& parametros,
-                                            T (*convertir)(const Resultado&)) {
+                                            void (*agregar)(T&, const FilaAlPaso&)) {
     if (auto* recordada = dynamic_cast<ConexionRecordada*>(&base))
-        return recordada->convertida(sql, parametros, convertir);
-    return std::make_shared<const T>(convertir(base.consulta(sql, parametros)));
+        return recordada->convertida(sql, parametros, agregar);
+    auto t = std::make_shared<T>();
+    base.recorrer(sql, parametros, [&](const FilaAlPaso& f) { agregar(*t, f); });
+    return t;
 }
 
 // Las tablas que nombra una sentencia: las que siguen a FROM, JOIN, INTO y

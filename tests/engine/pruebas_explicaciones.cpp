@@ -71,6 +71,14 @@ TEST_P(Explicaciones, LaCorridaDeLaEmpresaBorraLasDeLosDescuentosYDejaLasDeLosHa
         EXPECT_EQ(de(n, 501), "") << n;
         EXPECT_EQ(de(n, 510), "") << n;
         EXPECT_NE(de(n, 1).find("30,000.00"), std::string::npos) << n;
+        // La segunda corrida junta con las que había: una fila por persona y tipo.
+        EXPECT_EQ(base->consulta("SELECT COUNT(*) FROM explicacionesmes WHERE nombre = ? AND "
+                                 "tipo = 'Hab'",
+                                 {std::string(n)})
+                      .primera()
+                      .entero(0),
+                  1)
+            << n;
     }
 }
 

@@ -82,10 +82,8 @@ TEST_P(Recordada, EntrePersonasOlvidaLoQueNoSeUso) {
     EXPECT_EQ(r.leidas(), 3u);
 }
 
-std::vector<std::string> nombres(const Resultado& r) {
-    std::vector<std::string> n;
-    for (const auto& f : r.filas) n.push_back(f.texto(std::size_t{0}));
-    return n;
+void nombres(std::vector<std::string>& n, const FilaAlPaso& f) {
+    n.push_back(f.texto(0));
 }
 
 // Una escritura que sabe lo que le hace a lo convertido lo lleva al día sin
