@@ -22,7 +22,9 @@ namespace {
 
 std::vector<store::Valor> claves(const std::string& empresa, const std::string& nombre,
                                  const common::Mes& desde, const common::Mes& hasta) {
-    return {empresa, nombre, desde.primerDia().iso(), hasta.primerDia().iso()};
+    auto d = desde.primerDia().iso();
+    auto h = hasta == desde ? d : hasta.primerDia().iso();
+    return {empresa, nombre, std::move(d), std::move(h)};
 }
 
 // Las sentencias de una tabla de filas, armadas una vez: la corrida de una
@@ -66,6 +68,17 @@ const std::string& sqlFilas(TablaLiquidacion tabla) {
     return sentencias(tabla).leer;
 }
 
+// Por código y, en un mismo código, en el orden en que llegan: después de las
+// de código menor o igual. Una persona tiene pocas filas en el mes: se reserva
+// de una vez para las de siempre.
+void insertarPorCodigo(std::vector<FilaMes>& filas, FilaMes m) {
+    if (filas.empty()) filas.reserve(24);
+    const auto pos =
+        std::upper_bound(filas.begin(), filas.end(), m.codigo,
+                         [](long codigo, const FilaMes& x) { return codigo < x.codigo; });
+    filas.insert(pos, std::move(m));
+}
+
 // Por posición, la de la lista del SELECT. aguinaldos: concepto, tipo, total;
 // las otras: codigo, concepto, tipo, gravado, ipd, total, cant.
 template <bool agui>
@@ -85,13 +98,10 @@ void agregarFila(std::vector<FilaMes>& filas, const store::FilaAlPaso& f) {
         filas.push_back(std::move(m));
         return;
     }
-    // Por código y, en un mismo código, en el orden leído: el mismo que daría
-    // un ORDER BY codigo sobre el índice, sin la tabla temporal de la base.
-    // Casi siempre llegan así (se dieron de alta por código) y van al final.
-    const auto pos =
-        std::upper_bound(filas.begin(), filas.end(), m.codigo,
-                         [](long codigo, const FilaMes& x) { return codigo < x.codigo; });
-    filas.insert(pos, std::move(m));
+    // Lo mismo que daría un ORDER BY codigo sobre el índice, sin la tabla
+    // temporal de la base. Casi siempre llegan así (se dieron de alta por
+    // código) y van al final.
+    insertarPorCodigo(filas, std::move(m));
 }
 
 }  // namespace
@@ -143,10 +153,8 @@ void actualizarConvertidas(std::any& convertida, const FilaGenerada& f, bool ins
     if (!filas) return;
     const auto total = common::Dinero::desdeDouble(f.total.aDouble());
     if (insertada) {
-        const auto pos =
-            std::upper_bound(filas->begin(), filas->end(), f.codigo,
-                             [](long codigo, const FilaMes& x) { return codigo < x.codigo; });
-        filas->insert(pos, FilaMes{f.codigo, f.concepto, f.tipo, f.gravado, f.ipd, total, f.cant});
+        insertarPorCodigo(*filas,
+                          FilaMes{f.codigo, f.concepto, f.tipo, f.gravado, f.ipd, total, f.cant});
         return;
     }
     for (auto& m : *filas)

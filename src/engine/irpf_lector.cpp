@@ -4,6 +4,7 @@
 #include "engine/aportes.h"
 #include "engine/aportes_lector.h"
 #include "engine/datos_persona.h"
+#include "store/recordada.h"
 
 namespace nomira::engine {
 
@@ -53,14 +54,22 @@ Dinero ajusteJunio(ContextoFormula& ctx, const std::vector<FilaMes>& habydesc,
 
 }  // namespace
 
+namespace {
+
+void agregarFranja(std::vector<FilaEscala>& escala, const store::FilaAlPaso& f) {
+    escala.push_back({static_cast<long>(f.entero(0)), f.real(1), f.real(2), f.real(3)});
+}
+
+}  // namespace
+
 std::vector<FilaEscala> leerEscala(store::Conexion& base, bool delAguinaldo) {
-    std::vector<FilaEscala> escala;
-    const std::string donde = delAguinaldo ? "franja > 2000" : "franja < 1000";
-    for (const auto& f :
-         base.consulta("SELECT * FROM franjasirp WHERE " + donde + " ORDER BY franja").filas)
-        escala.push_back(
-            {static_cast<long>(f.entero("franja")), f.real("min"), f.real("max"), f.real("tasa")});
-    return escala;
+    // La corrida de una empresa la pide por cada persona: se convierte una vez.
+    return *store::consultaConvertida(
+        base,
+        delAguinaldo
+            ? "SELECT franja, min, max, tasa FROM franjasirp WHERE franja > 2000 ORDER BY franja"
+            : "SELECT franja, min, max, tasa FROM franjasirp WHERE franja < 1000 ORDER BY franja",
+        {}, agregarFranja);
 }
 
 ResultadoIRPF CalculoIRPF(ContextoFormula& ctx, Dinero montoirpf, Dinero montonominal,
