@@ -145,26 +145,6 @@ bool hayEgresos(store::Conexion& base, const std::string& empresa, const std::st
 
 namespace {
 
-// Lo que una escritura de la fila `f` les hace: cambia concepto, total y cant
-// de las de su código, o la agrega donde la pondría filasDe (después de las de
-// código menor o igual).
-void actualizarConvertidas(std::any& convertida, const FilaGenerada& f, bool insertada) {
-    auto* filas = store::paraCambiar<std::vector<FilaMes>>(convertida);
-    if (!filas) return;
-    const auto total = common::Dinero::desdeDouble(f.total.aDouble());
-    if (insertada) {
-        insertarPorCodigo(*filas,
-                          FilaMes{f.codigo, f.concepto, f.tipo, f.gravado, f.ipd, total, f.cant});
-        return;
-    }
-    for (auto& m : *filas)
-        if (m.codigo == f.codigo) {
-            m.concepto = f.concepto;
-            m.total = total;
-            m.cant = f.cant;
-        }
-}
-
 // Lo que les hace borrar las del tipo.
 void quitarConvertidas(std::any& convertida, const std::string& tipo) {
     if (auto* filas = store::paraCambiar<std::vector<FilaMes>>(convertida))
@@ -172,42 +152,52 @@ void quitarConvertidas(std::any& convertida, const std::string& tipo) {
 }
 
 // UPDATE por código (sólo si `probar`) y, si no cambió nada, INSERT. Por una
-// conexión que recuerda lo leído, las filas del mes ya leídas se llevan al día
-// en lugar de volver a leerse.
+// conexión que recuerda lo leído, de las filas del mes ya leídas se sabe si el
+// código tiene fila, y se llevan al día en lugar de volver a leerse.
 void escribir(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
               const std::string& nombre, const common::Mes& mes, const FilaGenerada& f,
               bool probar) {
     if (tabla == TablaLiquidacion::Aguinaldos)
         throw common::Fallo(5, "Las filas de aguinaldos no se escriben aquí");
     const std::int64_t codigo = f.codigo;
-    auto* recordada = dynamic_cast<store::ConexionRecordada*>(&base);
     const auto delMes = claves(empresa, nombre, mes, mes);
     const auto& fecha = std::get<std::string>(delMes[2]);  // desde: el primer día del mes
-    const auto escribirLeidas = [&](const std::string& sql, const std::vector<store::Valor>& p,
-                                    bool insertada) {
-        if (!recordada) return base.ejecuta(sql, p);
-        return recordada->ejecutaConCambio(sql, p, sqlFilas(tabla), delMes,
-                                           [&](std::any& convertida, std::int64_t afectadas) {
-                                               if (afectadas > 0)
-                                                   actualizarConvertidas(convertida, f, insertada);
-                                           });
-    };
-    // Si las filas del mes están recordadas, ya se sabe si el código tiene fila.
-    if (const auto leidas = recordada ? recordada->convertidaRecordada<std::vector<FilaMes>>(
-                                            sqlFilas(tabla), delMes)
-                                      : nullptr)
-        probar = std::any_of(leidas->begin(), leidas->end(),
-                             [&](const FilaMes& x) { return x.codigo == codigo; });
     const auto& sql = sentencias(tabla);
-    if (probar && escribirLeidas(sql.actualizar,
-                                 {f.concepto, f.unidad, f.cant, f.total.aDouble(), empresa, nombre,
-                                  fecha, codigo},
-                                 false) > 0)
+    const auto total = common::Dinero::desdeDouble(f.total.aDouble());
+    const auto escribirEn = [&](store::Conexion& c, std::vector<FilaMes>* filas) {
+        if (filas)
+            probar = std::any_of(filas->begin(), filas->end(),
+                                 [&](const FilaMes& x) { return x.codigo == codigo; });
+        if (probar && c.ejecuta(sql.actualizar, {f.concepto, f.unidad, f.cant, f.total.aDouble(),
+                                                 empresa, nombre, fecha, codigo}) > 0) {
+            if (filas)
+                for (auto& m : *filas)
+                    if (m.codigo == codigo) {
+                        m.concepto = f.concepto;
+                        m.total = total;
+                        m.cant = f.cant;
+                    }
+            return std::int64_t{1};
+        }
+        const auto insertadas =
+            c.ejecuta(sql.insertar,
+                      {empresa, nombre, fecha, codigo, f.concepto, f.tipo, f.unidad, f.permanente,
+                       f.gravado, f.aguinaldo, f.cant, f.total.aDouble(), f.lic, f.ipd});
+        if (filas && insertadas > 0)
+            insertarPorCodigo(
+                *filas, FilaMes{f.codigo, f.concepto, f.tipo, f.gravado, f.ipd, total, f.cant});
+        return insertadas;
+    };
+    auto* recordada = dynamic_cast<store::ConexionRecordada*>(&base);
+    if (!recordada) {
+        escribirEn(base, nullptr);
         return;
-    escribirLeidas(sql.insertar,
-                   {empresa, nombre, fecha, codigo, f.concepto, f.tipo, f.unidad, f.permanente,
-                    f.gravado, f.aguinaldo, f.cant, f.total.aDouble(), f.lic, f.ipd},
-                   true);
+    }
+    recordada->escribeSobre(sqlFilas(tabla), delMes, [&](std::any* convertida) {
+        return escribirEn(*recordada, convertida
+                                          ? store::paraCambiar<std::vector<FilaMes>>(*convertida)
+                                          : nullptr);
+    });
 }
 
 }  // namespace

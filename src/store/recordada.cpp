@@ -124,15 +124,24 @@ std::int64_t ConexionRecordada::ejecutaConCambio(std::string_view sql,
                                                  std::string_view consulta,
                                                  const std::vector<Valor>& parametrosConsulta,
                                                  const Cambio& cambio) {
+    return escribeSobre(consulta, parametrosConsulta, [&](std::any* convertida) {
+        const auto afectadas = ejecuta(sql, parametros);
+        if (convertida) cambio(*convertida, afectadas);
+        return afectadas;
+    });
+}
+
+std::int64_t ConexionRecordada::escribeSobre(std::string_view consulta,
+                                             const std::vector<Valor>& parametrosConsulta,
+                                             const Escritura& escribir) {
     auto* recuerdo = vigenteDe(clave(consulta, parametrosConsulta));
-    const auto afectadas = ejecuta(sql, parametros);
     // Sin nada convertido que llevar al día, la escritura la hace olvidar.
-    if (recuerdo && recuerdo->convertida.has_value()) {
-        cambio(recuerdo->convertida, afectadas);
-        recuerdo->crudo = false;
-        recuerdo->general = general_;
-        for (auto& [tabla, gen] : recuerdo->tablas) gen = generaciones_[tabla];
-    }
+    if (!recuerdo || !recuerdo->convertida.has_value()) return escribir(nullptr);
+    // Los recuerdos no se borran mientras se escribe: sólo olvidarSinUso lo hace.
+    const auto afectadas = escribir(&recuerdo->convertida);
+    recuerdo->crudo = false;
+    recuerdo->general = general_;
+    for (auto& [tabla, gen] : recuerdo->tablas) gen = generaciones_[tabla];
     return afectadas;
 }
 

@@ -50,6 +50,13 @@ class ConexionRecordada : public Conexion {
                                   std::string_view consulta,
                                   const std::vector<Valor>& parametrosConsulta,
                                   const Cambio& cambio);
+    // Lo mismo cuando qué se escribe depende de lo convertido: `escribir` lo
+    // recibe (nulo si no está vigente), escribe por esta conexión y lo deja
+    // como queda después de escribir.
+    using Escritura = std::function<std::int64_t(std::any* convertida)>;
+    std::int64_t escribeSobre(std::string_view consulta,
+                              const std::vector<Valor>& parametrosConsulta,
+                              const Escritura& escribir);
 
     // Lo recordado de una consulta ya convertido por quien la lee (las filas del
     // mes como las usan los cálculos): se convierte fila por fila al leerla, sin
