@@ -111,6 +111,7 @@ std::vector<long> codigosDescuento(store::Conexion& base, const MesPersona& mp, 
     std::set<long> codigos;
     for (const auto& f : base.consulta(sql, p).filas)
         codigos.insert(static_cast<long>(f.entero(std::size_t{0})));
+    if (!tieneConceptosPropios(base, mp, "Des")) return {codigos.begin(), codigos.end()};
     for (const auto& f :
          base.consulta("SELECT concpermxpers.codigo FROM concpermxpers JOIN conceptos ON "
                        "conceptos.codigo = concpermxpers.codigo WHERE concpermxpers.empresa = ? "

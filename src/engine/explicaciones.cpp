@@ -103,12 +103,6 @@ constexpr const char* kConExplicaciones =
     "SELECT nombre FROM explicacionesmes WHERE empresa = ? AND fecha = ? AND tabla = ? AND "
     "tipo = ?";
 
-using Nombres = std::set<std::string>;
-
-void agregarNombre(Nombres& n, const store::FilaAlPaso& f) {
-    n.insert(f.texto(0));
-}
-
 // k: empresa, nombre, fecha, tabla y tipo; lo mismo sin el nombre.
 std::vector<store::Valor> deLaEmpresa(const std::vector<store::Valor>& k) {
     return {k[0], k[2], k[3], k[4]};
@@ -134,7 +128,7 @@ void ejecutar(store::Conexion& base, const char* sql, const std::vector<store::V
     }
     recordada->ejecutaConCambio(sql, p, kConExplicaciones, deLaEmpresa(k),
                                 [&](std::any& convertida, std::int64_t) {
-                                    auto* nombres = store::paraCambiar<Nombres>(convertida);
+                                    auto* nombres = store::paraCambiar<store::Nombres>(convertida);
                                     const auto& nombre = std::get<std::string>(k[1]);
                                     if (nombres && queda) nombres->insert(nombre);
                                     if (nombres && !queda) nombres->erase(nombre);
@@ -158,18 +152,14 @@ void escribir(store::Conexion& base, const std::vector<store::Valor>& k, const s
     }
 }
 
-// Si la persona puede tener guardadas de ese tipo: en la corrida de una
-// empresa se sabe sin leerlas.
-bool puedeTener(store::Conexion& base, const std::vector<store::Valor>& k) {
-    auto* recordada = dynamic_cast<store::ConexionRecordada*>(&base);
-    return !recordada || recordada->convertida(kConExplicaciones, deLaEmpresa(k), agregarNombre)
-                             ->count(std::get<std::string>(k[1]));
-}
-
 // Las guardadas de ese tipo con las nuevas, por código; un código escrito otra
 // vez queda con la última.
 void juntar(store::Conexion& base, const std::vector<store::Valor>& k, const std::string& nuevas) {
-    const auto r = puedeTener(base, k) ? base.consulta(kLeerTipo, k) : store::Resultado{};
+    // En la corrida de una empresa se sabe sin leerlas si la persona tiene.
+    const auto r =
+        store::puedeEstar(base, kConExplicaciones, deLaEmpresa(k), std::get<std::string>(k[1]))
+            ? base.consulta(kLeerTipo, k)
+            : store::Resultado{};
     std::string guardadas;
     for (const auto& f : r.filas) {
         if (!guardadas.empty()) guardadas += kRegistro;

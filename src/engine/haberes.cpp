@@ -90,6 +90,7 @@ std::shared_ptr<const std::vector<master::Concepto>> conceptosPermanentes(store:
         "SELECT * FROM conceptos WHERE (especificode = ? OR especificode = 'G') AND tipo = 'Hab' "
         "AND permanente = 'Si' ORDER BY codigo",
         {mp.tiposueldo}, agregarSinRepetir);
+    if (!tieneConceptosPropios(base, mp, "Hab")) return deTodos;
     const auto propios = master::leerConceptos(base.consulta(
         "SELECT conceptos.* FROM conceptos JOIN concpermxpers ON conceptos.codigo = "
         "concpermxpers.codigo WHERE concpermxpers.empresa = ? AND concpermxpers.nombre = ? AND "

@@ -2,6 +2,7 @@
 
 #include "common/numeros.h"
 #include "common/texto.h"
+#include "store/recordada.h"
 
 namespace nomira::engine {
 
@@ -68,6 +69,12 @@ void refrescarDesglose(store::Conexion& base, MesPersona& mp, ContextoFormula& c
     mp.desglose = leerDesglose(base, mp.empresa, mp.nombre, mp.mes, mp.tipoaporte, mp.vinculofun,
                                ctx.sueldo, mp.bpc);
     volcarEnContexto(mp.desglose, ctx);
+}
+
+bool tieneConceptosPropios(store::Conexion& base, const MesPersona& mp, const char* tipo) {
+    return store::puedeEstar(
+        base, "SELECT DISTINCT nombre FROM concpermxpers WHERE empresa = ? AND tipo = ?",
+        {mp.empresa, std::string(tipo)}, mp.nombre);
 }
 
 FilaGenerada filaDeConcepto(const master::Concepto& c, const std::string& tipo) {

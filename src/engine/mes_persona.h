@@ -65,6 +65,11 @@ void refrescarDesglose(store::Conexion& base, MesPersona& mp, ContextoFormula& c
 // total en 0.
 FilaGenerada filaDeConcepto(const master::Concepto& c, const std::string& tipo);
 
+// ¿Puede tener la persona conceptos propios (concpermxpers) de ese tipo ("Hab" o
+// "Des")? En la corrida de una empresa se sabe de una lectura de toda la
+// empresa; fuera de ella es siempre que sí y se buscan.
+bool tieneConceptosPropios(store::Conexion& base, const MesPersona& mp, const char* tipo);
+
 // ¿Trabaja la persona en el mes? Ingresó antes del año, o en el año y no
 // después del mes; y no egresó en un año anterior ni en un mes anterior del
 // mismo año. Una fecha vacía no excluye.

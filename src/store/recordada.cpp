@@ -156,4 +156,14 @@ bool ConexionRecordada::vigente(const Recuerdo& r) const {
                        [&](const auto& t) { return generaciones_[t.first] == t.second; });
 }
 
+void agregarNombre(Nombres& nombres, const FilaAlPaso& fila) {
+    nombres.insert(fila.texto(0));
+}
+
+bool puedeEstar(Conexion& base, std::string_view consulta, const std::vector<Valor>& parametros,
+                const std::string& nombre) {
+    auto* recordada = dynamic_cast<ConexionRecordada*>(&base);
+    return !recordada || recordada->convertida(consulta, parametros, agregarNombre)->count(nombre);
+}
+
 }  // namespace nomira::store

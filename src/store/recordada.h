@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -159,6 +160,17 @@ std::shared_ptr<const T> consultaConvertida(Conexion& base, std::string_view sql
     base.recorrer(sql, parametros, [&](const FilaAlPaso& f) { agregar(*t, f); });
     return t;
 }
+
+// Los nombres (una columna) que da una consulta convertida con agregarNombre.
+using Nombres = std::set<std::string>;
+void agregarNombre(Nombres& nombres, const FilaAlPaso& fila);
+
+// Para no hacer por cada persona una consulta que casi siempre viene vacía: si
+// `nombre` está entre los que da `consulta` (los de toda la empresa que podrían
+// tener algo). Por una conexión que recuerda, la consulta se lee una vez por
+// corrida; por otra, la respuesta es siempre que sí: hay que buscar.
+bool puedeEstar(Conexion& base, std::string_view consulta, const std::vector<Valor>& parametros,
+                const std::string& nombre);
 
 // Las tablas que nombra una sentencia: las que siguen a FROM, JOIN, INTO y
 // UPDATE, en minúsculas y sin repetir. Vacío si no nombra ninguna.
