@@ -27,10 +27,24 @@ std::vector<store::Valor> claves(const std::string& empresa, const std::string& 
     return {empresa, nombre, std::move(d), std::move(h)};
 }
 
+// Los de la empresa con filas en la tabla entre dos fechas.
+std::string sqlQuienes(const std::string& tabla) {
+    return "SELECT DISTINCT nombre FROM " + tabla +
+           " WHERE empresa = ? AND fecha >= ? AND fecha <= ?";
+}
+
+// Filas de aguinaldos, egresos y salvacacional casi nunca hay en el mes: en la
+// corrida de una empresa se sabe de una lectura quiénes las tienen y no se
+// busca por cada persona. k: empresa, nombre y las dos fechas.
+bool puedeTenerFilas(store::Conexion& base, const std::string& quienes,
+                     const std::vector<store::Valor>& k) {
+    return store::puedeEstar(base, quienes, {k[0], k[2], k[3]}, std::get<std::string>(k[1]));
+}
+
 // Las sentencias de una tabla de filas, armadas una vez: la corrida de una
 // empresa las usa en cada fila.
 struct SentenciasFilas {
-    std::string leer, actualizar, insertar;
+    std::string leer, actualizar, insertar, quienes;
 };
 
 // leer: la consulta de leerFilas; en habydesc y egresos, codigo, concepto,
@@ -50,6 +64,7 @@ SentenciasFilas armarSentencias(TablaLiquidacion tabla) {
     s.actualizar = "UPDATE " + t +
                    " SET concepto = ?, unidad = ?, cant = ?, total = ? WHERE empresa = ? AND "
                    "nombre = ? AND fecha = ? AND codigo = ?";
+    s.quienes = sqlQuienes(t);
     s.insertar = "INSERT INTO " + t +
                  " (empresa, nombre, fecha, codigo, concepto, tipo, unidad, permanente, gravado, "
                  "aguinaldo, cant, total, lic, ipd) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, "
@@ -109,9 +124,12 @@ void agregarFila(std::vector<FilaMes>& filas, const store::FilaAlPaso& f) {
 FilasLeidas leerFilas(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
                       const std::string& nombre, const common::Mes& desde,
                       const common::Mes& hasta) {
+    const auto k = claves(empresa, nombre, desde, hasta);
+    if (tabla != TablaLiquidacion::Habydesc && !puedeTenerFilas(base, sentencias(tabla).quienes, k))
+        return {};
     // En una corrida se leen muchas veces por persona: se convierten una vez.
     return FilasLeidas(store::consultaConvertida(
-        base, sqlFilas(tabla), claves(empresa, nombre, desde, hasta),
+        base, sqlFilas(tabla), k,
         tabla == TablaLiquidacion::Aguinaldos ? agregarFila<true> : agregarFila<false>));
 }
 
@@ -127,19 +145,24 @@ void agregarSalVac(std::vector<FilaSalVac>& filas, const store::FilaAlPaso& f) {
 FilasCompartidas<FilaSalVac> leerSalvacacional(store::Conexion& base, const std::string& empresa,
                                                const std::string& nombre, const common::Mes& desde,
                                                const common::Mes& hasta) {
+    static const auto quienes = sqlQuienes("salvacacional");
+    const auto k = claves(empresa, nombre, desde, hasta);
+    if (!puedeTenerFilas(base, quienes, k)) return {};
     return FilasCompartidas<FilaSalVac>(store::consultaConvertida(
         base,
         "SELECT codigo, concepto, total FROM salvacacional WHERE empresa = ? AND nombre = ? AND "
         "fecha >= ? AND fecha <= ?",
-        claves(empresa, nombre, desde, hasta), agregarSalVac));
+        k, agregarSalVac));
 }
 
 bool hayEgresos(store::Conexion& base, const std::string& empresa, const std::string& nombre,
                 const common::Mes& mes) {
-    return !base.consulta(
+    const auto k = claves(empresa, nombre, mes, mes);
+    return puedeTenerFilas(base, sentencias(TablaLiquidacion::Egresos).quienes, k) &&
+           !base.consulta(
                     "SELECT 1 FROM egresos WHERE empresa = ? AND nombre = ? AND fecha = ? "
                     "LIMIT 1",
-                    {empresa, nombre, mes.primerDia().iso()})
+                    {empresa, nombre, k[2]})
                 .vacio();
 }
 

@@ -24,7 +24,34 @@ TEST(IRP, ElPasoDeFranjaNoDejaUnNetoMenor) {
     EXPECT_EQ(irpDe(200000, franjas, 6864), 0);    // fuera de toda franja
 }
 
-class Descuentos : public EscenarioMes {};
+class Descuentos : public EscenarioMes {
+  protected:
+    // Un por hora con licencia y salario vacacional en el mes.
+    void licenciaConVacacional() {
+        persona("LOPEZ, EVA",
+                {{"sueldo", "100"}, {"tiposueldo", "H"}, {"htrab", "8"}, {"sexocon", "MNo"}});
+        fila("LOPEZ, EVA", marzo, 10, "HORAS", "Hab", 100, 10000);
+        fila("LOPEZ, EVA", marzo, 20, "LICENCIA", "Hab", 20, 60000);
+        ejecutar(
+            "INSERT INTO salvacacional (empresa, nombre, fecha, codigo, concepto, cant, total) "
+            "VALUES ('ACME', 'LOPEZ, EVA', ?, 606, 'SALARIO VACACIONAL', 20, 20000)",
+            {marzo.primerDia().iso()});
+    }
+    // Sus descuentos del mes.
+    void esperarAdelantoDeLicencia() {
+        // 60000 + 20000 pasa 10 BPC: licencia x 1.06 = 63600; base 83600, nominal 63600.
+        // Escala: 2059.20 + (83600 - 68640) x 15% = 2059.20 + 2244 = 4303.20.
+        // Aportes de la licencia sobre 60000: 9000 + 4.5% 2700 + 60 = 11760; al 14%: 1646.40.
+        // IRPF 2656.80; adelanto 20000 - 2656.80 = 17343.20.
+        EXPECT_EQ(total("LOPEZ, EVA", marzo, 504), 17343.20);
+        // Los aportes de un momento no quedaron: una fila de cada uno, la del mes
+        // sobre el gravado 70000.
+        EXPECT_EQ(cuantas("nombre = 'LOPEZ, EVA' AND concepto LIKE 'MONTEPIO%'"), 1);
+        EXPECT_EQ(cuantas("nombre = 'LOPEZ, EVA' AND concepto LIKE 'SNIS%'"), 1);
+        EXPECT_EQ(cuantas("nombre = 'LOPEZ, EVA' AND concepto LIKE 'FRL%'"), 1);
+        EXPECT_EQ(total("LOPEZ, EVA", marzo, 501), 10500);
+    }
+};
 NOMIRA_PARA_CADA_MOTOR(Descuentos);
 
 TEST_P(Descuentos, MensualBajoYSobreDosYMedioBPC) {
@@ -130,30 +157,23 @@ TEST_P(Descuentos, MesAnteriorNegativoPasaComoAdelantos) {
 // vacacional menos el IRPF de licencia y vacacional, con los aportes de la
 // licencia contados un momento y luego deshechos.
 TEST_P(Descuentos, AdelantoDeLicenciaSinAportesQueQuedenDeMas) {
-    persona("LOPEZ, EVA",
-            {{"sueldo", "100"}, {"tiposueldo", "H"}, {"htrab", "8"}, {"sexocon", "MNo"}});
-    fila("LOPEZ, EVA", marzo, 10, "HORAS", "Hab", 100, 10000);
-    fila("LOPEZ, EVA", marzo, 20, "LICENCIA", "Hab", 20, 60000);
-    ejecutar(
-        "INSERT INTO salvacacional (empresa, nombre, fecha, codigo, concepto, cant, total) "
-        "VALUES ('ACME', 'LOPEZ, EVA', ?, 606, 'SALARIO VACACIONAL', 20, 20000)",
-        {marzo.primerDia().iso()});
-
+    licenciaConVacacional();
     const auto r = DescPerm(*base, *variables, "ACME", "LOPEZ, EVA", marzo, dialogo);
     ASSERT_TRUE(r.hecho);
-    // 60000 + 20000 pasa 10 BPC: licencia x 1.06 = 63600; base 83600, nominal 63600.
-    // Escala: 2059.20 + (83600 - 68640) x 15% = 2059.20 + 2244 = 4303.20.
-    // Aportes de la licencia sobre 60000: 9000 + 4.5% 2700 + 60 = 11760; al 14%: 1646.40.
-    // IRPF 2656.80; adelanto 20000 - 2656.80 = 17343.20.
-    EXPECT_EQ(total("LOPEZ, EVA", marzo, 504), 17343.20);
+    esperarAdelantoDeLicencia();
     ASSERT_FALSE(r.filas.empty());
     EXPECT_EQ(r.filas[0].fila.codigo, 504);
-    // Los aportes de un momento no quedaron: una fila de cada uno, la del mes
-    // sobre el gravado 70000.
-    EXPECT_EQ(cuantas("nombre = 'LOPEZ, EVA' AND concepto LIKE 'MONTEPIO%'"), 1);
-    EXPECT_EQ(cuantas("nombre = 'LOPEZ, EVA' AND concepto LIKE 'SNIS%'"), 1);
-    EXPECT_EQ(cuantas("nombre = 'LOPEZ, EVA' AND concepto LIKE 'FRL%'"), 1);
-    EXPECT_EQ(total("LOPEZ, EVA", marzo, 501), 10500);
+}
+
+// La corrida de la empresa sabe de una lectura quiénes tienen vacacional en el
+// mes: a quien lo tiene le da lo mismo que sola.
+TEST_P(Descuentos, EnLaCorridaDeLaEmpresaElVacacionalEsDeQuienLoTiene) {
+    licenciaConVacacional();
+    persona("SIN VACACIONAL, LUIS", {{"sueldo", "15000"}, {"tiposueldo", "S"}});
+    fila("SIN VACACIONAL, LUIS", marzo, 1, "SUELDO", "Hab", 1, 15000);
+    ASSERT_FALSE(ActDesPermxEmpresa(*base, *variables, "ACME", marzo, dialogo).fallo);
+    esperarAdelantoDeLicencia();
+    EXPECT_EQ(total("SIN VACACIONAL, LUIS", marzo, 501), 2250);
 }
 
 // Un por hora cuyo único haber del mes es la licencia: sin complemento del
