@@ -27,8 +27,20 @@ struct Entrada {
     std::string_view texto;
 };
 
-// Las entradas de un texto guardado, por código; de un código repetido, la
-// última. Vistas sobre `texto`, sin copiarlo.
+// Por código; de un código repetido, la última.
+void ordenar(std::vector<Entrada>& e) {
+    std::stable_sort(e.begin(), e.end(),
+                     [](const Entrada& a, const Entrada& b) { return a.codigo < b.codigo; });
+    // De cada código repetido queda la última: unique se queda con la primera.
+    std::reverse(e.begin(), e.end());
+    e.erase(std::unique(e.begin(), e.end(),
+                        [](const Entrada& a, const Entrada& b) { return a.codigo == b.codigo; }),
+            e.end());
+    std::reverse(e.begin(), e.end());
+}
+
+// Las entradas de un texto guardado, ordenadas. Vistas sobre `texto`, sin
+// copiarlo.
 std::vector<Entrada> entradas(std::string_view texto) {
     std::vector<Entrada> e;
     std::size_t i = 0;
@@ -42,14 +54,7 @@ std::vector<Entrada> entradas(std::string_view texto) {
             e.push_back({codigo, texto.substr(corte + 1, fin - corte - 1)});
         i = fin + 1;
     }
-    std::stable_sort(e.begin(), e.end(),
-                     [](const Entrada& a, const Entrada& b) { return a.codigo < b.codigo; });
-    // De cada código repetido queda la última: unique se queda con la primera.
-    std::reverse(e.begin(), e.end());
-    e.erase(std::unique(e.begin(), e.end(),
-                        [](const Entrada& a, const Entrada& b) { return a.codigo == b.codigo; }),
-            e.end());
-    std::reverse(e.begin(), e.end());
+    ordenar(e);
     return e;
 }
 
@@ -154,7 +159,8 @@ void escribir(store::Conexion& base, const std::vector<store::Valor>& k, const s
 
 // Las guardadas de ese tipo con las nuevas, por código; un código escrito otra
 // vez queda con la última.
-void juntar(store::Conexion& base, const std::vector<store::Valor>& k, const std::string& nuevas) {
+void juntar(store::Conexion& base, const std::vector<store::Valor>& k,
+            const std::vector<Entrada>& agregadas) {
     // En la corrida de una empresa se sabe sin leerlas si la persona tiene.
     const auto r =
         store::puedeEstar(base, kConExplicaciones, deLaEmpresa(k), std::get<std::string>(k[1]))
@@ -165,7 +171,7 @@ void juntar(store::Conexion& base, const std::vector<store::Valor>& k, const std
         if (!guardadas.empty()) guardadas += kRegistro;
         guardadas += f.texto(std::size_t{0});
     }
-    const auto viejas = entradas(guardadas), agregadas = entradas(nuevas);
+    const auto viejas = entradas(guardadas);
     std::vector<Entrada> juntas;
     juntas.reserve(viejas.size() + agregadas.size());
     auto v = viejas.begin();
@@ -190,11 +196,12 @@ bool podar(PorCodigo& m, const std::set<long>& codigos) {
 void guardarExplicaciones(store::Conexion& base, TablaLiquidacion tabla, const std::string& empresa,
                           const std::string& nombre, const common::Mes& mes,
                           const std::vector<FilaLiquidada>& filas) {
-    std::map<std::string, std::string> nuevasPorTipo;
+    std::map<std::string, std::vector<Entrada>> nuevasPorTipo;
     for (const auto& f : filas)
         if (!f.explicacion.empty())
-            agregar(nuevasPorTipo[f.fila.tipo], f.fila.codigo, f.explicacion);
-    for (const auto& [tipo, nuevas] : nuevasPorTipo) {
+            nuevasPorTipo[f.fila.tipo].push_back({f.fila.codigo, f.explicacion});
+    for (auto& [tipo, nuevas] : nuevasPorTipo) {
+        ordenar(nuevas);
         auto k = clave(tabla, empresa, nombre, mes);
         k.emplace_back(tipo);
         juntar(base, k, nuevas);
