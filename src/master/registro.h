@@ -67,7 +67,7 @@ class LectorRegistros {
             }
         }
         for (std::size_t i = 0; i < campos_.size(); ++i)
-            registro.*campos_[i].miembro = fila.texto(posiciones_[i]);
+            fila.textoEn(posiciones_[i], registro.*campos_[i].miembro);
     }
     template <class F>
     T leer(const F& fila) {

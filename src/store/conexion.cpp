@@ -79,11 +79,21 @@ Celda celdaDe(const Valor& v) {
     return Nulo{};
 }
 
+void textoEn(const Celda& c, std::string& destino) {
+    if (const auto* s = std::get_if<std::string_view>(&c))
+        destino.assign(*s);
+    else if (const auto* i = std::get_if<std::int64_t>(&c))
+        destino = std::to_string(*i);
+    else if (const auto* d = std::get_if<double>(&c))
+        destino = textoDeNumero(*d);
+    else
+        destino.clear();
+}
+
 std::string textoDe(const Celda& c) {
-    if (const auto* s = std::get_if<std::string_view>(&c)) return std::string(*s);
-    if (const auto* i = std::get_if<std::int64_t>(&c)) return std::to_string(*i);
-    if (const auto* d = std::get_if<double>(&c)) return textoDeNumero(*d);
-    return "";
+    std::string t;
+    textoEn(c, t);
+    return t;
 }
 
 std::int64_t enteroDe(const Celda& c) {

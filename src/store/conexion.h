@@ -46,6 +46,7 @@ Celda celdaDe(const Valor& v);
 // Texto: Null da ""; un número se convierte a texto. Números: Null y "" dan 0;
 // un texto con número se convierte.
 std::string textoDe(const Celda& c);
+void textoEn(const Celda& c, std::string& destino);  // lo mismo, sobre un texto que ya está
 std::int64_t enteroDe(const Celda& c);
 double realDe(const Celda& c);
 bool esNuloDe(const Celda& c);  // Null o ""
@@ -79,6 +80,9 @@ class Fila {
     // Texto: Null da ""; un número se convierte a texto.
     std::string texto(std::string_view columna) const;
     std::string texto(std::size_t posicion) const;
+    void textoEn(std::size_t posicion, std::string& destino) const {
+        store::textoEn(celdaDe(valor(posicion)), destino);
+    }
     // Números: Null y "" dan 0; un texto con número se convierte.
     std::int64_t entero(std::string_view columna) const;
     double real(std::string_view columna) const;
@@ -107,6 +111,9 @@ class FilaAlPaso {
     virtual Celda celda(std::size_t posicion) const = 0;
 
     std::string texto(std::size_t posicion) const { return textoDe(celda(posicion)); }
+    void textoEn(std::size_t posicion, std::string& destino) const {
+        store::textoEn(celda(posicion), destino);
+    }
     std::string texto(std::string_view columna) const {
         return texto(posicionDe(columnas(), columna));
     }
