@@ -111,7 +111,8 @@ class FilaAlPaso {
     virtual Celda celda(std::size_t posicion) const = 0;
 
     std::string texto(std::size_t posicion) const { return textoDe(celda(posicion)); }
-    void textoEn(std::size_t posicion, std::string& destino) const {
+    // Cada motor puede leerlo sin pasar por la Celda.
+    virtual void textoEn(std::size_t posicion, std::string& destino) const {
         store::textoEn(celda(posicion), destino);
     }
     std::string texto(std::string_view columna) const {

@@ -56,6 +56,21 @@ class FilaSqlite final : public FilaAlPaso {
             throw ErrorBase(kErrorUso, "No existe la columna " + std::to_string(posicion));
         return leerCelda(s_, static_cast<int>(posicion));
     }
+    // Las fichas son casi todo texto o Null: derecho al campo.
+    void textoEn(std::size_t posicion, std::string& destino) const override {
+        const int i = static_cast<int>(posicion);
+        switch (posicion < columnas_.size() ? sqlite3_column_type(s_, i) : SQLITE_BLOB) {
+            case SQLITE_NULL:
+                destino.clear();
+                return;
+            case SQLITE_TEXT:
+                destino.assign(reinterpret_cast<const char*>(sqlite3_column_text(s_, i)),
+                               static_cast<std::size_t>(sqlite3_column_bytes(s_, i)));
+                return;
+            default:  // números, y el error de una columna que no existe
+                FilaAlPaso::textoEn(posicion, destino);
+        }
+    }
 
   private:
     sqlite3_stmt* s_;

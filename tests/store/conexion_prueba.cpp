@@ -139,6 +139,9 @@ TEST_P(Datos, FechasVaciasDineroYNumerosVuelvenComoSeEscribieron) {
         const auto& e = entera.filas[i++];
         for (std::size_t k = 0; k < e.tamano(); ++k) {
             EXPECT_EQ(f.texto(k), e.texto(k));
+            std::string en = "lo que había";
+            f.textoEn(k, en);
+            EXPECT_EQ(en, e.texto(k));
             EXPECT_EQ(f.entero(k), e.entero(k));
             EXPECT_EQ(f.real(k), e.real(k));
         }
