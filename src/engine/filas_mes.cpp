@@ -49,9 +49,9 @@ struct SentenciasFilas {
 
 // leer: la consulta de leerFilas; en habydesc y egresos, codigo, concepto,
 // tipo, gravado, ipd, total y cant en el orden del índice (fecha y, en cada
-// fecha, el de alta), que no pide ordenar en la base: filasDe las ordena por
+// fecha, el de alta), que no pide ordenar en la base: agregarFila las pone por
 // código. actualizar e insertar: la escritura de una fila por código (no en
-// aguinaldos).
+// aguinaldos). quienes: los de la empresa con filas entre dos fechas.
 SentenciasFilas armarSentencias(TablaLiquidacion tabla) {
     const bool agui = tabla == TablaLiquidacion::Aguinaldos;
     const std::string t = nombreTabla(tabla);
@@ -186,6 +186,7 @@ void escribir(store::Conexion& base, TablaLiquidacion tabla, const std::string& 
     const auto delMes = claves(empresa, nombre, mes, mes);
     const auto& fecha = std::get<std::string>(delMes[2]);  // desde: el primer día del mes
     const auto& sql = sentencias(tabla);
+    // El total como se leería de vuelta de la base, que lo guarda como double.
     const auto total = common::Dinero::desdeDouble(f.total.aDouble());
     const auto escribirEn = [&](store::Conexion& c, std::vector<FilaMes>* filas) {
         if (filas)
