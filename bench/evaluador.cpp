@@ -2,7 +2,7 @@
 // así que lo que cuenta es analizar y calcular de una vez.
 #include <benchmark/benchmark.h>
 
-#include "engine/evaluador.h"
+#include "engine/formulas/evaluador.h"
 
 namespace {
 

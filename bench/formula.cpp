@@ -9,7 +9,7 @@
 #include <random>
 
 #include "apoyo/dialogo_guion.h"
-#include "engine/formula.h"
+#include "engine/formulas/formula.h"
 #include "master/variables.h"
 #include "store/conexion.h"
 #include "store/crear.h"

@@ -13,8 +13,8 @@
 #include <string>
 
 #include "apoyo/dialogo_guion.h"
-#include "engine/descuentos.h"
-#include "engine/haberes.h"
+#include "engine/mes/descuentos.h"
+#include "engine/mes/haberes.h"
 #include "master/datos_iniciales.h"
 #include "store/conexion.h"
 #include "store/crear.h"

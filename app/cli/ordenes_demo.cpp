@@ -6,9 +6,9 @@
 
 #include "cli/ordenes.h"
 #include "common/reloj.h"
-#include "engine/explicacion.h"
-#include "engine/horas.h"
-#include "engine/liquidacion_empresa.h"
+#include "engine/calculos/explicacion.h"
+#include "engine/mes/horas.h"
+#include "engine/mes/liquidacion_empresa.h"
 #include "frame/arranque.h"
 #include "frame/carpeta.h"
 #include "master/datos_iniciales.h"

@@ -5,9 +5,9 @@
 
 #include "cli/ordenes.h"
 #include "common/numeros.h"
-#include "engine/descuentos.h"
-#include "engine/explicacion.h"
-#include "engine/renglon.h"
+#include "engine/mes/descuentos.h"
+#include "engine/calculos/explicacion.h"
+#include "engine/mes/renglon.h"
 
 namespace nomira::cli {
 

@@ -8,8 +8,8 @@
 
 #include "cli/ordenes.h"
 #include "common/numeros.h"
-#include "engine/evaluador.h"
-#include "engine/formula.h"
+#include "engine/formulas/evaluador.h"
+#include "engine/formulas/formula.h"
 #include "master/empresas.h"
 
 namespace nomira::cli {

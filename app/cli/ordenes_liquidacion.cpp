@@ -7,12 +7,12 @@
 #include "cli/ordenes.h"
 #include "common/numeros.h"
 #include "common/reloj.h"
-#include "engine/descuentos.h"
-#include "engine/explicacion.h"
-#include "engine/explicaciones.h"
-#include "engine/haberes.h"
-#include "engine/mes_en_pantalla.h"
-#include "engine/renglon.h"
+#include "engine/mes/descuentos.h"
+#include "engine/calculos/explicacion.h"
+#include "engine/mes/explicaciones.h"
+#include "engine/mes/haberes.h"
+#include "engine/mes/mes_en_pantalla.h"
+#include "engine/mes/renglon.h"
 
 namespace nomira::cli {
 

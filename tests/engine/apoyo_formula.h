@@ -9,7 +9,7 @@
 #include "apoyo/base_prueba.h"
 #include "apoyo/carpeta_temporal.h"
 #include "apoyo/dialogo_guion.h"
-#include "engine/formula.h"
+#include "engine/formulas/formula.h"
 #include "master/variables.h"
 #include "store/conexion.h"
 

@@ -3,7 +3,7 @@
 // persona (actividad, años al último día del mes, base y cantidad).
 #include <gtest/gtest.h>
 
-#include "engine/primas_antiguedad.h"
+#include "engine/calculos/primas_antiguedad.h"
 
 namespace nomira::engine {
 namespace {

@@ -3,10 +3,10 @@
 // líquidos que se van formando en el orden de los códigos.
 #include <gtest/gtest.h>
 
-#include "engine/aportes.h"
-#include "engine/aportes_lector.h"
+#include "engine/calculos/aportes.h"
+#include "engine/mes/aportes_lector.h"
 #include "engine/apoyo_formula.h"
-#include "engine/base_irpf.h"
+#include "engine/calculos/base_irpf.h"
 
 namespace nomira::engine {
 namespace {

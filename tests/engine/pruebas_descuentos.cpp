@@ -3,9 +3,9 @@
 // el adelanto de licencia de un jornalero con sus aportes de un momento.
 #include <gtest/gtest.h>
 
-#include "engine/descuentos.h"
-#include "engine/irp.h"
-#include "engine/irpf_licencia.h"
+#include "engine/mes/descuentos.h"
+#include "engine/calculos/irp.h"
+#include "engine/mes/irpf_licencia.h"
 #include "pruebas_descuentos_escenario.h"
 
 namespace nomira::engine {

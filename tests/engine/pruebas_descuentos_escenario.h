@@ -10,7 +10,7 @@
 #include "apoyo/base_prueba.h"
 #include "apoyo/carpeta_temporal.h"
 #include "apoyo/dialogo_guion.h"
-#include "engine/mes_persona.h"
+#include "engine/mes/mes_persona.h"
 #include "master/variables.h"
 
 namespace nomira::pruebas {

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "common/fallo.h"
-#include "engine/evaluador.h"
+#include "engine/formulas/evaluador.h"
 
 namespace nomira::engine {
 namespace {

@@ -5,10 +5,10 @@
 #include <algorithm>
 
 #include "common/numeros.h"
-#include "engine/descuentos.h"
-#include "engine/explicaciones.h"
-#include "engine/haberes.h"
-#include "engine/renglon.h"
+#include "engine/mes/descuentos.h"
+#include "engine/mes/explicaciones.h"
+#include "engine/mes/haberes.h"
+#include "engine/mes/renglon.h"
 #include "pruebas_descuentos_escenario.h"
 #include "store/crear.h"
 

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "apoyo/base_prueba.h"
-#include "engine/filas_mes.h"
+#include "engine/mes/filas_mes.h"
 #include "store/crear.h"
 #include "store/recordada.h"
 

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/apoyo_formula.h"
-#include "engine/haberes.h"
+#include "engine/mes/haberes.h"
 
 namespace nomira::engine {
 namespace {

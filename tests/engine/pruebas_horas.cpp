@@ -5,8 +5,8 @@
 
 #include <fstream>
 
-#include "engine/haberes.h"
-#include "engine/horas.h"
+#include "engine/mes/haberes.h"
+#include "engine/mes/horas.h"
 #include "pruebas_descuentos_escenario.h"
 
 namespace nomira::engine {

@@ -4,10 +4,10 @@
 #include <gtest/gtest.h>
 
 #include "engine/apoyo_formula.h"
-#include "engine/base_irpf.h"
-#include "engine/irpf.h"
-#include "engine/irpf_dic.h"
-#include "engine/irpf_lector.h"
+#include "engine/calculos/base_irpf.h"
+#include "engine/calculos/irpf.h"
+#include "engine/calculos/irpf_dic.h"
+#include "engine/mes/irpf_lector.h"
 
 namespace nomira::engine {
 namespace {

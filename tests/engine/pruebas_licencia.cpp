@@ -3,7 +3,7 @@
 // traza que imprime la pantalla de incidencias.
 #include <gtest/gtest.h>
 
-#include "engine/licencia_dias.h"
+#include "engine/calculos/licencia_dias.h"
 
 namespace nomira::engine {
 namespace {

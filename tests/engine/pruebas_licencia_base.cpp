@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "engine/apoyo_formula.h"
-#include "engine/licencia_lector.h"
-#include "engine/primas_antiguedad.h"
+#include "engine/mes/licencia_lector.h"
+#include "engine/calculos/primas_antiguedad.h"
 
 namespace nomira::engine {
 namespace {

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/apoyo_formula.h"
-#include "engine/calculo_licencia.h"
+#include "engine/calculos/calculo_licencia.h"
 
 namespace nomira::engine {
 namespace {

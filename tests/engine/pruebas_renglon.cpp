@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "common/numeros.h"
-#include "engine/renglon.h"
+#include "engine/mes/renglon.h"
 #include "pruebas_descuentos_escenario.h"
 
 namespace nomira::engine {

@@ -16,9 +16,9 @@
 #include <QTest>
 
 #include "common/formato.h"
-#include "engine/liquido.h"
-#include "engine/mes_persona.h"
-#include "engine/renglon.h"
+#include "engine/calculos/liquido.h"
+#include "engine/mes/mes_persona.h"
+#include "engine/mes/renglon.h"
 #include "frame/ventana/ventana_principal.h"
 #include "master/variables.h"
 #include "pantallas/apoyo_pantallas.h"

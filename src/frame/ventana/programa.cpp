@@ -10,7 +10,7 @@
 #include <iostream>
 
 #include "common/reloj.h"
-#include "engine/liquidacion_empresa.h"
+#include "engine/mes/liquidacion_empresa.h"
 #include "frame/arranque.h"
 #include "frame/carpeta.h"
 #include "frame/dialogo_consola.h"

@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <QWidget>
 
-#include "engine/empresa_mes.h"
+#include "engine/mes/empresa_mes.h"
 
 namespace nomira::pantallas {
 

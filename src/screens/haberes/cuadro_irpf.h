@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "common/dinero.h"
-#include "engine/irpf.h"
-#include "engine/irpf_dic.h"
+#include "engine/calculos/irpf.h"
+#include "engine/calculos/irpf_dic.h"
 
 namespace nomira::pantallas {
 

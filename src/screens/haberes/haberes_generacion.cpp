@@ -1,8 +1,8 @@
 // Form42: las generaciones de haberes y descuentos permanentes de la persona,
 // sus borrados, y las de toda la empresa con su avance.
 #include "common/fallo.h"
-#include "engine/descuentos.h"
-#include "engine/haberes.h"
+#include "engine/mes/descuentos.h"
+#include "engine/mes/haberes.h"
 #include "screens/haberes/pantalla_haberes.h"
 #include "screens/haberes/textos_haberes.h"
 

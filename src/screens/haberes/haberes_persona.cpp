@@ -3,7 +3,7 @@
 
 #include "common/formato.h"
 #include "common/numeros.h"
-#include "engine/mes_en_pantalla.h"
+#include "engine/mes/mes_en_pantalla.h"
 #include "master/empresas.h"
 #include "screens/haberes/pantalla_haberes.h"
 #include "screens/haberes/textos_haberes.h"

@@ -3,9 +3,9 @@
 #include "common/dinero.h"
 #include "common/numeros.h"
 #include "common/texto.h"
-#include "engine/explicaciones.h"
-#include "engine/filas_persona.h"
-#include "engine/irpf_lector.h"
+#include "engine/mes/explicaciones.h"
+#include "engine/mes/filas_persona.h"
+#include "engine/mes/irpf_lector.h"
 #include "screens/haberes/pantalla_haberes.h"
 #include "screens/haberes/textos_haberes.h"
 

@@ -14,10 +14,10 @@
 #include <string>
 #include <utility>
 
-#include "engine/descuentos.h"
-#include "engine/empresa_mes.h"
-#include "engine/mes_persona.h"
-#include "engine/renglon.h"
+#include "engine/mes/descuentos.h"
+#include "engine/mes/empresa_mes.h"
+#include "engine/mes/mes_persona.h"
+#include "engine/mes/renglon.h"
 #include "frame/ventana/campo_fecha.h"
 #include "frame/ventana/grilla.h"
 #include "frame/ventana/pantalla.h"

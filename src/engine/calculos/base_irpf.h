@@ -1,0 +1,48 @@
+#pragma once
+// La base del mes para el IRPF y los aportes (Desglose): gravado, total de
+// haberes, doceavo del aguinaldo, salario vacacional y el monto del IRPF con
+// el 6% que se le suma por encima de 10 BPC.
+#include <string>
+#include <vector>
+
+#include "common/dinero.h"
+#include "engine/mes/filas_mes.h"
+#include "engine/formulas/formula.h"
+#include "engine/calculos/liquido.h"
+
+namespace nomira::engine {
+
+struct EntradaDesglose {
+    FilasLeidas filas;             // habydesc del mes, haberes y descuentos
+    common::Dinero aguinaldosHab;  // filas Hab de aguinaldos del mes
+    common::Dinero salvacacional;  // salvacacional del mes, códigos 606 y 636
+    std::string tipoaporte, vinculofun;
+    double sueldo = 0, bpc = 0;
+};
+
+struct BaseMes {
+    common::Dinero montogravag, montosv, montograv, totalhab;
+    common::Dinero parteVacacional;          // salvacacional más las reliquidaciones de vacacional
+    common::Dinero montoirpf, montonominal;  // montonominal es también "M.Dedu."
+    bool conAdicion = false;                 // se sumó el 6% del gravado
+    LiquidoNeto liquido;
+};
+
+// ¿Tiene el vínculo la excepción de los dueños y directores (sin el 6%, sin
+// el aumento de la licencia adelantada)?
+bool vinculoSinAdicion(const std::string& vinculofun);
+
+BaseMes Desglose(const EntradaDesglose& e);
+// Cómo se llegó a la base, para quien la pide.
+std::string explicacion(const BaseMes& b);
+
+// Lee las filas del mes y arma la base.
+BaseMes leerDesglose(store::Conexion& base, const std::string& empresa, const std::string& nombre,
+                     const common::Mes& mes, const std::string& tipoaporte,
+                     const std::string& vinculofun, double sueldo, double bpc);
+
+// Lo que las fórmulas leen de la base: MONTOGRAV, MONTOGRAVAG, MONTOSV, TOTALHAB
+// y los tres líquidos.
+void volcarEnContexto(const BaseMes& b, ContextoFormula& ctx);
+
+}  // namespace nomira::engine

@@ -1,0 +1,66 @@
+#include "engine/calculos/irp.h"
+
+#include <cmath>
+
+#include "common/fallo.h"
+#include "common/numeros.h"
+#include "engine/mes/filas_persona.h"
+
+namespace nomira::engine {
+
+namespace {
+
+// Format(x, "#####0.00") vuelto a número.
+double aCentesimos(double x) {
+    return std::round(x * 100) / 100;
+}
+
+const FilaEscala* franjaNumero(const std::vector<FilaEscala>& franjas, long n) {
+    for (const auto& f : franjas)
+        if (f.franja == n) return &f;
+    return nullptr;
+}
+
+}  // namespace
+
+double irpDe(double monto, const std::vector<FilaEscala>& franjas, double bpc) {
+    if (bpc == 0) return 0;
+    const double enBpc = monto / bpc;
+    const FilaEscala* fila = nullptr;
+    for (const auto& f : franjas)
+        if (enBpc >= f.desde && enBpc < f.hasta) {
+            fila = &f;
+            break;
+        }
+    if (!fila) return 0;
+    const FilaEscala* previa =
+        fila->franja == 1 ? nullptr : franjaNumero(franjas, fila->franja - 1);
+    if (!previa) return monto * fila->tasa / 100;
+    const double topeNeto = previa->hasta * bpc * (1 - previa->tasa / 100);
+    const double neto = aCentesimos(monto * (1 - fila->tasa / 100));
+    if (neto > aCentesimos(topeNeto)) return monto * fila->tasa / 100;
+    return monto - topeNeto;
+}
+
+ResultadoIRP CalculoIRP(ContextoFormula& ctx) {
+    if (!ctx.variables) throw common::Fallo(91, "Variable de objeto o bloque With no establecida");
+    auto& base = baseDe(ctx);
+    ResultadoIRP r;
+    r.cant = ctx.textoCant.empty() ? 1 : common::textoANumero(ctx.textoCant);
+    double reliquidacion = 0;
+    if (!ctx.empresa.empty() && !ctx.nombre.empty())
+        if (const auto f =
+                filaPorConcepto(base, ctx.empresa, ctx.nombre, ctx.periodo, "RELIQUIDACION"))
+            reliquidacion = f->total.aDouble();
+    std::vector<FilaEscala> franjas;
+    for (const auto& f : base.consulta("SELECT * FROM franjasirp ORDER BY franja").filas)
+        franjas.push_back(
+            {static_cast<long>(f.entero("franja")), f.real("min"), f.real("max"), f.real("tasa")});
+    const double bpc = ctx.variables->valor("BPC");
+    const double gravado = ctx.montograv.aDouble() - reliquidacion;
+    r.total = irpDe(gravado, franjas, bpc);
+    if (reliquidacion != 0) r.total += irpDe(reliquidacion, franjas, bpc);
+    return r;
+}
+
+}  // namespace nomira::engine

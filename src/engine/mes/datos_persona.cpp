@@ -1,0 +1,88 @@
+#include "engine/mes/datos_persona.h"
+
+#include <array>
+
+#include "common/edad.h"
+#include "common/numeros.h"
+#include "common/texto.h"
+#include "master/catalogos.h"
+#include "store/like.h"
+
+namespace nomira::engine {
+
+namespace {
+
+bool enBlanco(const std::string& s) {
+    return s.find_first_not_of(' ') == std::string::npos;
+}
+
+// categoriadeducciones: nombre Like '*código' y nombre2 Like '*categoría'; el
+// código es lo anterior al guion de nombre2.
+std::string codigoCategoria(store::Conexion& base, const std::string& ded, const std::string& cat) {
+    // Armado una vez por motor: la corrida lo pide tres veces por persona.
+    static const auto sql = [] {
+        std::array<std::string, 2> s;
+        for (const auto m : {store::Motor::Sqlite, store::Motor::Postgres})
+            s[static_cast<std::size_t>(m)] = "SELECT nombre2 FROM categoriadeducciones WHERE " +
+                                             store::condicionLike(m, "nombre") + " AND " +
+                                             store::condicionLike(m, "nombre2") + " LIMIT 1";
+        return s;
+    }();
+    const auto r = base.consulta(sql[static_cast<std::size_t>(base.motor())],
+                                 {store::patronLike(common::patronCatalogo(ded)),
+                                  store::patronLike(common::patronCatalogo(cat))});
+    const std::string c = r.vacio() ? "" : common::codigoDeCatalogo(r.primera().texto("nombre2"));
+    return c.empty() ? "00" : c;
+}
+
+}  // namespace
+
+std::optional<DatosPersona> datosPersona(ContextoFormula& ctx) {
+    const auto& fila = personaDelContexto(ctx);
+    if (!fila) return std::nullopt;
+    const auto& f = *fila;
+    DatosPersona p;
+    p.tiposueldo = f.tiposueldo;
+    p.vinculofun = f.vinculofun;
+    p.socmedica = f.socmedica;
+    p.sueldo = common::textoANumero(f.sueldo);
+    p.cantbfc = common::textoANumero(f.cantbfc);
+    p.porcentajeben = {f.porcentajeben, f.porcentajeben2, f.porcentajeben3};
+    p.montoben = {f.montoben, f.montoben2, f.montoben3};
+    p.fechadesdeben = {f.fechadesdeben, f.fechadesdeben2, f.fechadesdeben3};
+    p.codigoded = {f.codigoded, f.codigoded2, f.codigoded3};
+    p.categoriaded = {f.categoriaded, f.categoriaded2, f.categoriaded3};
+    p.fechadesdeded = {f.fechadesdeded, f.fechadesdeded2, f.fechadesdeded3};
+    p.fila = fila;
+    return p;
+}
+
+Deducciones deduccionesDe(store::Conexion& base, const DatosPersona& p, const common::Mes& periodo,
+                          master::LectorVariables& variables, common::Dialogo* dialogo) {
+    Deducciones d;
+    const std::array<const std::string*, 3> causas = {&p.fila->causaben, &p.fila->causaben2,
+                                                      &p.fila->causaben3};
+    const std::array<const std::string*, 3> nacimientos = {
+        &p.fila->fechanacben, &p.fila->fechanacben2, &p.fila->fechanacben3};
+    for (int i = 0; i < 3; ++i) {
+        auto& dep = d.dependientes[i];
+        dep.causa = common::codigoDeCatalogo(*causas[i]);
+        dep.porcentaje = common::codigoDeCatalogo(p.porcentajeben[i]);
+        dep.multiplicador = enBlanco(p.montoben[i]) ? 1 : common::textoANumero(p.montoben[i]);
+        dep.fechadesde = p.fechadesdeben[i];
+        if (!enBlanco(*nacimientos[i])) {
+            dep.mayor = common::EsMayorde18(*nacimientos[i], periodo, dialogo);
+            if (const auto f = common::Fecha::desdeTexto(*nacimientos[i]))
+                dep.mesNacimiento = f->mes;
+        }
+        auto& c = d.casillas[i];
+        c.codigo = master::codigoEnCatalogo(base, "codigodeducciones", p.codigoded[i]);
+        if (c.codigo.empty()) c.codigo = "00";
+        c.categoria = codigoCategoria(base, p.codigoded[i], p.categoriaded[i]);
+        if (c.codigo == "03") c.valorVariable = variables.valor(p.categoriaded[i]);
+        c.fechadesde = p.fechadesdeded[i];
+    }
+    return d;
+}
+
+}  // namespace nomira::engine

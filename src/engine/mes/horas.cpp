@@ -1,0 +1,226 @@
+#include "engine/mes/horas.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+
+#include "common/fallo.h"
+#include "common/numeros.h"
+#include "common/texto.h"
+#include "engine/calculos/explicacion.h"
+#include "engine/mes/filas_persona.h"
+#include "engine/mes/mes_persona.h"
+#include "master/personal.h"
+
+namespace nomira::engine {
+
+namespace fs = std::filesystem;
+using common::Dinero;
+
+namespace {
+
+fs::path raiz() {
+    if (const char* r = std::getenv("NOMIRA_RAIZ"); r && *r) return r;
+    if (const char* h = std::getenv("HOME"); h && *h) return h;
+    return fs::current_path();
+}
+
+std::string dosCifras(int n) {
+    char b[8];
+    std::snprintf(b, sizeof b, "%02d", n % 100);
+    return b;
+}
+
+std::string nroempDe(store::Conexion& base, const std::string& empresa) {
+    const auto r = base.consulta("SELECT nroemp FROM empresas WHERE empresa = ?", {empresa});
+    return r.vacio() ? "0" : common::numeroATexto(common::textoANumero(r.primera().texto(0)));
+}
+
+// El concepto de la línea: haberes del tipo de sueldo de la persona o generales;
+// descuentos, cualquiera.
+std::optional<master::Concepto> conceptoDeLinea(store::Conexion& base, long codigo, bool descuentos,
+                                                const std::string& tiposueldo) {
+    const std::int64_t c = codigo;
+    const auto r =
+        descuentos
+            ? base.consulta(
+                  "SELECT codigo FROM conceptos WHERE codigo = ? AND tipo = 'Des' ORDER BY codigo",
+                  {c})
+            : base.consulta(
+                  "SELECT codigo FROM conceptos WHERE codigo = ? AND (especificode = ? OR "
+                  "especificode = 'G') AND tipo = 'Hab' ORDER BY codigo",
+                  {c, tiposueldo});
+    if (r.vacio()) return std::nullopt;
+    return master::leerConcepto(base, codigo);
+}
+
+}  // namespace
+
+std::string prefijoArchivosHoras() {
+    std::ifstream f(raiz() / "Software" / "Nomira" / "horas.txt");
+    std::string linea;
+    if (!f || !std::getline(f, linea)) return "";
+    while (!linea.empty() && (linea.back() == '\r' || linea.back() == '\n')) linea.pop_back();
+    return linea;
+}
+
+fs::path rutaArchivoHoras(const std::string& prefijo, const common::Mes& mes,
+                          const std::string& nroemp) {
+    return prefijo + dosCifras(mes.mes) + dosCifras(mes.anio) + nroemp + ".txt";
+}
+
+std::optional<fs::path> archivoHorasDelMes(const ContextoFormula& ctx) {
+    const auto prefijo = prefijoArchivosHoras();
+    if (prefijo.empty()) return std::nullopt;
+    const auto ruta = rutaArchivoHoras(prefijo, ctx.periodo, nroempDe(baseDe(ctx), ctx.empresa));
+    std::error_code ec;
+    if (!fs::is_regular_file(ruta, ec)) return std::nullopt;
+    return ruta;
+}
+
+std::optional<LineaHoras> leerLineaHoras(const std::string& linea) {
+    const auto barras = std::count(linea.begin(), linea.end(), '|');
+    if (barras != 2 && barras != 3) return std::nullopt;
+    std::vector<std::string> campos;
+    std::size_t desde = 0;
+    for (;;) {
+        const auto p = linea.find('|', desde);
+        campos.push_back(linea.substr(desde, p == std::string::npos ? p : p - desde));
+        if (p == std::string::npos) break;
+        desde = p + 1;
+    }
+    LineaHoras l;
+    l.nrofun = common::textoANumero(campos[0]);
+    l.codigo = static_cast<long>(common::textoANumero(campos[1]));
+    l.cantidad = common::textoANumero(campos[2]);
+    if (campos.size() == 4) l.importe = Dinero::desdeDouble(common::textoANumero(campos[3]));
+    return l;
+}
+
+ArchivoHoras leerArchivoHoras(const fs::path& ruta) {
+    std::ifstream f(ruta);
+    if (!f) throw common::Fallo(53, "No se encontró el archivo");
+    ArchivoHoras a;
+    std::string linea;
+    while (std::getline(f, linea)) {
+        if (!linea.empty() && linea.back() == '\r') linea.pop_back();
+        a.lineas.push_back(leerLineaHoras(linea));
+    }
+    return a;
+}
+
+namespace {
+
+std::optional<ArchivoHoras> leerDelMes(const ContextoFormula& ctx) {
+    const auto ruta = archivoHorasDelMes(ctx);
+    if (!ruta) return std::nullopt;
+    return leerArchivoHoras(*ruta);
+}
+
+// El archivo del mes: el de la corrida, leído con la primera persona que lo
+// pide; fuera de una corrida, buscado y leído ahora.
+ImportacionHoras importarDelMes(ContextoFormula& ctx, bool descuentos, common::Dialogo& dialogo) {
+    std::optional<ArchivoHoras> propio;
+    const std::optional<ArchivoHoras>* archivo = &propio;
+    if (auto* corrida = ctx.horasDeLaCorrida) {
+        if (!corrida->buscado) {
+            corrida->archivo = leerDelMes(ctx);
+            corrida->buscado = true;
+        }
+        archivo = &corrida->archivo;
+    } else {
+        propio = leerDelMes(ctx);
+    }
+    if (!*archivo) return {};
+    return importarHoras(ctx, **archivo, descuentos, dialogo);
+}
+
+}  // namespace
+
+ImportacionHoras CalculoCant(ContextoFormula& ctx, common::Dialogo& dialogo) {
+    return importarDelMes(ctx, false, dialogo);
+}
+
+ImportacionHoras CalculoCant2(ContextoFormula& ctx, common::Dialogo& dialogo) {
+    return importarDelMes(ctx, true, dialogo);
+}
+
+ImportacionHoras importarHoras(ContextoFormula& ctx, const ArchivoHoras& archivo, bool descuentos,
+                               common::Dialogo& dialogo) {
+    auto& base = baseDe(ctx);
+    const auto& mes = ctx.periodo;
+    const auto& persona = personaDelContexto(ctx);
+    const double nrofun = persona ? common::textoANumero(persona->nrofun) : 0;
+    const std::string tiposueldo = persona ? persona->tiposueldo : "";
+
+    // Los descuentos miran los haberes del mes para el SNIS del aguinaldo.
+    std::vector<FilaMes> habydesc;
+    int cantHab = 0;
+    if (descuentos) {
+        habydesc = leerFilasDelMes(base, TablaLiquidacion::Habydesc, ctx.empresa, ctx.nombre, mes);
+        cantHab = static_cast<int>(std::count_if(habydesc.begin(), habydesc.end(),
+                                                 [](auto& f) { return f.tipo == "Hab"; }));
+    }
+
+    ImportacionHoras r;
+    for (const auto& l : archivo.lineas) {
+        ctx.cantarchivo = 0;
+        ctx.importearchivo = Dinero();
+        if (!l || l->nrofun != nrofun) continue;
+        const auto concepto = conceptoDeLinea(base, l->codigo, descuentos, tiposueldo);
+        if (!concepto) continue;
+
+        ctx.cantarchivo = l->cantidad;
+        ctx.importearchivo = l->importe;
+        ctx.formula = concepto->formula;
+        ctx.textoCant.clear();
+        if (descuentos) ctx.psnis = 0;
+        CalculoFormula3(ctx, dialogo);
+        double cant = ctx.cant, total = ctx.total;
+        std::string exp = concepto->concepto + ": archivo " + numero(l->cantidad) + " / " +
+                          pesos(l->importe) + ", fórmula " + numero(cant) + " x " + numero(total);
+
+        if (descuentos) {
+            const bool unicoHaber = (tiposueldo == "H" || tiposueldo == "J") && cantHab == 1;
+            if (ctx.tipoaporte != "04" && (mes.mes == 6 || mes.mes == 12) && ctx.psnis > 3 &&
+                !unicoHaber) {
+                const auto aguinaldos = leerFilasDelMes(base, TablaLiquidacion::Aguinaldos,
+                                                        ctx.empresa, ctx.nombre, mes);
+                Dinero snisAg;
+                for (const auto& a : aguinaldos)
+                    if (empiezaCon(a.concepto, "SNIS")) {
+                        snisAg = a.total;
+                        break;
+                    }
+                ctx.montogravag = Dinero::desdeDouble(sumaHab(aguinaldos).aDouble() / 12);
+                total += ctx.montogravag.aDouble() * ctx.psnis / 100 - snisAg.aDouble();
+                exp += "; aguinaldo " + pesos(ctx.montogravag) + " x " + numero(ctx.psnis) +
+                       "% - " + pesos(snisAg);
+            }
+        } else if (const auto previa =
+                       filaPorCodigo(base, ctx.empresa, ctx.nombre, mes, l->codigo)) {
+            // Los haberes del archivo se suman a lo que ya había.
+            cant += previa->cant;
+            total += previa->total.aDouble();
+            exp += "; más lo que había " + numero(previa->cant) + " / " + pesos(previa->total);
+        }
+        ctx.cant = cant;
+        ctx.total = total;
+        auto fila = filaDeConcepto(*concepto, descuentos ? "Des" : "Hab");
+        fila.cant = cant;
+        fila.total = Dinero::desdeDouble(total);
+        escribirFila(base, TablaLiquidacion::Habydesc, ctx.empresa, ctx.nombre, mes, fila);
+        r.filas.push_back(fila);
+        r.explicacion += exp + "\n";
+
+        if (!descuentos && esConceptoHoras(common::mayusculas(concepto->concepto)))
+            if (auto j =
+                    actualizarJornadas(base, ctx.empresa, ctx.nombre, mes,
+                                       common::mayusculas(concepto->concepto), cant, ctx.htrab))
+                r.filas.push_back(*j);
+    }
+    return r;
+}
+
+}  // namespace nomira::engine
