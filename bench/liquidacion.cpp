@@ -111,8 +111,7 @@ void BM_LiquidacionDeLaEmpresa(benchmark::State& state) {
         const auto hab = engine::ActHamPermxEmpresa(*base, "ACME", mes, dialogo);
         segHaberes = segundosDesde(a);
         a = std::chrono::steady_clock::now();
-        master::LectorVariables variables(*base);
-        const auto des = engine::ActDesPermxEmpresa(*base, variables, "ACME", mes, dialogo);
+        const auto des = engine::ActDesPermxEmpresa(*base, "ACME", mes, dialogo);
         segDescuentos = segundosDesde(a);
         if (hab.fallo || des.fallo || hab.personas.size() != kPersonas ||
             des.personas.size() != kPersonas)

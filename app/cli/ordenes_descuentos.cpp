@@ -38,16 +38,15 @@ int descuentos(const Contexto& ctx, const OpcionesMes& o) {
     if (!mes) return 1;
     auto base = ctx.abrir();
     auto dialogo = ctx.dialogo();
-    master::LectorVariables variables(*base);
     const char* procedimiento = o.nombre.empty() ? "ActDesPermxEmpresa_Click" : "DescPerm_Click";
     try {
         if (!o.nombre.empty()) {
-            const auto r = engine::DescPerm(*base, variables, o.empresa, o.nombre, *mes, dialogo);
+            const auto r = engine::DescPerm(*base, o.empresa, o.nombre, *mes, dialogo);
             for (const auto& f : r.filas) mostrar(f);
             return r.hecho ? 0 : 1;
         }
         const auto r =
-            engine::ActDesPermxEmpresa(*base, variables, o.empresa, *mes, dialogo,
+            engine::ActDesPermxEmpresa(*base, o.empresa, *mes, dialogo,
                                        [](std::size_t i, std::size_t n, const std::string& nombre) {
                                            std::cerr << i << "/" << n << " " << nombre << '\n';
                                        });
@@ -68,18 +67,17 @@ int renglon(const Contexto& ctx, const OpcionesRenglon& o) {
     const auto mes = leerMes(o.mes);
     if (!mes) return 1;
     auto base = ctx.abrir();
-    master::LectorVariables variables(*base);
     auto dialogo = ctx.dialogo();
     if (o.periodo) dialogo.responderTexto(*o.periodo);
     engine::ContextoFormula c;
-    auto mp = engine::BuscarVerif(*base, variables, o.empresa, o.nombre, *mes, c, dialogo);
+    auto mp = engine::BuscarVerif(*base, o.empresa, o.nombre, *mes, c, dialogo);
     if (!mp) return 1;
     try {
-        const auto buscado = engine::buscarRenglon(*base, *mp, c, o.codigo, dialogo);
+        const auto buscado = engine::buscarRenglon(*mp, c, o.codigo, dialogo);
         if (!buscado) return 1;
         const std::string textoCant = o.cant.value_or(buscado->textoCant);
         const auto calculo =
-            engine::calcularRenglon(*base, *mp, c, buscado->concepto, textoCant, dialogo);
+            engine::calcularRenglon(*mp, c, buscado->concepto, textoCant, dialogo);
         if (!calculo) return 1;
         // Lo que queda en las casillas después del Enter en la cantidad; un
         // total tecleado reemplaza el calculado.

@@ -106,7 +106,11 @@ int formula(const Contexto& ctx, const OpcionesOrden& o) {
     c.periodo = *mes;
     c.textoCant = o.cant.value_or("");
     c.formula = o.texto;
-    if (const auto& p = engine::personaDelContexto(c)) engine::cargarPersona(c, *p);
+    const auto persona = master::leerPersona(*base, o.empresa, o.nombre);
+    if (persona) {
+        c.persona = &*persona;
+        engine::cargarPersona(c, *persona);
+    }
     if (const auto e = master::leerEmpresa(*base, o.empresa))
         c.tipoaporte = master::tipoaporteDe(*base, *e);
     ponerDatos(c, datos);  // después de la persona: un --dato la corrige

@@ -77,9 +77,8 @@ int liquidacion(const Contexto& ctx, const OpcionesLiquidacion& o) {
     if (!mes) return 1;
     auto base = ctx.abrir();
     auto dialogo = ctx.dialogo();
-    master::LectorVariables variables(*base);
     engine::ContextoFormula c;
-    const auto mp = engine::BuscarVerif(*base, variables, o.empresa, o.nombre, *mes, c, dialogo);
+    const auto mp = engine::BuscarVerif(*base, o.empresa, o.nombre, *mes, c, dialogo);
     if (!mp) return 1;
     // Los haberes primero, como las dos grillas.
     auto filas = engine::filasParaGrillas(*base, o.empresa, o.nombre, *mes);
@@ -128,14 +127,12 @@ int borrar(const Contexto& ctx, const OpcionesLiquidacion& o) {
             if (n >= 0) std::cout << "filas borradas: " << n << '\n';
             return 0;
         }
-        master::LectorVariables variables(*base);
         engine::ContextoFormula c;
-        const auto mp =
-            engine::BuscarVerif(*base, variables, o.empresa, o.nombre, *mes, c, dialogo);
+        auto mp = engine::BuscarVerif(*base, o.empresa, o.nombre, *mes, c, dialogo);
         if (!mp) return 1;
-        const auto buscado = engine::buscarRenglon(*base, *mp, c, o.codigo, dialogo);
+        const auto buscado = engine::buscarRenglon(*mp, c, o.codigo, dialogo);
         if (!buscado) return 1;
-        const auto m = engine::eliminarRenglon(*base, *mp, buscado->concepto, dialogo);
+        const auto m = engine::eliminarRenglon(*base, *mp, c, buscado->concepto, dialogo);
         return m && !m->empty() ? 1 : 0;
     } catch (const common::Fallo& f) {
         std::cerr << common::textoErrorInesperado(f,

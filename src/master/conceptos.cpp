@@ -2,7 +2,6 @@
 
 #include "common/formato.h"
 #include "store/like.h"
-#include "store/recordada.h"
 
 namespace nomira::master {
 
@@ -53,10 +52,10 @@ void primerConcepto(std::optional<Concepto>& c, const store::FilaAlPaso& f) {
 }  // namespace
 
 std::optional<Concepto> leerConcepto(store::Conexion& base, long codigo) {
-    // La corrida de los descuentos pide los mismos en cada persona: se
-    // convierten una vez.
-    return *store::consultaConvertida(base, "SELECT * FROM conceptos WHERE codigo = ?",
-                                      {std::int64_t{codigo}}, primerConcepto);
+    std::optional<Concepto> c;
+    base.recorrer("SELECT * FROM conceptos WHERE codigo = ?", {std::int64_t{codigo}},
+                  [&](const store::FilaAlPaso& f) { primerConcepto(c, f); });
+    return c;
 }
 
 std::vector<Concepto> listarConceptos(store::Conexion& base) {

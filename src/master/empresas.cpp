@@ -3,7 +3,6 @@
 #include "common/fechas.h"
 #include "master/catalogos.h"
 #include "store/like.h"
-#include "store/recordada.h"
 
 namespace nomira::master {
 
@@ -62,9 +61,10 @@ void primeraEmpresa(std::optional<Empresa>& e, const store::FilaAlPaso& f) {
 }  // namespace
 
 std::optional<Empresa> leerEmpresa(store::Conexion& base, const std::string& empresa) {
-    // Una corrida la pide por cada persona: se convierte una vez.
-    return *store::consultaConvertida(base, "SELECT * FROM empresas WHERE empresa = ?", {empresa},
-                                      primeraEmpresa);
+    std::optional<Empresa> e;
+    base.recorrer("SELECT * FROM empresas WHERE empresa = ?", {empresa},
+                  [&](const store::FilaAlPaso& f) { primeraEmpresa(e, f); });
+    return e;
 }
 
 std::string tipoaporteDe(store::Conexion& base, const Empresa& empresa) {

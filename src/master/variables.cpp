@@ -5,16 +5,28 @@
 
 namespace nomira::master {
 
-double LectorVariables::valor(std::string_view nombre) {
+std::optional<double> LectorVariables::buscar(std::string_view nombre) const {
     if (auto it = leidas_.find(nombre); it != leidas_.end()) return it->second;
+    if (!base_) return std::nullopt;
     // Las filas sin fecha van al final en los dos motores.
-    const auto r = base_.consulta(
+    const auto r = base_->consulta(
         "SELECT valor FROM definiciondevariables WHERE nombre = ? "
         "ORDER BY fecha IS NULL, fecha DESC LIMIT 1",
         {std::string(nombre)});
-    const double v = r.vacio() ? 0.0 : r.primera().real("valor");
+    std::optional<double> v;
+    if (!r.vacio()) v = r.primera().real("valor");
     leidas_.emplace(std::string(nombre), v);
     return v;
+}
+
+LectorVariables LectorVariables::todas(store::Conexion& base) {
+    LectorVariables l;
+    // De cada nombre, la primera fila en el mismo orden que una por una.
+    base.recorrer(
+        "SELECT nombre, valor FROM definiciondevariables ORDER BY nombre, fecha IS NULL, fecha "
+        "DESC",
+        {}, [&](const store::FilaAlPaso& f) { l.leidas_.try_emplace(f.texto(0), f.real(1)); });
+    return l;
 }
 
 }  // namespace nomira::master

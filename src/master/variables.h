@@ -16,18 +16,22 @@ namespace nomira::master {
 
 // Un lector por corrida de liquidación: recuerda cada nombre que ya leyó, así
 // una fórmula que se evalúa para muchas personas consulta la base una vez por
-// variable. Una corrida nueva crea un lector nuevo y vuelve a leer.
+// variable. Una corrida nueva crea un lector nuevo y vuelve a leer. `todas` las
+// lee de una vez al empezar y después no vuelve a la base.
 class LectorVariables {
   public:
-    explicit LectorVariables(store::Conexion& base) : base_(base) {}
+    explicit LectorVariables(store::Conexion& base) : base_(&base) {}
+    static LectorVariables todas(store::Conexion& base);
 
     // El valor de la fila con la fecha más nueva; 0 si no hay ninguna. El
     // nombre se compara tal como viene, distinguiendo mayúsculas.
-    double valor(std::string_view nombre);
-
-    store::Conexion& base() { return base_; }
+    double valor(std::string_view nombre) const { return buscar(nombre).value_or(0.0); }
+    // Nada si la variable no tiene filas.
+    std::optional<double> buscar(std::string_view nombre) const;
 
   private:
+    LectorVariables() = default;
+
     struct Hash {
         using is_transparent = void;
         std::size_t operator()(std::string_view s) const {
@@ -35,8 +39,8 @@ class LectorVariables {
         }
     };
 
-    store::Conexion& base_;
-    std::unordered_map<std::string, double, Hash, std::equal_to<>> leidas_;
+    store::Conexion* base_ = nullptr;  // nula si ya se leyeron todas
+    mutable std::unordered_map<std::string, std::optional<double>, Hash, std::equal_to<>> leidas_;
 };
 
 // Una fila de la tabla tal como se muestra: la fecha "dd/mm/aa".

@@ -185,4 +185,9 @@ std::unique_ptr<Conexion> abrir(const std::string& destino) {
     return std::make_unique<ConexionSqlite>(destino);
 }
 
+void bloquearClave(Conexion& c, std::string_view clave) {
+    if (c.motor() == Motor::Postgres)
+        c.consulta("SELECT pg_advisory_xact_lock(hashtextextended(?, 0))", {std::string(clave)});
+}
+
 }  // namespace nomira::store

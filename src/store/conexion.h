@@ -190,6 +190,13 @@ class Transaccion {
     bool hecha_ = false;
 };
 
+// Dentro de una transacción, espera a que ningún otro puesto tenga tomada la
+// misma clave y la toma hasta el fin de la transacción: así dos puestos que
+// escriben lo mismo van uno después del otro. En PostgreSQL es un bloqueo
+// consultivo de la transacción; en SQLite la transacción ya empezó IMMEDIATE y
+// ningún otro escribe mientras dure.
+void bloquearClave(Conexion& c, std::string_view clave);
+
 // Un texto vacío como Nulo: así se escriben las fechas y los números que
 // vienen de una casilla que puede quedar vacía.
 Valor textoONulo(std::string_view texto);

@@ -1,7 +1,10 @@
 #include "store/crear.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <functional>
+#include <map>
 
 #include "store/esquema.h"
 
@@ -26,7 +29,12 @@ constexpr Indice kIndices[] = {
     {"definiciondevariables", "nombre, fecha"},
     {"conceptos", "codigo"},
     {"concpermxpers", "empresa, nombre"},
-    {"explicacionesmes", "empresa, nombre, fecha"},
+    {"explicaciones", "empresa, nombre, fecha"},
+    // Las corridas de una empresa leen un mes (o un año) de todas sus personas.
+    {"habydesc", "empresa, fecha"},
+    {"egresos", "empresa, fecha"},
+    {"aguinaldos", "empresa, fecha"},
+    {"salvacacional", "empresa, fecha"},
 };
 
 void crearIndice(Conexion& c, const Indice& i) {
@@ -61,29 +69,47 @@ void crearTablasAuxiliares(Conexion& c) {
         if (indiceDe(i, tablasAuxiliares())) crearIndice(c, i);
 }
 
-// De la versión 2 a la 3: las explicaciones pasan de una fila por fila
-// liquidada (tabla explicaciones, con su código) a una por persona, mes y tabla.
-void juntarExplicaciones(Conexion& c) {
+// De la versión 4 a la 5: las explicaciones de la tabla explicacionesmes (las
+// de una persona, mes, tabla y tipo juntas en un texto, "código␟explicación"
+// separadas con ␞) pasan a una fila cada una. De un código repetido queda la
+// última; las sin tipo (de la versión 3) ceden ante las de tipo. Una base de la
+// versión 2 ya tenía una explicación por fila.
+void explicacionesPorFila(Conexion& c) {
     crearTablasAuxiliares(c);
-    if (!existeTabla(c, "explicaciones")) return;
-    const bool pg = c.motor() == Motor::Postgres;
-    c.ejecuta(std::string("INSERT INTO explicacionesmes (empresa, nombre, fecha, tabla, texto) "
-                          "SELECT empresa, nombre, fecha, tabla, ") +
-              (pg ? "string_agg(codigo::text || chr(31) || texto, chr(30))"
-                  : "group_concat(codigo || char(31) || texto, char(30))") +
-              " FROM explicaciones GROUP BY empresa, nombre, fecha, tabla");
-    c.ejecuta("DROP TABLE explicaciones");
+    for (const auto& i : kIndices) crearIndice(c, i);
+    if (!existeTabla(c, "explicacionesmes")) return;
+    const auto columnas = c.consulta("SELECT * FROM explicacionesmes WHERE 1 = 0").columnas;
+    const bool conTipo = std::find(columnas.begin(), columnas.end(), "tipo") != columnas.end();
+    // Por persona, mes y tabla: código y explicación.
+    std::map<std::array<std::string, 4>, std::map<std::int64_t, std::string>> porFila;
+    c.recorrer(std::string("SELECT empresa, nombre, fecha, tabla, texto FROM explicacionesmes") +
+                   (conTipo ? " ORDER BY tipo" : ""),
+               {}, [&](const FilaAlPaso& f) {
+                   auto& m = porFila[{f.texto(0), f.texto(1), f.texto(2), f.texto(3)}];
+                   const std::string texto = f.texto(4);
+                   std::size_t i = 0;
+                   while (i < texto.size()) {
+                       auto fin = texto.find('\x1e', i);
+                       if (fin == std::string::npos) fin = texto.size();
+                       const auto corte = texto.find('\x1f', i);
+                       std::int64_t codigo = 0;
+                       if (corte != std::string::npos && corte < fin &&
+                           std::from_chars(texto.data() + i, texto.data() + corte, codigo).ec ==
+                               std::errc())
+                           m[codigo] = texto.substr(corte + 1, fin - corte - 1);
+                       i = fin + 1;
+                   }
+               });
+    for (const auto& [k, m] : porFila)
+        for (const auto& [codigo, texto] : m)
+            c.ejecuta(
+                "INSERT INTO explicaciones (empresa, nombre, fecha, tabla, codigo, texto) VALUES "
+                "(?, ?, ?, ?, ?, ?)",
+                {k[0], k[1], k[2], k[3], codigo, texto});
+    c.ejecuta("DROP TABLE explicacionesmes");
 }
 
-// De la versión 3 a la 4: las explicaciones de un mes se separan por tipo de
-// fila. Las que ya estaban quedan con tipo "" (la 2 pasa por la 3 con la tabla
-// ya nueva: sólo les falta el tipo).
-void explicacionesPorTipo(Conexion& c) {
-    const auto columnas = c.consulta("SELECT * FROM explicacionesmes WHERE 1 = 0").columnas;
-    if (std::find(columnas.begin(), columnas.end(), "tipo") == columnas.end())
-        c.ejecuta("ALTER TABLE explicacionesmes ADD COLUMN tipo TEXT");
-    c.ejecuta("UPDATE explicacionesmes SET tipo = '' WHERE tipo IS NULL");
-}
+void sinCambios(Conexion&) {}
 
 // La fila única de configuracion. Impresoras vacías: la predeterminada del
 // sistema. Courier New 10 porque recibos y planillas se arman en columnas de
@@ -127,7 +153,8 @@ void fijarVersion(Conexion& c, int version) {
 // tablas: una base de la versión 0 es una base sin esquema.
 const std::vector<std::function<void(Conexion&)>>& pasos() {
     static const std::vector<std::function<void(Conexion&)>> lista = {
-        crearTablas, crearTablasAuxiliares, juntarExplicaciones, explicacionesPorTipo};
+        // La 3 y la 4 juntaban las explicaciones; la 5 las vuelve a separar.
+        crearTablas, crearTablasAuxiliares, sinCambios, sinCambios, explicacionesPorFila};
     return lista;
 }
 

@@ -4,8 +4,9 @@
 //
 // La versión vive en una tabla aparte, versionesquema(version INTEGER), con
 // una sola fila, para que los dos motores la lleven igual. La versión 2 agrega
-// las tablas auxiliares del programa (tablasAuxiliares()); la 3 guarda las
-// explicaciones de las filas liquidadas juntas por persona y mes.
+// las tablas auxiliares del programa (tablasAuxiliares()); la 5 guarda una
+// explicación por fila liquidada (la 3 y la 4 las guardaban juntas por persona
+// y mes) y busca las filas de una empresa por mes.
 #include <string>
 #include <vector>
 
@@ -13,7 +14,7 @@
 
 namespace nomira::store {
 
-constexpr int kVersionEsquema = 4;
+constexpr int kVersionEsquema = 5;
 
 // Crea lo que falte, en una transacción: tablas en su orden, índices, la fila
 // de configuracion con sus valores iniciales y la versión. Sobre una base ya

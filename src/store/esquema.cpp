@@ -122,11 +122,10 @@ Columna columna(const std::string& palabra) {
 }
 
 constexpr Definicion kAuxiliares[] = {
-    // Cómo se llegó a cada fila liquidada. tabla: "habydesc", "aguinaldos" o
-    // "egresos"; tipo: el de las filas, "Hab" o "Des" ("" en lo que venía de la
-    // versión 3). Una fila por persona, mes, tabla y tipo, con las de todas sus
-    // filas en texto: "código␟explicación", separadas con ␞ (caracteres 31 y 30).
-    {"explicacionesmes", "empresa nombre fecha tabla tipo texto"},
+    // Cómo se llegó a cada fila liquidada: una por fila, con la tabla
+    // ("habydesc", "egresos", "salvacacional") y el código de la fila; se
+    // escribe y se borra con ella.
+    {"explicaciones", "empresa nombre fecha tabla codigo:e texto"},
 };
 
 template <std::size_t N>

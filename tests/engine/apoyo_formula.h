@@ -10,6 +10,7 @@
 #include "apoyo/carpeta_temporal.h"
 #include "apoyo/dialogo_guion.h"
 #include "engine/formulas/formula.h"
+#include "engine/mes/lectura.h"
 #include "master/variables.h"
 #include "store/conexion.h"
 
@@ -52,8 +53,29 @@ class BaseFormula : public store::prueba::BasePrueba {
         c.variables = variables.get();
     }
 
+    // La ficha de c.empresa y c.nombre como la lee una corrida (nula si no está).
+    void leerPersona() {
+        ficha = master::leerPersona(*base, c.empresa, c.nombre);
+        c.persona = ficha ? &*ficha : nullptr;
+    }
+
+    // Lo que una corrida lee para c.empresa, c.nombre y c.periodo (la ficha, sus
+    // filas del mes y del año de la licencia, los maestros), con el contexto
+    // apuntando ahí. Devuelve las filas de la persona (nulas si no está).
+    engine::LibroPersona* leerMes() {
+        lectura = std::make_shared<engine::Lectura>(engine::leerCorrida(
+            *base, c.empresa, c.periodo, engine::mesesDelRenglon(c.periodo), c.nombre));
+        auto* p = lectura->persona(c.nombre);
+        c.maestros = &lectura->maestros;
+        c.variables = &lectura->maestros.variables;
+        c.persona = p ? p->ficha.get() : nullptr;
+        c.libro = p ? &p->libro : nullptr;
+        return c.libro;
+    }
+
     double total(const std::string& formula,
                  const engine::OpcionesFormula& op = engine::opcionesForm42()) {
+        leerPersona();
         c.formula = formula;
         engine::calcularFormula(c, op, dialogo);
         return c.total;
@@ -64,6 +86,8 @@ class BaseFormula : public store::prueba::BasePrueba {
     std::unique_ptr<master::LectorVariables> variables;
     DialogoGuion dialogo;
     engine::ContextoFormula c;
+    std::optional<master::Persona> ficha;
+    std::shared_ptr<engine::Lectura> lectura;
 };
 
 }  // namespace nomira::pruebas

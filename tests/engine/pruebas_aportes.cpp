@@ -5,6 +5,7 @@
 
 #include "engine/calculos/aportes.h"
 #include "engine/mes/aportes_lector.h"
+#include "engine/mes/escritura.h"
 #include "engine/apoyo_formula.h"
 #include "engine/calculos/base_irpf.h"
 
@@ -109,10 +110,12 @@ class AportesMes : public pruebas::BaseFormula {
     }
     DescuentoGenerado generar(long codigo, const std::string& concepto,
                               const std::string& formula) {
-        const auto b = leerDesglose(*base, "ACME", c.nombre, c.periodo, c.tipoaporte, "", 1, 6864);
+        const auto b = leerDesglose(*leerMes(), c.periodo, c.tipoaporte, "", 1, 6864);
         volcarEnContexto(b, c);
-        return generarDescuento(c, {codigo, concepto, formula, "%", "Si", "", "", "", ""},
-                                opcionesAportesForm42(), dialogo);
+        const auto r = generarDescuento(c, {codigo, concepto, formula, "%", "Si", "", "", "", ""},
+                                        opcionesAportesForm42(), dialogo);
+        escribirLibro(*base, *c.libro);
+        return r;
     }
     double totalFila(long codigo, std::string* texto = nullptr) {
         const auto r =

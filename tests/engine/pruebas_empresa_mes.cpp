@@ -74,14 +74,14 @@ TEST_P(EmpresaMes, CancelarEntrePersonasYLasQueNoEstanEnElMes) {
     // Cancelado después de la primera persona: las demás quedan sin tocar.
     int preguntas = 0;
     base->ejecuta("DELETE FROM habydesc");
+    const common::Mes marzo{2026, 3};
     r = recorrerEmpresa(
-        *base, "ACME", {2026, 3},
-        [&](store::Conexion& c, const master::PersonaCompartida& p) {
-            c.ejecuta(
-                "INSERT INTO habydesc (empresa, nombre, fecha, codigo) VALUES ('ACME', "
-                "?, '2026-03-01', 1)",
-                {p->nombre});
-            return ResultadoPersona{"ACME", p->nombre, {2026, 3}, true, "", {}};
+        *base, std::make_shared<Lectura>(leerCorrida(*base, "ACME", marzo, mesesDelMes(marzo))),
+        [&](const std::shared_ptr<Lectura>&, PersonaDelMes& p, bool) {
+            FilaMes f;
+            f.codigo = 1;
+            p.libro.escribir(TablaLiquidacion::Habydesc, marzo, f);
+            return ResultadoPersona{"ACME", p.ficha->nombre, marzo, true, "", {}};
         },
         {}, [&] { return ++preguntas > 1; });
     EXPECT_TRUE(r.cancelado);

@@ -82,7 +82,7 @@ class EstudioDemo : public store::prueba::BasePrueba {
         const auto h = ActHamPermxEmpresa(c(), empresa, kMes, dialogo, conArchivoDeHoras());
         ASSERT_FALSE(h.fallo) << h.personaFallida;
         master::LectorVariables variables(c());
-        const auto d = ActDesPermxEmpresa(c(), variables, empresa, kMes, dialogo);
+        const auto d = ActDesPermxEmpresa(c(), empresa, kMes, dialogo);
         ASSERT_FALSE(d.fallo) << d.personaFallida;
     }
 
@@ -119,10 +119,11 @@ TEST_P(EstudioDemo, LasFichasPasanLosControlesDeLaPantallaYLaConstructoraTieneSu
 TEST_P(EstudioDemo, CadaFormulaEstandarSeEvaluaSobreCadaPersona) {
     const auto conceptos = c().consulta("SELECT concepto, formula FROM conceptos ORDER BY codigo");
     ASSERT_GT(conceptos.filas.size(), 70u);
-    master::LectorVariables variables(c());
     for (const auto& p : personal()) {
         ContextoFormula ctx;
-        ASSERT_TRUE(BuscarVerif(c(), variables, p.empresa, p.nombre, kMes, ctx, dialogo));
+        // El mes leído vive mientras el contexto apunta a él.
+        const auto mp = BuscarVerif(c(), p.empresa, p.nombre, kMes, ctx, dialogo);
+        ASSERT_TRUE(mp);
         for (const auto& f : conceptos.filas) {
             SCOPED_TRACE(p.nombre + " / " + f.texto("concepto"));
             ctx.formula = f.texto("formula");

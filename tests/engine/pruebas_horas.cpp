@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "engine/mes/haberes.h"
+#include "engine/mes/escritura.h"
 #include "engine/mes/horas.h"
 #include "pruebas_descuentos_escenario.h"
 
@@ -54,8 +55,9 @@ TEST_P(Horas, HaberesSeSumanYLasLineasAjenasNoDejanRastro) {
     concepto(31, "EXTRA", "G", "", "Hab", "I", "No", "Si", "Si");
     fila("LOPEZ, EVA", marzo, 10, "HORAS", "Hab", 10, 1000);
     fila("LOPEZ, EVA", marzo, 11, "HORAS NOCTURNAS", "Hab", 6, 720);
-    ASSERT_TRUE(mesDe("LOPEZ, EVA", marzo));
     // Sin archivo del mes no pasa nada.
+    const auto sinArchivo = mesDe("LOPEZ, EVA", marzo);
+    ASSERT_TRUE(sinArchivo);
     EXPECT_TRUE(CalculoCant(ctx, dialogo).filas.empty());
 
     archivo(marzo,
@@ -67,7 +69,11 @@ TEST_P(Horas, HaberesSeSumanYLasLineasAjenasNoDejanRastro) {
             "12|502|1\r\n"     // un descuento no entra con los haberes
             "12|1|1|2|3\r\n"   // cuatro barras
             "12|31|2|250.5");  // fórmula vacía: el importe del archivo
+    // El archivo se lee con el mes, y lo importado se escribe con la persona.
+    auto mp = mesDe("LOPEZ, EVA", marzo);
+    ASSERT_TRUE(mp);
     const auto r = CalculoCant(ctx, dialogo);
+    escribirLibro(*base, mp->libro());
     double cant = 0;
     // 10 + 40 + 5 horas; 1000 + 100 x 40 + 100 x 5.
     EXPECT_EQ(total("LOPEZ, EVA", marzo, 10, nullptr, &cant), 5500);
@@ -107,15 +113,19 @@ TEST_P(Horas, DescuentosSeReemplazanConElSNISDelAguinaldo) {
     archivo(junio, "12|502|1\n12|10|8\n");
     // El único haber del mes: sin complemento. 20000 > 17160, sin cónyuge: 4.5%.
     // El SNIS reemplaza al que había (50) y las horas no entran (es un descuento).
-    ASSERT_TRUE(mesDe("LOPEZ, EVA", junio));
+    auto mp = mesDe("LOPEZ, EVA", junio);
+    ASSERT_TRUE(mp);
     CalculoCant2(ctx, dialogo);
+    escribirLibro(*base, mp->libro());
     EXPECT_EQ(total("LOPEZ, EVA", junio, 502), 900);
     EXPECT_EQ(total("LOPEZ, EVA", junio, 10), 20000);
 
     // Con un segundo haber: 900 + 12000 / 12 x 4.5% - 30 ya retenido = 915.
     fila("LOPEZ, EVA", junio, 30, "PREMIO", "Hab", 1, 0);
-    ASSERT_TRUE(mesDe("LOPEZ, EVA", junio));
+    mp = mesDe("LOPEZ, EVA", junio);
+    ASSERT_TRUE(mp);
     CalculoCant2(ctx, dialogo);
+    escribirLibro(*base, mp->libro());
     EXPECT_EQ(total("LOPEZ, EVA", junio, 502), 915);
 }
 

@@ -188,7 +188,7 @@ TEST_P(IRPFMes, SobreDiezBPCConHijoYCasilla02Categoria04) {
     fila(502, "SNIS 4.5%", "Des", 4633.20);
     fila(503, "FRL 0.10%", "Des", 102.96);
     fila(600, "ADELANTOS", "Des", 5000);  // no es aporte: no se deduce
-    const auto b = leerDesglose(*base, "ACME", c.nombre, c.periodo, "", "", 102960, kBPC);
+    const auto b = leerDesglose(*leerMes(), c.periodo, "", "", 102960, kBPC);
     // Pasa de 10 BPC: + 6% de 102960 = 6177.60; el nominal no lo lleva.
     EXPECT_EQ(b.montoirpf, d(109137.60));
     EXPECT_EQ(b.montonominal, d(102960));
@@ -225,6 +225,7 @@ TEST_P(IRPFMes, DiciembreConBeneficiarioDesdeOctubre) {
     // Base 960000: 45158.40 de escala; aguinaldo 20000 al 15% = 3000.
     // Deducciones 11440 x 3 = 34320 al 14% = 4804.80.
     // 45158.40 - 4804.80 + 3000 - 1000 = 42353.60.
+    leerMes();
     const auto r = CalculoIRPFDic(c, false, dialogo);
     EXPECT_EQ(r.totalmontoded, d(34320));
     EXPECT_EQ(r.total, d(42353.60));

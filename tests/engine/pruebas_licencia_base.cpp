@@ -5,7 +5,8 @@
 
 #include "engine/apoyo_formula.h"
 #include "engine/mes/licencia_lector.h"
-#include "engine/calculos/primas_antiguedad.h"
+#include "engine/mes/lectura.h"
+#include "engine/mes/primas_antiguedad_lector.h"
 
 namespace nomira::engine {
 namespace {
@@ -20,7 +21,10 @@ class DiasLicenciaBase : public pruebas::BaseFormula {
                       {c.nombre, fecha, concepto, cant});
     }
     std::optional<DiasLicencia> dias(PantallaLicencia p = PantallaLicencia::Form42) {
-        return CalculoDiasaGozar(*base, "ACME", c.nombre, 2026, dialogo, p);
+        auto l = leerCorrida(*base, "ACME", {2026, 1}, mesesDelRenglon({2026, 1}), c.nombre);
+        auto* persona = l.persona(c.nombre);
+        if (!persona) return std::nullopt;
+        return CalculoDiasaGozar(*persona->ficha, persona->libro, 2026, dialogo, p);
     }
 };
 NOMIRA_PARA_CADA_MOTOR(DiasLicenciaBase);
@@ -124,7 +128,10 @@ class AntiguedadBase : public pruebas::BaseFormula {
             {categoria, store::textoONulo(fechafin), sueldo});
     }
     std::optional<PrimaAntiguedad> prima() {
-        return CalculoAntiguedad(*base, *variables, "ACME", c.nombre, "", {2026, 3}, dialogo);
+        const auto maestros = leerMaestros(*base, "ACME", {2026, 3});
+        const auto persona = master::leerPersona(*base, "ACME", c.nombre);
+        if (!persona) return std::nullopt;
+        return CalculoAntiguedad(maestros, *persona, "", {2026, 3}, dialogo);
     }
 };
 NOMIRA_PARA_CADA_MOTOR(AntiguedadBase);
@@ -159,13 +166,12 @@ TEST_P(AntiguedadBase, SueldoMinimoDelCadeteYBPC) {
     EXPECT_TRUE(dialogo.mensajes.empty());
 }
 
-TEST_P(AntiguedadBase, UnFalloSeAvisaYDejaLaFormula) {
+// Los sueldos mínimos se leen con los maestros, antes de calcular: sin su tabla
+// la corrida no empieza, en lugar de fallar a mitad de una persona.
+TEST_P(AntiguedadBase, SinLaTablaDeSueldosMinimosNoSeEmpieza) {
     base->ejecuta("DROP TABLE histsueldosmin");
-    EXPECT_FALSE(prima());
-    ASSERT_EQ(dialogo.mensajes.size(), 1u);
-    EXPECT_EQ(dialogo.mensajes[0].texto.rfind("Error inesperado ", 0), 0u);
-    EXPECT_NE(dialogo.mensajes[0].texto.find(" en CalculoAntiguedad6 del Form42 \n"),
-              std::string::npos);
+    EXPECT_THROW(prima(), common::Fallo);
+    EXPECT_TRUE(dialogo.mensajes.empty());
 }
 
 }  // namespace

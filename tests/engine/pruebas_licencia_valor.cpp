@@ -101,7 +101,8 @@ class LicenciaBase : public pruebas::BaseFormula {
     }
     ImporteLicencia licencia(const std::string& dias) {
         const auto consejo = consejoDeLaEmpresa(*base, "ACME");
-        return CalculoLicencia(*base, c, dias, consejo.grupo, consejo.subgrupo, dialogo);
+        leerMes();
+        return CalculoLicencia(c, dias, consejo.grupo, consejo.subgrupo, dialogo);
     }
 };
 NOMIRA_PARA_CADA_MOTOR(LicenciaBase);

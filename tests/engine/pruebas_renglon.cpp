@@ -19,9 +19,9 @@ class Renglon : public pruebas::EscenarioMes {
                         std::optional<std::string> totalTecleado = std::nullopt) {
         auto mp = mesDe(nombre, marzo);
         if (!mp) return "sin persona";
-        const auto b = buscarRenglon(*base, *mp, ctx, codigo, dialogo);
+        const auto b = buscarRenglon(*mp, ctx, codigo, dialogo);
         if (!b) return dialogo.ultimoMensaje();
-        const auto c = calcularRenglon(*base, *mp, ctx, b->concepto, cant, dialogo);
+        const auto c = calcularRenglon(*mp, ctx, b->concepto, cant, dialogo);
         if (!c) return "cortado";
         ultimo = *c;
         const auto m = guardarRenglon(
@@ -32,7 +32,7 @@ class Renglon : public pruebas::EscenarioMes {
     std::string eliminar(const std::string& nombre, long codigo) {
         auto mp = mesDe(nombre, marzo);
         const auto c = master::leerConcepto(*base, codigo);
-        return eliminarRenglon(*base, *mp, *c, dialogo).value_or("borrada");
+        return eliminarRenglon(*base, *mp, ctx, *c, dialogo).value_or("borrada");
     }
     CalculoRenglon ultimo;
 };
@@ -94,7 +94,7 @@ TEST_P(Renglon, DosLicenciasDeUnMensual) {
     // Cero días: el aviso y cantidad y total en 0.
     auto mp = mesDe("PEREZ, JUAN", marzo);
     const auto lic = master::leerConcepto(*base, 20);
-    const auto cero = calcularRenglon(*base, *mp, ctx, *lic, "0", dialogo);
+    const auto cero = calcularRenglon(*mp, ctx, *lic, "0", dialogo);
     ASSERT_TRUE(cero);
     EXPECT_EQ(cero->total, common::Dinero());
     EXPECT_EQ(dialogo.ultimoMensaje(), "La cantidad de días de licencia no puede ser cero.");
@@ -131,7 +131,7 @@ TEST_P(Renglon, HorasLlevanLasJornadasDelMes) {
     EXPECT_EQ(cant, 7);
     // El código de las jornadas propone ese mismo número.
     auto mp = mesDe("LOPEZ, EVA", marzo);
-    EXPECT_EQ(buscarRenglon(*base, *mp, ctx, 12, dialogo)->textoCant, "7");
+    EXPECT_EQ(buscarRenglon(*mp, ctx, 12, dialogo)->textoCant, "7");
     // Un total tecleado reemplaza al calculado.
     ASSERT_EQ(teclear("LOPEZ, EVA", 30, "2", "999.5"), "");
     EXPECT_EQ(total("LOPEZ, EVA", marzo, 30), 999.5);

@@ -97,17 +97,21 @@ TEST_P(CopiaBase, IdaYVueltaDejaLasMismasFilas) {
 TEST_P(CopiaBase, UnOrigenAnteriorSePoneAlDiaAntesDeCopiarse) {
     auto origen = sqlite("origen.db");
     llenar(*origen);
-    origen->ejecuta("DROP TABLE explicacionesmes");
+    // Una base de la versión 3, con las explicaciones juntas por persona y mes.
+    origen->ejecuta("DROP TABLE explicaciones");
     origen->ejecuta(
-        "CREATE TABLE explicaciones (empresa TEXT, nombre TEXT, fecha TEXT, tabla TEXT, codigo "
-        "INTEGER, texto TEXT)");
+        "CREATE TABLE explicacionesmes (empresa TEXT, nombre TEXT, fecha TEXT, tabla TEXT, "
+        "texto TEXT)");
     origen->ejecuta(
-        "INSERT INTO explicaciones VALUES ('E', 'N', '2026-02-01', 'habydesc', 7, 'siete')");
-    origen->ejecuta("UPDATE versionesquema SET version = 2");
+        "INSERT INTO explicacionesmes VALUES ('E', 'N', '2026-02-01', 'habydesc', ?)",
+        {std::string("7\x1f" "siete\x1e" "8\x1f" "ocho")});
+    origen->ejecuta("UPDATE versionesquema SET version = 3");
     maintenance::copiarBase(*origen, c());
-    const auto r = c().consulta("SELECT nombre, texto FROM explicacionesmes");
-    ASSERT_EQ(r.filas.size(), 1u);
-    EXPECT_EQ(r.primera().texto("texto"), "7\x1fsiete");
+    const auto r = c().consulta("SELECT codigo, texto FROM explicaciones ORDER BY codigo");
+    ASSERT_EQ(r.filas.size(), 2u);
+    EXPECT_EQ(r.primera().entero("codigo"), 7);
+    EXPECT_EQ(r.primera().texto("texto"), "siete");
+    EXPECT_EQ(r.filas[1].texto("texto"), "ocho");
     EXPECT_EQ(store::versionEsquema(*origen), store::kVersionEsquema);
 }
 

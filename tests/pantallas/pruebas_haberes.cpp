@@ -165,14 +165,14 @@ TEST_F(PantallaHaberes, UnMesEnteroDesdeElTeclado) {
     // Las mismas cifras que el motor, leídas por su cuenta.
     EXPECT_EQ(texto("totalhab"), pesos(sumaTipo("PEREZ, JUAN", "Hab")));
     EXPECT_EQ(texto("totaldes"), pesos(sumaTipo("PEREZ, JUAN", "Des")));
-    const auto liquido = engine::CalculoLiquidoNeto(*sesion.base, "ACME", "PEREZ, JUAN", febrero,
-                                                    engine::opcionesLiquidoForm42());
-    EXPECT_EQ(texto("liquidoneto"), pesos(liquido.liquidoneto.aDouble()));
-    master::LectorVariables variables(*sesion.base);
     engine::ContextoFormula ctx;
     const auto mp =
-        engine::BuscarVerif(*sesion.base, variables, "ACME", "PEREZ, JUAN", febrero, ctx, dialogo);
+        engine::BuscarVerif(*sesion.base, "ACME", "PEREZ, JUAN", febrero, ctx, dialogo);
     ASSERT_TRUE(mp);
+    const auto liquido =
+        engine::liquidoNeto(mp->libro().filas(engine::TablaLiquidacion::Habydesc, febrero),
+                            engine::opcionesLiquidoForm42());
+    EXPECT_EQ(texto("liquidoneto"), pesos(liquido.liquidoneto.aDouble()));
     EXPECT_EQ(texto("montoirpf"), pesos(mp->desglose.montoirpf.aDouble()));
     EXPECT_EQ(texto("montodedu"), pesos(mp->desglose.montonominal.aDouble()));
     // El recuadro del IRPF quedó con la base del mes de la fila IRPF.

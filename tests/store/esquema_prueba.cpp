@@ -131,19 +131,19 @@ TEST_P(Esquema, VersionRegistradaYMigrarNoRepite) {
     migrar(c());
     EXPECT_EQ(versionEsquema(c()), kVersionEsquema);
     EXPECT_EQ(c().consulta("SELECT * FROM versionesquema").filas.size(), 1u);
-    // Las 39, versionesquema y explicacionesmes.
+    // Las 39, versionesquema y explicaciones.
     EXPECT_EQ(tablasDeLaBase(c()).size(), 41u);
 
     // Una base con las tablas de la primera versión pero sin versión (traída de
     // otro lado) se toma como la 1 y se pone al día sin perder datos.
     c().ejecuta("INSERT INTO paises (nombre) VALUES (?)", {std::string("858-URUGUAY")});
     c().ejecuta("DROP TABLE versionesquema");
-    c().ejecuta("DROP TABLE explicacionesmes");
+    c().ejecuta("DROP TABLE explicaciones");
     EXPECT_EQ(versionEsquema(c()), 0);
     crearBase(c());
     EXPECT_EQ(versionEsquema(c()), kVersionEsquema);
     EXPECT_EQ(c().consulta("SELECT * FROM paises").filas.size(), 1u);
-    EXPECT_TRUE(c().consulta("SELECT * FROM explicacionesmes").vacio());
+    EXPECT_TRUE(c().consulta("SELECT * FROM explicaciones").vacio());
 }
 
 TEST_P(EsquemaVacio, MigrarDesdeNadaCreaLasTablas) {

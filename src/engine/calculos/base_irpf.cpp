@@ -38,14 +38,13 @@ BaseMes Desglose(const EntradaDesglose& e) {
     return b;
 }
 
-BaseMes leerDesglose(store::Conexion& base, const std::string& empresa, const std::string& nombre,
-                     const common::Mes& mes, const std::string& tipoaporte,
-                     const std::string& vinculofun, double sueldo, double bpc) {
+BaseMes leerDesglose(const LibroPersona& libro, const common::Mes& mes,
+                     const std::string& tipoaporte, const std::string& vinculofun, double sueldo,
+                     double bpc) {
     EntradaDesglose e;
-    e.filas = leerFilasDelMes(base, TablaLiquidacion::Habydesc, empresa, nombre, mes);
-    e.aguinaldosHab =
-        sumaHab(leerFilasDelMes(base, TablaLiquidacion::Aguinaldos, empresa, nombre, mes));
-    for (const auto& s : leerSalvacacional(base, empresa, nombre, mes, mes))
+    e.filas = libro.filas(TablaLiquidacion::Habydesc, mes);
+    e.aguinaldosHab = sumaHab(libro.filas(TablaLiquidacion::Aguinaldos, mes));
+    for (const auto& s : libro.filas(TablaLiquidacion::Salvacacional, mes))
         if (s.codigo == 606 || s.codigo == 636) e.salvacacional += s.total;
     e.tipoaporte = tipoaporte;
     e.vinculofun = vinculofun;

@@ -9,11 +9,12 @@
 #include "engine/mes/filas_mes.h"
 #include "engine/formulas/formula.h"
 #include "engine/calculos/liquido.h"
+#include "engine/mes/libro.h"
 
 namespace nomira::engine {
 
 struct EntradaDesglose {
-    FilasLeidas filas;             // habydesc del mes, haberes y descuentos
+    std::vector<FilaMes> filas;    // habydesc del mes, haberes y descuentos
     common::Dinero aguinaldosHab;  // filas Hab de aguinaldos del mes
     common::Dinero salvacacional;  // salvacacional del mes, códigos 606 y 636
     std::string tipoaporte, vinculofun;
@@ -36,10 +37,10 @@ BaseMes Desglose(const EntradaDesglose& e);
 // Cómo se llegó a la base, para quien la pide.
 std::string explicacion(const BaseMes& b);
 
-// Lee las filas del mes y arma la base.
-BaseMes leerDesglose(store::Conexion& base, const std::string& empresa, const std::string& nombre,
-                     const common::Mes& mes, const std::string& tipoaporte,
-                     const std::string& vinculofun, double sueldo, double bpc);
+// La base del mes sobre las filas de la persona.
+BaseMes leerDesglose(const LibroPersona& libro, const common::Mes& mes,
+                     const std::string& tipoaporte, const std::string& vinculofun, double sueldo,
+                     double bpc);
 
 // Lo que las fórmulas leen de la base: MONTOGRAV, MONTOGRAVAG, MONTOSV, TOTALHAB
 // y los tres líquidos.

@@ -6,6 +6,8 @@
 #include "common/texto.h"
 #include "engine/calculos/explicacion.h"
 #include "engine/calculos/licencia_dias.h"
+#include "engine/mes/libro.h"
+#include "engine/mes/maestros.h"
 #include "master/catalogos.h"
 #include "master/empresas.h"
 #include "master/personal.h"
@@ -116,11 +118,11 @@ ImporteLicencia calcularLicencia(const EntradaLicencia& e, const EvaluarIncidenc
     return r;
 }
 
-ImporteLicencia CalculoLicencia(store::Conexion& base, const ContextoFormula& ctx,
-                                const std::string& textoDias, int grupo, int subgrupo,
-                                common::Dialogo& dialogo) {
-    const auto persona = master::leerPersona(base, ctx.empresa, ctx.nombre);
+ImporteLicencia CalculoLicencia(const ContextoFormula& ctx, const std::string& textoDias, int grupo,
+                                int subgrupo, common::Dialogo& dialogo) {
+    const auto* persona = ctx.persona;
     if (!persona) return {};
+    const auto& libro = libroDe(ctx);
     EntradaLicencia e;
     e.tiposueldo = persona->tiposueldo;
     e.grupo = grupo;
@@ -129,17 +131,14 @@ ImporteLicencia CalculoLicencia(store::Conexion& base, const ContextoFormula& ct
     e.htrab = ctx.htrab;
     e.dias = textoDias.empty() ? 1 : common::textoANumero(textoDias);
 
-    const auto mes = [&](const common::Mes& m) {
-        return base.consulta(
-            "SELECT codigo, concepto, unidad, lic, cant, total FROM habydesc WHERE empresa = ? "
-            "AND nombre = ? AND fecha = ? ORDER BY codigo",
-            {ctx.empresa, ctx.nombre, m.primerDia().iso()});
+    const auto mes = [&](const common::Mes& m) -> const std::vector<FilaMes>& {
+        return libro.filas(TablaLiquidacion::Habydesc, m);
     };
-    for (const auto& f : mes(ctx.periodo).filas) {
-        const auto c = common::mayusculas(f.texto("concepto"));
+    for (const auto& f : mes(ctx.periodo)) {
+        const auto c = common::mayusculas(f.concepto);
         for (const std::string raiz : {"ANTIGUEDAD", "ALIMENTACION"})
             if (c == raiz || c == raiz + " 2DA ACT" || c == raiz + " 3RA ACT")
-                e.ant += f.real("total");
+                e.ant += f.total.aDouble();
     }
 
     const auto tramo = tramoLicencia(ctx.periodo, mesDe(actividadDeLicencia(*persona).ingreso));
@@ -147,29 +146,26 @@ ImporteLicencia CalculoLicencia(store::Conexion& base, const ContextoFormula& ct
     // Por código, en orden: lo sumado en el tramo de las filas con licencia.
     std::map<long, IncidenciaLicencia> porCodigo;
     for (const auto& m : tramo.meses) {
-        for (const auto& f : mes(m).filas) {
-            const auto c = common::mayusculas(f.texto("concepto"));
-            if (e.tiposueldo != "S" && cuentaEnDiasmes(c, e.tiposueldo))
-                e.diasmes += f.real("cant");
-            if (f.texto("lic") != "Si") continue;
-            auto& inc = porCodigo[static_cast<long>(f.entero("codigo"))];
+        for (const auto& f : mes(m)) {
+            const auto c = common::mayusculas(f.concepto);
+            if (e.tiposueldo != "S" && cuentaEnDiasmes(c, e.tiposueldo)) e.diasmes += f.cant;
+            if (f.lic != "Si") continue;
+            auto& inc = porCodigo[f.codigo];
             if (inc.concepto.empty()) {
-                inc.codigo = static_cast<long>(f.entero("codigo"));
-                inc.concepto = f.texto("concepto");
-                inc.unidad = f.texto("unidad");
+                inc.codigo = f.codigo;
+                inc.concepto = f.concepto;
+                inc.unidad = f.unidad;
             }
             if (inc.unidad == "T")
-                inc.cant += f.real("cant");
+                inc.cant += f.cant;
             else
-                inc.total += common::Dinero::desdeDouble(f.real("total"));
+                inc.total += f.total;
         }
         if (e.tiposueldo == "S") e.diasmes += 30;
     }
     for (auto& [codigo, inc] : porCodigo) {
         if (e.incidencias.size() == kMaxIncidenciasLicencia) break;
-        const auto r =
-            base.consulta("SELECT formula FROM conceptos WHERE codigo = ?", {std::int64_t{codigo}});
-        if (!r.vacio()) inc.formula = r.primera().texto("formula");
+        if (const auto* c = maestrosDe(ctx).conceptos.porCodigo(codigo)) inc.formula = c->formula;
         e.incidencias.push_back(inc);
     }
 

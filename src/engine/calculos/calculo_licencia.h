@@ -85,9 +85,9 @@ using EvaluarIncidencia = std::function<double(const IncidenciaLicencia&)>;
 // con incidencias falla como la división por cero.
 ImporteLicencia calcularLicencia(const EntradaLicencia& e, const EvaluarIncidencia& evaluar);
 
-// Todo desde la base: ctx trae empresa, nombre, periodo, variables y los
-// sueldos de la persona; textoDias es la casilla de cantidad (vacía = 1).
-ImporteLicencia CalculoLicencia(store::Conexion& base, const ContextoFormula& ctx,
+// Sobre lo leído: ctx trae la persona, sus filas, el período, las variables y
+// los sueldos de la persona; textoDias es la casilla de cantidad (vacía = 1).
+ImporteLicencia CalculoLicencia(const ContextoFormula& ctx,
                                 const std::string& textoDias, int grupo, int subgrupo,
                                 common::Dialogo& dialogo);
 

@@ -4,7 +4,8 @@
 
 #include "common/fallo.h"
 #include "common/numeros.h"
-#include "engine/mes/filas_persona.h"
+#include "engine/mes/libro.h"
+#include "engine/mes/maestros.h"
 
 namespace nomira::engine {
 
@@ -43,20 +44,16 @@ double irpDe(double monto, const std::vector<FilaEscala>& franjas, double bpc) {
 }
 
 ResultadoIRP CalculoIRP(ContextoFormula& ctx) {
-    if (!ctx.variables) throw common::Fallo(91, "Variable de objeto o bloque With no establecida");
-    auto& base = baseDe(ctx);
+    const auto& maestros = maestrosDe(ctx);
     ResultadoIRP r;
     r.cant = ctx.textoCant.empty() ? 1 : common::textoANumero(ctx.textoCant);
     double reliquidacion = 0;
     if (!ctx.empresa.empty() && !ctx.nombre.empty())
-        if (const auto f =
-                filaPorConcepto(base, ctx.empresa, ctx.nombre, ctx.periodo, "RELIQUIDACION"))
+        if (const auto* f = libroDe(ctx).porConcepto(TablaLiquidacion::Habydesc, ctx.periodo,
+                                                     "RELIQUIDACION"))
             reliquidacion = f->total.aDouble();
-    std::vector<FilaEscala> franjas;
-    for (const auto& f : base.consulta("SELECT * FROM franjasirp ORDER BY franja").filas)
-        franjas.push_back(
-            {static_cast<long>(f.entero("franja")), f.real("min"), f.real("max"), f.real("tasa")});
-    const double bpc = ctx.variables->valor("BPC");
+    const auto& franjas = maestros.franjas;
+    const double bpc = variablesDe(ctx).valor("BPC");
     const double gravado = ctx.montograv.aDouble() - reliquidacion;
     r.total = irpDe(gravado, franjas, bpc);
     if (reliquidacion != 0) r.total += irpDe(reliquidacion, franjas, bpc);

@@ -46,12 +46,6 @@ std::string explicacion(const LiquidoNeto& r) {
            " = " + pesos(r.montogravalim);
 }
 
-LiquidoNeto CalculoLiquidoNeto(store::Conexion& base, const std::string& empresa,
-                               const std::string& nombre, const common::Mes& mes,
-                               const OpcionesLiquido& opciones) {
-    return liquidoNeto(leerFilasDelMes(base, opciones.tabla, empresa, nombre, mes), opciones);
-}
-
 AntAlim antAlim(const std::vector<FilaMes>& filas) {
     AntAlim r;
     for (const auto& f : filas) {
@@ -61,23 +55,6 @@ AntAlim antAlim(const std::vector<FilaMes>& filas) {
             r.antiguedad += f.total;
     }
     return r;
-}
-
-AntAlim CalculoAntAlim(store::Conexion& base, const std::string& empresa, const std::string& nombre,
-                       const common::Mes& mes) {
-    std::vector<FilaMes> filas =
-        leerFilasDelMes(base, TablaLiquidacion::Habydesc, empresa, nombre, mes);
-    const auto egresos = leerFilasDelMes(base, TablaLiquidacion::Egresos, empresa, nombre, mes);
-    filas.insert(filas.end(), egresos.begin(), egresos.end());
-    return antAlim(filas);
-}
-
-common::Dinero CalculoTotalHaberesEgresos(store::Conexion& base, const std::string& empresa,
-                                          const std::string& nombre, const common::Mes& mes) {
-    common::Dinero s;
-    for (const auto& f : leerFilasDelMes(base, TablaLiquidacion::Egresos, empresa, nombre, mes))
-        s += f.total;
-    return s;
 }
 
 }  // namespace nomira::engine

@@ -8,7 +8,7 @@
 #include "common/dinero.h"
 #include "common/fechas.h"
 #include "engine/mes/filas_mes.h"
-#include "store/conexion.h"
+
 
 namespace nomira::engine {
 
@@ -33,21 +33,11 @@ std::string explicacion(const LiquidoNeto& l);
 // Sobre las filas del mes de la tabla de la pantalla.
 LiquidoNeto liquidoNeto(const std::vector<FilaMes>& filas, const OpcionesLiquido& opciones);
 
-LiquidoNeto CalculoLiquidoNeto(store::Conexion& base, const std::string& empresa,
-                               const std::string& nombre, const common::Mes& mes,
-                               const OpcionesLiquido& opciones);
-
-// CalculoAntAlim: las filas del mes en habydesc y luego en egresos; la suma de
-// las de antigüedad (las tres actividades) y la de todas.
+// CalculoAntAlim: sobre las filas del mes en habydesc y luego en egresos, la
+// suma de las de antigüedad (las tres actividades) y la de todas.
 struct AntAlim {
     common::Dinero antiguedad, total;
 };
 AntAlim antAlim(const std::vector<FilaMes>& filas);
-AntAlim CalculoAntAlim(store::Conexion& base, const std::string& empresa, const std::string& nombre,
-                       const common::Mes& mes);
-
-// Todas las filas de egresos del mes, haberes y descuentos.
-common::Dinero CalculoTotalHaberesEgresos(store::Conexion& base, const std::string& empresa,
-                                          const std::string& nombre, const common::Mes& mes);
 
 }  // namespace nomira::engine

@@ -58,17 +58,5 @@ std::optional<PrimaAntiguedad> calcularPrimaAntiguedad(const master::Persona& p,
                                                        const common::Mes& periodo,
                                                        const BaseDeMiembro& baseDe);
 
-// Desde la base: la persona, el consejo de la empresa, BPC, SALMIN y el sueldo
-// mínimo de la categoría. periodo es el del mes tecleado o, vacío, el anterior.
-// Un fallo se avisa como "Error inesperado" con el miembro y deja la fórmula.
-std::optional<PrimaAntiguedad> CalculoAntiguedad(
-    store::Conexion& base, master::LectorVariables& variables, const std::string& empresa,
-    const std::string& nombre, const std::string& textoCant, const common::Mes& periodo,
-    common::Dialogo& dialogo, const std::string& pantalla = "Form42");
-// Lo mismo con la persona y el consejo de su empresa ya leídos (los del mes).
-std::optional<PrimaAntiguedad> CalculoAntiguedad(
-    store::Conexion& base, master::LectorVariables& variables, const master::Persona& persona,
-    const ConsejoSalarios& consejo, const std::string& textoCant, const common::Mes& periodo,
-    common::Dialogo& dialogo, const std::string& pantalla = "Form42");
 
 }  // namespace nomira::engine

@@ -49,7 +49,7 @@ void conyugeEHijosSNIS(DatosSNIS& d, const master::Persona& p, const common::Mes
 
 void calcularPSNIS(ContextoFormula& ctx, double bpc, common::Dialogo& dialogo) {
     DatosSNIS d{ctx.montograv.aDouble(), bpc, false, false, ctx.tipoaporte};
-    if (const auto& p = personaDelContexto(ctx))
+    if (const auto* p = ctx.persona)
         conyugeEHijosSNIS(d, *p, ctx.periodo, &dialogo, &ctx.esmayor);
     ctx.psnis = porcentajeSNIS(d);
 }

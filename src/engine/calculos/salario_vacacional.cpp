@@ -7,15 +7,16 @@
 #include "engine/calculos/aportes.h"
 #include "engine/mes/aportes_lector.h"
 #include "engine/calculos/explicacion.h"
-#include "engine/mes/filas_persona.h"
+#include "engine/mes/libro.h"
+#include "engine/mes/maestros.h"
 
 namespace nomira::engine {
 
 namespace {
 
-store::Valor fechaONulo(const std::string& ddmmyy) {
+std::string fechaIso(const std::string& ddmmyy) {
     const auto f = common::Fecha::desdeTexto(ddmmyy);
-    return f ? store::Valor(f->iso()) : store::Valor(store::Nulo{});
+    return f ? f->iso() : "";
 }
 
 }  // namespace
@@ -27,12 +28,12 @@ std::string conceptoVacacionalDe(const std::string& conceptoLicencia) {
 }
 
 std::optional<SalarioVacacional> CalculoSalarioVacacionalNew(
-    store::Conexion& base, ContextoFormula& ctx, const std::string& conceptoLicencia, double dias,
+    ContextoFormula& ctx, const std::string& conceptoLicencia, double dias,
     common::Dinero monto, const std::string& desde, const std::string& hasta,
     common::Dialogo& dialogo) {
     SalarioVacacional s;
     s.concepto = conceptoVacacionalDe(conceptoLicencia);
-    const auto concepto = conceptoPorNombre(base, s.concepto);
+    const auto* concepto = maestrosDe(ctx).conceptos.porNombre(s.concepto);
     if (!concepto) return std::nullopt;
     s.codigo = static_cast<long>(common::textoANumero(concepto->codigo));
 
@@ -41,16 +42,17 @@ std::optional<SalarioVacacional> CalculoSalarioVacacionalNew(
     s.explicacion = s.concepto + ": licencia " + pesos(monto) + " menos aportes " + numero(tasas) +
                     "% = " + pesos(s.total) + ".";
 
-    const std::string fecha = ctx.periodo.primerDia().iso();
-    const std::int64_t codigo = s.codigo;
-    base.ejecuta(
-        "DELETE FROM salvacacional WHERE empresa = ? AND nombre = ? AND fecha = ? AND codigo = ?",
-        {ctx.empresa, ctx.nombre, fecha, codigo});
-    base.ejecuta(
-        "INSERT INTO salvacacional (empresa, nombre, fecha, codigo, concepto, unidad, cant, "
-        "total, desdelic, hastalic) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
-        {ctx.empresa, ctx.nombre, fecha, codigo, s.concepto, concepto->unidad, dias,
-         s.total.aDouble(), fechaONulo(desde), fechaONulo(hasta)});
+    FilaMes fila;
+    fila.codigo = s.codigo;
+    fila.concepto = s.concepto;
+    fila.unidad = concepto->unidad;
+    fila.cant = dias;
+    fila.total = s.total;
+    fila.desdelic = fechaIso(desde);
+    fila.hastalic = fechaIso(hasta);
+    auto& libro = libroDe(ctx);
+    libro.borrarCodigo(TablaLiquidacion::Salvacacional, ctx.periodo, s.codigo);
+    libro.escribir(TablaLiquidacion::Salvacacional, ctx.periodo, fila);
     return s;
 }
 

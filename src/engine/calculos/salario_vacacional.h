@@ -9,7 +9,6 @@
 #include "common/dialogo.h"
 #include "common/dinero.h"
 #include "engine/formulas/formula.h"
-#include "store/conexion.h"
 
 namespace nomira::engine {
 
@@ -23,10 +22,11 @@ struct SalarioVacacional {
     std::string explicacion;
 };
 
-// Escribe (o reescribe) la fila del mes. Nada si falta el concepto.
+// Escribe (o reescribe) la fila del mes en las filas de la persona. Nada si
+// falta el concepto.
 // `monto` es lo que vale la licencia; desde y hasta, "dd/mm/yy" (vacías: Null).
 std::optional<SalarioVacacional> CalculoSalarioVacacionalNew(
-    store::Conexion& base, ContextoFormula& ctx, const std::string& conceptoLicencia, double dias,
+    ContextoFormula& ctx, const std::string& conceptoLicencia, double dias,
     common::Dinero monto, const std::string& desde, const std::string& hasta,
     common::Dialogo& dialogo);
 

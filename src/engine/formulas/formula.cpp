@@ -71,11 +71,6 @@ void pasoCantidad(ContextoFormula& ctx, const OpcionesFormula& op) {
         ctx.cant = op.usaCantArchivo && ctx.cantarchivo != 0 ? ctx.cantarchivo : 1;
 }
 
-master::LectorVariables& variables(ContextoFormula& ctx) {
-    if (!ctx.variables) throw common::Fallo(91, "Variable de objeto o bloque With no establecida");
-    return *ctx.variables;
-}
-
 }  // namespace
 
 TokensFormula tokensFormula(std::initializer_list<Token> tokens) {
@@ -130,28 +125,34 @@ void cargarPersona(ContextoFormula& ctx, const master::Persona& p) {
     ctx.cantbfc = common::textoANumero(p.cantbfc);
 }
 
-store::Conexion& baseDe(const ContextoFormula& ctx) {
-    if (ctx.base) return *ctx.base;
-    if (!ctx.variables) throw common::Fallo(91, "Variable de objeto o bloque With no establecida");
-    return ctx.variables->base();
+namespace {
+
+[[noreturn]] void sinAsignar() {
+    throw common::Fallo(91, "Variable de objeto o bloque With no establecida");
 }
 
-const master::PersonaCompartida& personaDelContexto(ContextoFormula& ctx) {
-    auto& leida = ctx.personaLeida;
-    if (!leida || leida->empresa != ctx.empresa || leida->nombre != ctx.nombre) {
-        auto p = master::leerPersona(baseDe(ctx), ctx.empresa, ctx.nombre);
-        leida = ContextoFormula::PersonaLeida{
-            ctx.empresa, ctx.nombre,
-            p ? std::make_shared<const master::Persona>(std::move(*p)) : nullptr};
-    }
-    return leida->fila;
+}  // namespace
+
+LibroPersona& libroDe(const ContextoFormula& ctx) {
+    if (!ctx.libro) sinAsignar();
+    return *ctx.libro;
+}
+
+const Maestros& maestrosDe(const ContextoFormula& ctx) {
+    if (!ctx.maestros) sinAsignar();
+    return *ctx.maestros;
+}
+
+const master::LectorVariables& variablesDe(const ContextoFormula& ctx) {
+    if (!ctx.variables) sinAsignar();
+    return *ctx.variables;
 }
 
 void calcularFormula(ContextoFormula& ctx, const OpcionesFormula& op, common::Dialogo& dialogo) {
     if (op.pasoCantidad) pasoCantidad(ctx, op);
 
     std::string copia = ctx.formula;
-    const double bpc = op.leeBPC ? variables(ctx).valor("BPC") : 0.0;
+    const double bpc = op.leeBPC ? variablesDe(ctx).valor("BPC") : 0.0;
 
     for (;;) {
         const auto abre = copia.find('[');
@@ -168,11 +169,11 @@ void calcularFormula(ContextoFormula& ctx, const OpcionesFormula& op, common::Di
         }
         const std::string token = copia.substr(a, b - 1 - a);
         // La variable se busca tal como se escribió; los propios, en mayúsculas.
-        const double variable = variables(ctx).valor(token);
+        const double variable = variablesDe(ctx).valor(token);
         const std::string mayus = common::mayusculas(token);
         if (mayus == "PSNIS" && conoce(op.tokens, Token::Psnis)) calcularPSNIS(ctx, bpc, dialogo);
         if (mayus == "PFOCER" && conoce(op.tokens, Token::Pfocer)) {
-            const auto& p = personaDelContexto(ctx);
+            const auto* p = ctx.persona;
             ctx.pfocer = p ? common::Dinero::desdeDouble(common::textoANumero(p->otrotelefono))
                            : common::Dinero();
         }

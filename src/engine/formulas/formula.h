@@ -64,11 +64,14 @@ OpcionesFormula opcionesCalculoFormula2();  // sin paso de cantidad ni PFOCER
 OpcionesFormula opcionesForm44();           // cantidad vacía = 1
 OpcionesFormula opcionesForm76();           // sin BPC ni cantidad, cinco tokens
 
-struct HorasDeLaCorrida;
+class LibroPersona;
+struct Maestros;
 
-// El estado de la pantalla que la fórmula lee y escribe. Los importes son
-// Dinero (montogravalim incluido, como toda la familia del líquido); cantidades,
-// sueldos y porcentajes, double.
+// Lo que la fórmula lee y escribe: los valores de los tokens, la cantidad y el
+// total, y de dónde salen los demás (la ficha de la persona, sus filas del mes y
+// los maestros de la corrida, ya leídos). Los importes son Dinero (montogravalim
+// incluido, como toda la familia del líquido); cantidades, sueldos y
+// porcentajes, double.
 struct ContextoFormula {
     std::string formula;
     double cant = 0;
@@ -83,37 +86,25 @@ struct ContextoFormula {
     std::string tipoaporte;
     bool esmayor = false;
 
-    // Lo que la sustitución necesita para llegar a la base.
     std::string empresa, nombre;
     common::Mes periodo;            // el mes que se liquida (ver common::mesDeReferencia)
-    std::string textoCant;          // la casilla de cantidad tal como se tecleó
+    std::string textoCant;          // la cantidad tal como se tecleó
     std::string formulaSustituida;  // lo que se evaluó, para la explicación
-    master::LectorVariables* variables = nullptr;
-    // La conexión de la corrida (la que recuerda lo leído en la de una
-    // empresa); sin ella, la de las variables.
-    store::Conexion* base = nullptr;
-    // El archivo de horas de la corrida de la empresa; nulo fuera de ella.
-    HorasDeLaCorrida* horasDeLaCorrida = nullptr;
-
-    // La fila de la persona, leída una vez por empresa y nombre (nula si no
-    // existe).
-    struct PersonaLeida {
-        std::string empresa, nombre;
-        master::PersonaCompartida fila;
-    };
-    std::optional<PersonaLeida> personaLeida;
+    const master::LectorVariables* variables = nullptr;
+    // Lo leído por la corrida; nulos si la fórmula no los necesita.
+    const master::Persona* persona = nullptr;
+    LibroPersona* libro = nullptr;
+    const Maestros* maestros = nullptr;
 };
-
-// La conexión por la que leen los cálculos del contexto. Sin variables es el
-// error 91, como un objeto sin asignar.
-store::Conexion& baseDe(const ContextoFormula& ctx);
 
 // sueldo, sueldo2, sueldo3, htrab y cantbfc desde la fila (lo vacío da 0).
 void cargarPersona(ContextoFormula& ctx, const master::Persona& p);
 
-// La fila de personal de ctx.empresa y ctx.nombre, leída una sola vez; nula si
-// no existe.
-const master::PersonaCompartida& personaDelContexto(ContextoFormula& ctx);
+// Las filas y los maestros del contexto. Sin ellos es el error 91, como un
+// objeto sin asignar.
+LibroPersona& libroDe(const ContextoFormula& ctx);
+const Maestros& maestrosDe(const ContextoFormula& ctx);
+const master::LectorVariables& variablesDe(const ContextoFormula& ctx);
 
 // Escribe cant (si corresponde), psnis, pfocer, esmayor y total. Un fallo del
 // evaluador o de la base sale como common::Fallo y deja total como estaba.

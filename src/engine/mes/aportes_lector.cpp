@@ -3,6 +3,7 @@
 #include "common/empaquetados.h"
 #include "common/numeros.h"
 #include "engine/mes/datos_persona.h"
+#include "engine/mes/libro.h"
 #include "engine/calculos/psnis.h"
 
 namespace nomira::engine {
@@ -11,13 +12,10 @@ using common::Dinero;
 
 namespace {
 
-std::optional<std::string> formulaDe(store::Conexion& base, const char* concepto) {
-    const auto r = base.consulta(
-        "SELECT formula FROM conceptos WHERE tipo = 'Des' AND concepto = ? ORDER BY codigo "
-        "LIMIT 1",
-        {std::string(concepto)});
-    if (r.vacio()) return std::nullopt;
-    return r.primera().texto("formula");
+std::optional<std::string> formulaDe(const Maestros& maestros, const char* concepto) {
+    const auto* c = maestros.conceptos.porNombre(concepto, "Des");
+    if (!c) return std::nullopt;
+    return c->formula;
 }
 
 }  // namespace
@@ -32,17 +30,13 @@ OpcionesAportes opcionesAportesForm45() {
     return {TablaLiquidacion::Egresos, opcionesLiquidoForm45(), formula};
 }
 
-double topeAfap(store::Conexion& base, const std::string& socmedica) {
+double topeAfap(const Maestros& maestros, const std::string& socmedica) {
     const bool a = common::SocMedica::leer(socmedica).bseap == "A";
-    const auto r = base.consulta(
-        "SELECT valor FROM definiciondevariables WHERE nombre = ? "
-        "ORDER BY fecha IS NULL, fecha DESC LIMIT 1",
-        {std::string(a ? "TOPEAFAPA" : "TOPEAFAP")});
-    return r.vacio() ? kTopeAfapPorDefecto : r.primera().real("valor");
+    return maestros.variables.buscar(a ? "TOPEAFAPA" : "TOPEAFAP").value_or(kTopeAfapPorDefecto);
 }
 
 double psnisDeLaFormula(const ContextoFormula& ctx, common::Dialogo& dialogo) {
-    const auto formula = formulaDe(baseDe(ctx), "SNIS");
+    const auto formula = formulaDe(maestrosDe(ctx), "SNIS");
     if (!formula) return 0;
     ContextoFormula copia = ctx;
     copia.formula = *formula;
@@ -51,40 +45,38 @@ double psnisDeLaFormula(const ContextoFormula& ctx, common::Dialogo& dialogo) {
     return copia.psnis;
 }
 
-PorcentajesFormula porcentajesDeConceptos(store::Conexion& base) {
+PorcentajesFormula porcentajesDeConceptos(const Maestros& maestros) {
     PorcentajesFormula p;
-    if (const auto f = formulaDe(base, "MONTEPIO")) p.montepio = porcentajeDeFormula(*f);
-    if (const auto f = formulaDe(base, "FRL")) p.frl = porcentajeDeFormula(*f);
+    if (const auto f = formulaDe(maestros, "MONTEPIO")) p.montepio = porcentajeDeFormula(*f);
+    if (const auto f = formulaDe(maestros, "FRL")) p.frl = porcentajeDeFormula(*f);
     return p;
 }
 
 double CalculoTasasDesNewAguinaldo(ContextoFormula& ctx, common::Dialogo& dialogo) {
     double montograv = 0;
-    for (const auto& f : leerFilasDelMes(baseDe(ctx), TablaLiquidacion::Egresos, ctx.empresa,
-                                         ctx.nombre, ctx.periodo))
+    for (const auto& f : libroDe(ctx).filas(TablaLiquidacion::Egresos, ctx.periodo))
         if (f.gravado == "Si" && f.concepto != "AGUINALDO") montograv += f.total.aDouble();
     return tasasSobre(ctx, montograv, dialogo);
 }
 
 double tasasSobre(ContextoFormula& ctx, double montograv, common::Dialogo& dialogo) {
-    auto& base = baseDe(ctx);
     DatosSNIS d;
     d.montograv = montograv;
-    d.bpc = ctx.variables->valor("BPC");
+    d.bpc = variablesDe(ctx).valor("BPC");
     d.tipoaporte = ctx.tipoaporte;
-    if (const auto p = datosPersona(ctx)) conyugeEHijosSNIS(d, *p->fila, ctx.periodo, &dialogo);
-    const auto pf = porcentajesDeConceptos(base);
+    if (ctx.persona) conyugeEHijosSNIS(d, *ctx.persona, ctx.periodo, &dialogo);
+    const auto pf = porcentajesDeConceptos(maestrosDe(ctx));
     return sumaTasas(porcentajeSNIS(d), pf.montepio, pf.frl);
 }
 
 DescuentoGenerado generarDescuento(ContextoFormula& ctx, const ConceptoDescuento& c,
                                    const OpcionesAportes& op, common::Dialogo& dialogo) {
-    auto& base = baseDe(ctx);
+    auto& libro = libroDe(ctx);
     const auto mes = ctx.periodo;
     ctx.psnis = 0;
     ctx.pfocer = Dinero();
     // Los descuentos ya generados (de código menor) cuentan para el líquido.
-    const auto filas = leerFilasDelMes(base, op.liquido.tabla, ctx.empresa, ctx.nombre, mes);
+    const auto& filas = libro.filas(op.liquido.tabla, mes);
     const auto liquido = liquidoNeto(filas, op.liquido);
     ctx.liquidoneto = liquido.liquidoneto;
     if (!op.liquido.soloLiquidoNeto) {
@@ -103,21 +95,17 @@ DescuentoGenerado generarDescuento(ContextoFormula& ctx, const ConceptoDescuento
     e.psnis = ctx.psnis;
     e.mes = mes;
     e.tipoaporte = ctx.tipoaporte;
-    e.bpc = ctx.variables->valor("BPC");
+    e.bpc = variablesDe(ctx).valor("BPC");
     e.montograv = ctx.montograv;
-    if (const auto& persona = personaDelContexto(ctx)) {
+    if (const auto* persona = ctx.persona) {
         e.vinculofun = persona->vinculofun;
         e.cantbfc = common::textoANumero(persona->cantbfc);
         e.tafap = common::SocMedica::leer(persona->socmedica).tafap == "Si";
-        e.tope = topeAfap(base, persona->socmedica);
+        e.tope = topeAfap(maestrosDe(ctx), persona->socmedica);
         e.excepcionLicencia = excepcionLicencia(
-            persona->tiposueldo,
-            op.liquido.tabla == TablaLiquidacion::Habydesc
-                ? filas
-                : leerFilasDelMes(base, TablaLiquidacion::Habydesc, ctx.empresa, ctx.nombre, mes));
+            persona->tiposueldo, libro.filas(TablaLiquidacion::Habydesc, mes));
     }
-    for (const auto& f :
-         leerFilasDelMes(base, TablaLiquidacion::Aguinaldos, ctx.empresa, ctx.nombre, mes)) {
+    for (const auto& f : libro.filas(TablaLiquidacion::Aguinaldos, mes)) {
         if (f.tipo == "Hab") e.aguinaldosHab += f.total;
         // La primera fila de SNIS del aguinaldo.
         if (empiezaCon(f.concepto, "SNIS") && e.snisAguinaldo == Dinero())
@@ -130,11 +118,21 @@ DescuentoGenerado generarDescuento(ContextoFormula& ctx, const ConceptoDescuento
         "Fórmula " + c.formula + " = " + ctx.formulaSustituida + "; " + r.fila.explicacion;
     ctx.psnis = r.fila.psnis;
     ctx.total = r.fila.total.aDouble();
-    if (op.tabla == TablaLiquidacion::Habydesc && hayEgresos(base, ctx.empresa, ctx.nombre, mes))
-        return r;
-    escribirFila(base, op.tabla, ctx.empresa, ctx.nombre, mes,
-                 {c.codigo, r.fila.concepto, "Des", c.unidad, c.permanente, c.gravado, c.aguinaldo,
-                  c.lic, c.ipd, ctx.cant, r.fila.total});
+    if (op.tabla == TablaLiquidacion::Habydesc && libro.hayEgresos(mes)) return r;
+    FilaMes fila;
+    fila.codigo = c.codigo;
+    fila.concepto = r.fila.concepto;
+    fila.tipo = "Des";
+    fila.unidad = c.unidad;
+    fila.permanente = c.permanente;
+    fila.gravado = c.gravado;
+    fila.aguinaldo = c.aguinaldo;
+    fila.lic = c.lic;
+    fila.ipd = c.ipd;
+    fila.cant = ctx.cant;
+    fila.total = r.fila.total;
+    fila.explicacion = r.fila.explicacion;
+    libro.escribir(op.tabla, mes, fila);
     r.escrita = true;
     return r;
 }

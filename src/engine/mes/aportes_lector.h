@@ -9,6 +9,7 @@
 #include "engine/calculos/aportes.h"
 #include "engine/formulas/formula.h"
 #include "engine/calculos/liquido.h"
+#include "engine/mes/maestros.h"
 
 namespace nomira::engine {
 
@@ -37,7 +38,7 @@ DescuentoGenerado generarDescuento(ContextoFormula& ctx, const ConceptoDescuento
                                    const OpcionesAportes& opciones, common::Dialogo& dialogo);
 
 // TOPEAFAP, o TOPEAFAPA con la letra "A" de socmedica; 106549 sin variable.
-double topeAfap(store::Conexion& base, const std::string& socmedica);
+double topeAfap(const Maestros& maestros, const std::string& socmedica);
 
 // El porcentaje que deja la fórmula del concepto SNIS (CalculoFormula2), sin
 // tocar el contexto; 0 si no hay concepto SNIS.
@@ -47,7 +48,7 @@ double psnisDeLaFormula(const ContextoFormula& ctx, common::Dialogo& dialogo);
 struct PorcentajesFormula {
     double montepio = 0, frl = 0;
 };
-PorcentajesFormula porcentajesDeConceptos(store::Conexion& base);
+PorcentajesFormula porcentajesDeConceptos(const Maestros& maestros);
 
 // La suma de los tres porcentajes de aporte de la persona: SNIS por la escalera
 // sobre `montograv`, MONTEPIO y FRL de sus fórmulas.

@@ -16,29 +16,10 @@ bool enBlanco(const std::string& s) {
     return s.find_first_not_of(' ') == std::string::npos;
 }
 
-// categoriadeducciones: nombre Like '*código' y nombre2 Like '*categoría'; el
-// código es lo anterior al guion de nombre2.
-std::string codigoCategoria(store::Conexion& base, const std::string& ded, const std::string& cat) {
-    // Armado una vez por motor: la corrida lo pide tres veces por persona.
-    static const auto sql = [] {
-        std::array<std::string, 2> s;
-        for (const auto m : {store::Motor::Sqlite, store::Motor::Postgres})
-            s[static_cast<std::size_t>(m)] = "SELECT nombre2 FROM categoriadeducciones WHERE " +
-                                             store::condicionLike(m, "nombre") + " AND " +
-                                             store::condicionLike(m, "nombre2") + " LIMIT 1";
-        return s;
-    }();
-    const auto r = base.consulta(sql[static_cast<std::size_t>(base.motor())],
-                                 {store::patronLike(common::patronCatalogo(ded)),
-                                  store::patronLike(common::patronCatalogo(cat))});
-    const std::string c = r.vacio() ? "" : common::codigoDeCatalogo(r.primera().texto("nombre2"));
-    return c.empty() ? "00" : c;
-}
-
 }  // namespace
 
-std::optional<DatosPersona> datosPersona(ContextoFormula& ctx) {
-    const auto& fila = personaDelContexto(ctx);
+std::optional<DatosPersona> datosPersona(const ContextoFormula& ctx) {
+    const auto* fila = ctx.persona;
     if (!fila) return std::nullopt;
     const auto& f = *fila;
     DatosPersona p;
@@ -57,8 +38,8 @@ std::optional<DatosPersona> datosPersona(ContextoFormula& ctx) {
     return p;
 }
 
-Deducciones deduccionesDe(store::Conexion& base, const DatosPersona& p, const common::Mes& periodo,
-                          master::LectorVariables& variables, common::Dialogo* dialogo) {
+Deducciones deduccionesDe(const Maestros& maestros, const DatosPersona& p,
+                          const common::Mes& periodo, common::Dialogo* dialogo) {
     Deducciones d;
     const std::array<const std::string*, 3> causas = {&p.fila->causaben, &p.fila->causaben2,
                                                       &p.fila->causaben3};
@@ -76,10 +57,10 @@ Deducciones deduccionesDe(store::Conexion& base, const DatosPersona& p, const co
                 dep.mesNacimiento = f->mes;
         }
         auto& c = d.casillas[i];
-        c.codigo = master::codigoEnCatalogo(base, "codigodeducciones", p.codigoded[i]);
+        c.codigo = maestros.codigoDeduccion(p.codigoded[i]);
         if (c.codigo.empty()) c.codigo = "00";
-        c.categoria = codigoCategoria(base, p.codigoded[i], p.categoriaded[i]);
-        if (c.codigo == "03") c.valorVariable = variables.valor(p.categoriaded[i]);
+        c.categoria = maestros.codigoCategoria(p.codigoded[i], p.categoriaded[i]);
+        if (c.codigo == "03") c.valorVariable = maestros.variables.valor(p.categoriaded[i]);
         c.fechadesde = p.fechadesdeded[i];
     }
     return d;

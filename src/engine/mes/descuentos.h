@@ -13,7 +13,6 @@
 #include "engine/calculos/irpf.h"
 #include "engine/calculos/irpf_dic.h"
 #include "engine/mes/mes_persona.h"
-#include "master/variables.h"
 #include "store/conexion.h"
 
 namespace nomira::engine {
@@ -26,13 +25,14 @@ inline constexpr const char* kSoloEmpresa = "Debe completar solamente el campo E
 inline constexpr const char* kActualizacionFinalizada = "Actualización finalizada.";
 
 // Los descuentos de una persona. Con egresos en el mes no escribe nada y lo avisa.
-ResultadoPersona DescPerm(store::Conexion& base, master::LectorVariables& variables,
-                          const std::string& empresa, const std::string& nombre,
-                          const common::Mes& mes, common::Dialogo& dialogo);
+// Leídos, calculados y escritos en una transacción bajo su clave.
+ResultadoPersona DescPerm(store::Conexion& base, const std::string& empresa,
+                          const std::string& nombre, const common::Mes& mes,
+                          common::Dialogo& dialogo);
 
-// Los pasos de la generación sobre el mes ya leído (BuscarVerif).
-std::vector<FilaLiquidada> generarDescuentos(store::Conexion& base, MesPersona& mp,
-                                             ContextoFormula& ctx, common::Dialogo& dialogo);
+// Los pasos de la generación sobre el mes ya leído, en memoria.
+std::vector<FilaLiquidada> generarDescuentos(MesPersona& mp, ContextoFormula& ctx,
+                                             common::Dialogo& dialogo);
 
 // El importe de una fila "IRP" o "IRPF", como en el Enter de la cantidad: en
 // diciembre el cierre del año (0 para el jornalero o por hora cuyo único haber
@@ -46,16 +46,16 @@ struct ImporteImpuesto {
     std::optional<ResultadoIRPF> irpfMes;
     std::optional<ResultadoIRPFDic> irpfDiciembre;
 };
-ImporteImpuesto calcularImpuesto(store::Conexion& base, const MesPersona& mp, ContextoFormula& ctx,
+ImporteImpuesto calcularImpuesto(const MesPersona& mp, ContextoFormula& ctx,
                                  const std::string& concepto, common::Dialogo& dialogo);
 
 // Toda la empresa: cada persona activa con haberes y sin egresos en el mes, en
 // su transacción; antes, lo que traiga para ella el archivo de horas
 // (CalculoCant2). Al final avisa "Actualización finalizada." si no se canceló
 // ni falló.
-ResultadoEmpresa ActDesPermxEmpresa(store::Conexion& base, master::LectorVariables& variables,
-                                    const std::string& empresa, const common::Mes& mes,
-                                    common::Dialogo& dialogo, const ProgresoEmpresa& progreso = {},
+ResultadoEmpresa ActDesPermxEmpresa(store::Conexion& base, const std::string& empresa,
+                                    const common::Mes& mes, common::Dialogo& dialogo,
+                                    const ProgresoEmpresa& progreso = {},
                                     const CancelarEmpresa& cancelar = {});
 
 // DescPerm2_Click: borra los descuentos del mes después de "¿Desea continuar?"

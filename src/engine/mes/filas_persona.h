@@ -1,33 +1,28 @@
 #pragma once
-// Lecturas y escrituras sueltas de una fila del mes en habydesc, por código o
-// por nombre, con su cantidad; los conceptos por nombre; y la regla que lleva
-// las horas a "JORNADAS EN EL MES".
+// Una fila del mes tal como la muestran las grillas, los conceptos por nombre
+// en la base (para las pantallas) y la regla que lleva las horas a "JORNADAS EN
+// EL MES".
 #include <optional>
 #include <string>
 
 #include "common/dinero.h"
 #include "common/fechas.h"
-#include "engine/mes/filas_mes.h"
+#include "engine/mes/libro.h"
+#include "engine/mes/maestros.h"
 #include "master/conceptos.h"
 #include "store/conexion.h"
 
 namespace nomira::engine {
 
-// La fila del mes de un código o de un nombre (la primera por código).
+// La fila del mes como la muestran las grillas.
 struct FilaGuardada {
     long codigo = 0;
     std::string concepto, tipo, unidad;
     double cant = 0;
     common::Dinero total;
 };
-std::optional<FilaGuardada> filaPorCodigo(store::Conexion& base, const std::string& empresa,
-                                          const std::string& nombre, const common::Mes& mes,
-                                          long codigo);
-std::optional<FilaGuardada> filaPorConcepto(store::Conexion& base, const std::string& empresa,
-                                            const std::string& nombre, const common::Mes& mes,
-                                            const std::string& concepto);
 
-// El primer concepto (por código) con ese nombre exacto.
+// El primer concepto (por código) con ese nombre exacto, leído de la base.
 std::optional<master::Concepto> conceptoPorNombre(store::Conexion& base,
                                                   const std::string& concepto);
 
@@ -39,8 +34,8 @@ bool esConceptoHoras(const std::string& concepto);
 // la otra.
 // Sin concepto "JORNADAS EN EL MES" no hace nada; htrab 0 es división por cero.
 // Devuelve la fila escrita.
-std::optional<FilaGenerada> actualizarJornadas(store::Conexion& base, const std::string& empresa,
-                                               const std::string& nombre, const common::Mes& mes,
+std::optional<FilaGenerada> actualizarJornadas(LibroPersona& libro, const Maestros& maestros,
+                                               const common::Mes& mes,
                                                const std::string& concepto, double cant,
                                                double htrab);
 

@@ -8,11 +8,9 @@
 #include "common/numeros.h"
 #include "common/texto.h"
 #include "engine/calculos/explicacion.h"
-#include "engine/mes/explicaciones.h"
-#include "engine/mes/filas_persona.h"
+#include "engine/mes/escritura.h"
 #include "engine/mes/horas.h"
-#include "engine/calculos/primas_antiguedad.h"
-#include "store/recordada.h"
+#include "engine/mes/primas_antiguedad_lector.h"
 
 namespace nomira::engine {
 
@@ -31,16 +29,10 @@ bool terminaEn(const std::string& s, const std::string& fin) {
     return s.size() >= fin.size() && s.compare(s.size() - fin.size(), fin.size(), fin) == 0;
 }
 
-std::string fecha(const common::Mes& mes) {
-    return mes.primerDia().iso();
-}
-
 // cant de las filas del mes con ese texto (las licencias de un SUELDO).
-std::vector<double> cantidadesDe(store::Conexion& base, const MesPersona& mp,
-                                 const std::string& concepto) {
+std::vector<double> cantidadesDe(const MesPersona& mp, const std::string& concepto) {
     std::vector<double> cants;
-    for (const auto& f :
-         leerFilasDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes))
+    for (const auto& f : mp.libro().filas(TablaLiquidacion::Habydesc, mp.mes))
         if (f.concepto == concepto) cants.push_back(f.cant);
     return cants;
 }
@@ -51,9 +43,8 @@ std::string explicarFormula(const ContextoFormula& ctx) {
 }
 
 // La fila de DIASNOTRABAJADOS de un ingreso a mitad de mes.
-void escribirDiasNoTrabajados(store::Conexion& base, const MesPersona& mp, double sueldo, int dias,
-                              std::set<long>& codigos, ResultadoPersona& r) {
-    const auto c = conceptoPorNombre(base, "DIASNOTRABAJADOS");
+void escribirDiasNoTrabajados(const MesPersona& mp, double sueldo, int dias, ResultadoPersona& r) {
+    const auto* c = mp.maestros().conceptos.porNombre("DIASNOTRABAJADOS");
     if (!c) return;
     FilaLiquidada fl{filaDeConcepto(*c, "Hab"), ""};
     fl.fila.cant = dias;
@@ -61,50 +52,36 @@ void escribirDiasNoTrabajados(store::Conexion& base, const MesPersona& mp, doubl
     fl.explicacion = "Ingreso el " + mp.persona->fechaing + ": " + std::to_string(dias) +
                      " días sin trabajar, -(" + pesos(sueldo) + " / 30 x " + std::to_string(dias) +
                      ") = " + pesos(fl.fila.total) + ".";
-    escribirFila(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, fl.fila, codigos);
+    fl.fila.explicacion = fl.explicacion;
+    mp.libro().escribir(TablaLiquidacion::Habydesc, mp.mes, fl.fila);
     r.filas.push_back(std::move(fl));
 }
 
-// Un código repetido en conceptos cuenta una vez: el primero (llegan por código).
-void agregarSinRepetir(std::vector<master::Concepto>& lista, const store::FilaAlPaso& f) {
-    auto c = master::leerRegistro(f, master::camposConcepto());
-    if (lista.empty() || lista.back().codigo != c.codigo) lista.push_back(std::move(c));
+long codigoDe(const master::Concepto& c) {
+    return static_cast<long>(common::textoANumero(c.codigo));
 }
 
 }  // namespace
 
-std::shared_ptr<const std::vector<master::Concepto>> conceptosPermanentes(store::Conexion& base,
-                                                                          const MesPersona& mp,
-                                                                          double cantbfc) {
+std::vector<const master::Concepto*> conceptosPermanentes(const Maestros& maestros,
+                                                          const MesPersona& mp, double cantbfc) {
+    std::vector<const master::Concepto*> lista;
     if (cantbfc != 0) {
-        auto lista = std::make_shared<std::vector<master::Concepto>>();
-        if (auto c = conceptoPorNombre(base, "SUELDO FICTO")) lista->push_back(std::move(*c));
+        if (const auto* c = maestros.conceptos.porNombre("SUELDO FICTO")) lista.push_back(c);
         return lista;
     }
     // Los permanentes de todos (o de su tipo de sueldo) más los que concpermxpers
-    // le da a la persona, por código y cada código una vez. La primera consulta
-    // es la misma para todos los de un tipo de sueldo: en la corrida de la
-    // empresa se lee una vez.
-    auto deTodos = store::consultaConvertida(
-        base,
-        "SELECT * FROM conceptos WHERE (especificode = ? OR especificode = 'G') AND tipo = 'Hab' "
-        "AND permanente = 'Si' ORDER BY codigo",
-        {mp.tiposueldo}, agregarSinRepetir);
-    if (!tieneConceptosPropios(base, mp, "Hab")) return deTodos;
-    const auto propios = master::leerConceptos(base.consulta(
-        "SELECT conceptos.* FROM conceptos JOIN concpermxpers ON conceptos.codigo = "
-        "concpermxpers.codigo WHERE concpermxpers.empresa = ? AND concpermxpers.nombre = ? AND "
-        "concpermxpers.tipo = 'Hab' ORDER BY conceptos.codigo",
-        {mp.empresa, mp.nombre}));
-    if (propios.empty()) return deTodos;  // ya van por código
-    auto lista = std::make_shared<std::vector<master::Concepto>>(*deTodos);
-    std::set<std::string> vistos;
-    for (const auto& c : *lista) vistos.insert(c.codigo);
-    for (const auto& c : propios)
-        if (vistos.insert(c.codigo).second) lista->push_back(c);
-    std::stable_sort(lista->begin(), lista->end(), [](const auto& a, const auto& b) {
-        return common::textoANumero(a.codigo) < common::textoANumero(b.codigo);
-    });
+    // le da a la persona, por código y cada código una vez (el primero).
+    const auto propios = maestros.propiosDe(mp.nombre, "Hab");
+    for (const auto& c : maestros.conceptos.todos()) {
+        const bool permanente = (c.especificode == mp.tiposueldo || c.especificode == "G") &&
+                                c.tipo == "Hab" && c.permanente == "Si";
+        const bool propio =
+            std::find(propios.begin(), propios.end(), codigoDe(c)) != propios.end();
+        if (!permanente && !propio) continue;
+        if (!lista.empty() && codigoDe(*lista.back()) == codigoDe(c)) continue;
+        lista.push_back(&c);
+    }
     return lista;
 }
 
@@ -123,62 +100,63 @@ int diasNoTrabajados(const std::string& fechaing, const common::Mes& mes) {
     return dia - 1;
 }
 
-MayorSueldo mayorSueldoDeLaEmpresa(store::Conexion& base, const std::string& empresa,
-                                   const common::Mes& mes) {
-    MayorSueldo mayor;
-    bool hay = false;
-    const auto r = base.consulta(
-        "SELECT personal.nombre AS nombre, personal.vinculofun AS vinculofun, SUM(habydesc.total) "
-        "AS suma FROM personal JOIN habydesc ON habydesc.empresa = personal.empresa AND "
-        "habydesc.nombre = personal.nombre WHERE personal.empresa = ? AND habydesc.fecha = ? AND "
-        "habydesc.tipo = 'Hab' AND habydesc.gravado = 'Si' GROUP BY personal.nombre, "
-        "personal.vinculofun ORDER BY personal.nombre",
-        {empresa, fecha(mes)});
-    for (const auto& f : r.filas) {
-        const std::string v = f.texto("vinculofun");
+MayorSueldo mayorSueldoDeLaEmpresa(const Lectura& lectura) {
+    // Por nombre, como los recorre la planilla: en un empate queda el primero.
+    std::vector<std::pair<std::string, common::Dinero>> sumas;
+    for (const auto& p : lectura.personas) {
+        const std::string& v = p.ficha->vinculofun;
         if (terminaEn(v, "SAS") || std::find(kVinculosSinSueldo.begin(), kVinculosSinSueldo.end(),
                                              v) != kVinculosSinSueldo.end())
             continue;
-        const auto suma = common::Dinero::desdeDouble(f.real("suma"));
+        common::Dinero suma;
+        bool tiene = false;
+        for (const auto& f : p.libro.filas(TablaLiquidacion::Habydesc, lectura.mes))
+            if (f.tipo == "Hab" && f.gravado == "Si") {
+                suma += f.total;
+                tiene = true;
+            }
+        if (tiene) sumas.emplace_back(p.ficha->nombre, suma);
+    }
+    std::sort(sumas.begin(), sumas.end(),
+              [](const auto& a, const auto& b) { return a.first < b.first; });
+    MayorSueldo mayor;
+    bool hay = false;
+    for (const auto& [nombre, suma] : sumas)
         if (!hay || mayor.total < suma) {
-            mayor = {f.texto("nombre"), suma};
+            mayor = {nombre, suma};
             hay = true;
         }
-    }
     return mayor;
 }
 
-ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula& ctx,
-                         common::Dialogo& dialogo, const OpcionesHaberes& opciones) {
+ResultadoPersona HabPerm(MesPersona& mp, ContextoFormula& ctx, common::Dialogo& dialogo,
+                         const OpcionesHaberes& opciones) {
     ResultadoPersona r{mp.empresa, mp.nombre, mp.mes, false, "", {}};
-    if (hayEgresos(base, mp.empresa, mp.nombre, mp.mes)) {
+    auto& libro = mp.libro();
+    if (libro.hayEgresos(mp.mes)) {
         dialogo.avisar(common::TipoAviso::Advertencia, kYaEnEgresos);
         r.aviso = kYaEnEgresos;
         return r;
     }
     const auto borradas = opciones.borrarDescuentos
-                              ? borrarTipoDelMes(base, TablaLiquidacion::Habydesc, mp.empresa,
-                                                 mp.nombre, mp.mes, "Des")
+                              ? libro.borrarTipo(TablaLiquidacion::Habydesc, mp.mes, "Des")
                               : 0;
-    if (borradas > 0)
-        podarExplicaciones(base, TablaLiquidacion::Habydesc, mp.empresa, mp.mes, mp.nombre);
     const bool conHoras = opciones.calculoCant && !opciones.calculoCant(ctx, dialogo).filas.empty();
-    // La base del mes que dejó BuscarVerif sólo cambia si se fue algo o llegaron horas.
-    if (borradas > 0 || conHoras) refrescarDesglose(base, mp, ctx);
+    // La base del mes sólo cambia si se fue algo o llegaron horas.
+    if (borradas > 0 || conHoras) refrescarDesglose(mp, ctx);
 
     const auto& cs = mp.consejo;
-    auto codigos = codigosDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes);
-    const auto conceptos = conceptosPermanentes(base, mp, ctx.cantbfc);
-    r.filas.reserve(r.filas.size() + conceptos->size() + 1);  // y DIASNOTRABAJADOS
-    for (const auto& c : *conceptos) {
+    const auto conceptos = conceptosPermanentes(mp.maestros(), mp, ctx.cantbfc);
+    r.filas.reserve(conceptos.size() + 1);  // y DIASNOTRABAJADOS
+    for (const auto* c : conceptos) {
         ctx.cantarchivo = 0;
         ctx.importearchivo = {};
-        ctx.formula = c.formula;
+        ctx.formula = c->formula;
         ctx.textoCant.clear();
-        FilaLiquidada fl{filaDeConcepto(c, "Hab"), ""};
+        FilaLiquidada fl{filaDeConcepto(*c, "Hab"), ""};
         CalculoFormula(ctx, dialogo);
         std::string expl = explicarFormula(ctx);
-        const std::string nombre = common::mayusculas(c.concepto);
+        const std::string nombre = common::mayusculas(c->concepto);
         double cant = ctx.cant;
         common::Dinero total = common::Dinero::desdeDouble(ctx.total);
 
@@ -186,25 +164,25 @@ ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula&
             total = common::Dinero::desdeDouble(std::floor(ctx.total));
             expl += " Sin decimales: " + pesos(total) + ".";
         } else if (esConceptoAntiguedad(nombre)) {
-            if (auto prima = CalculoAntiguedad(base, *ctx.variables, *mp.persona, mp.consejo,
-                                               ctx.textoCant, mp.mes, dialogo)) {
+            if (auto prima = CalculoAntiguedad(mp.maestros(), *mp.persona, ctx.textoCant, mp.mes,
+                                               dialogo)) {
                 cant = prima->cant;
                 total = prima->total;
                 expl = prima->explicacion;
             }
         } else if (nombre == "SUELDO" || nombre == "SUELDO 2DA ACT") {
             const auto licencias =
-                cantidadesDe(base, mp, nombre == "SUELDO" ? "LICENCIA" : "LICENCIA 2DA ACT");
+                cantidadesDe(mp, nombre == "SUELDO" ? "LICENCIA" : "LICENCIA 2DA ACT");
             if (!licencias.empty()) {
                 std::string detalle;
                 total = sueldoConLicencia(ctx.total, licencias, cs.grupo, cs.subgrupo, &detalle);
                 expl += " Con licencia: " + detalle;
             } else if (nombre == "SUELDO") {
                 if (const int dias = diasNoTrabajados(mp.persona->fechaing, mp.mes); dias > 0)
-                    escribirDiasNoTrabajados(base, mp, ctx.total, dias, codigos, r);
+                    escribirDiasNoTrabajados(mp, ctx.total, dias, r);
             }
         } else if (nombre == "SUELDO FICTO" && ctx.cantbfc != 30) {
-            const auto mayor = mayorSueldoDeLaEmpresa(base, mp.empresa, mp.mes);
+            const auto mayor = mayorSueldoDeLaEmpresa(*mp.lectura);
             if (!mayor.nombre.empty() && total < mayor.total) {
                 dialogo.avisar(common::TipoAviso::Informacion,
                                "El SUELDO FICTO de " + mp.nombre + " corresponde a " +
@@ -216,12 +194,11 @@ ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula&
         }
         fl.fila.cant = cant;
         fl.fila.total = total;
+        fl.fila.explicacion = expl;
         fl.explicacion = std::move(expl);
-        escribirFila(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, fl.fila,
-                     codigos);
+        libro.escribir(TablaLiquidacion::Habydesc, mp.mes, fl.fila);
         r.filas.push_back(std::move(fl));
     }
-    guardarExplicaciones(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, r.filas);
     r.hecho = true;
     return r;
 }
@@ -230,12 +207,13 @@ ResultadoPersona generarHaberesPermanentes(store::Conexion& base, const std::str
                                            const std::string& nombre, const common::Mes& mes,
                                            common::Dialogo& dialogo,
                                            const OpcionesHaberes& opciones) {
-    master::LectorVariables variables(base);
-    ContextoFormula ctx;
-    auto mp = BuscarVerif(base, variables, empresa, nombre, mes, ctx, dialogo);
-    if (!mp) return ResultadoPersona{empresa, nombre, mes, false, "", {}};
     store::Transaccion t(base);
-    auto r = HabPerm(base, *mp, ctx, dialogo, opciones);
+    bloquearMes(base, empresa, nombre, mes);
+    ContextoFormula ctx;
+    auto mp = BuscarVerif(base, empresa, nombre, mes, ctx, dialogo);
+    if (!mp) return ResultadoPersona{empresa, nombre, mes, false, "", {}};
+    auto r = HabPerm(*mp, ctx, dialogo, opciones);
+    escribirLibro(base, mp->libro());
     t.confirmar();
     return r;
 }
@@ -245,25 +223,20 @@ ResultadoEmpresa ActHamPermxEmpresa(store::Conexion& base, const std::string& em
                                     const OpcionesHaberes& opciones,
                                     const ProgresoEmpresa& progreso,
                                     const CancelarEmpresa& cancelar) {
-    {
-        store::Transaccion t(base);
-        base.ejecuta("DELETE FROM habydesc WHERE empresa = ? AND fecha = ? AND tipo = 'Des'",
-                     {empresa, fecha(mes)});
-        podarExplicaciones(base, TablaLiquidacion::Habydesc, empresa, mes);
-        t.confirmar();
-    }
-    // Una lectura de las variables y de la empresa para toda la corrida.
-    master::LectorVariables variables(base);
-    LecturasDeLaCorrida corrida(base, variables, empresa, mes);
+    borrarTipoDeLaEmpresa(base, empresa, mes, "Des");
+    auto lectura = std::make_shared<Lectura>(leerCorrida(base, empresa, mes, mesesDelMes(mes)));
     auto deLaCorrida = opciones;
     deLaCorrida.borrarDescuentos = false;
-    const auto porPersona = [&](store::Conexion& base, const master::PersonaCompartida& p) {
+    const auto porPersona = [&](const std::shared_ptr<Lectura>& l, PersonaDelMes& p,
+                                bool activa) {
         ContextoFormula ctx;
-        auto mp = corrida.buscarVerif(base, p, ctx, dialogo);
-        if (!mp) return ResultadoPersona{empresa, p->nombre, mes, false, "", {}};
-        return HabPerm(base, *mp, ctx, dialogo, deLaCorrida);
+        auto mp = mesDeLaPersona(l, p, ctx);
+        if (activa) return HabPerm(mp, ctx, dialogo, deLaCorrida);
+        // Quien no trabaja en el mes igual recibe lo que el reloj le marcó.
+        if (opciones.calculoCant) opciones.calculoCant(ctx, dialogo);
+        return ResultadoPersona{empresa, p.ficha->nombre, mes, false, "", {}};
     };
-    return recorrerEmpresa(base, empresa, mes, porPersona, progreso, cancelar);
+    return recorrerEmpresa(base, std::move(lectura), porPersona, progreso, cancelar);
 }
 
 }  // namespace nomira::engine

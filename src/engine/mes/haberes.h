@@ -3,7 +3,6 @@
 // persona, y la de toda la empresa (ActHamPermxEmpresa_Click) sobre el
 // recorrido común. Regenerar los haberes siempre tira los descuentos del mes.
 #include <functional>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -12,7 +11,6 @@
 #include "engine/mes/empresa_mes.h"
 #include "engine/mes/horas.h"
 #include "engine/mes/mes_persona.h"
-#include "master/variables.h"
 #include "store/conexion.h"
 
 namespace nomira::engine {
@@ -36,11 +34,8 @@ OpcionesHaberes conArchivoDeHoras();
 // Los conceptos que se generan para la persona: "SUELDO FICTO" si tiene
 // cantbfc, si no los permanentes generales o de su tipo de sueldo más los de
 // concpermxpers, por código y sin repetir.
-// Compartidos: en la corrida de una empresa, los de todos no se copian por
-// persona.
-std::shared_ptr<const std::vector<master::Concepto>> conceptosPermanentes(store::Conexion& base,
-                                                                          const MesPersona& mp,
-                                                                          double cantbfc);
+std::vector<const master::Concepto*> conceptosPermanentes(const Maestros& maestros,
+                                                          const MesPersona& mp, double cantbfc);
 
 // Los días que no trabajó quien ingresó en el mes después del primero: el
 // día 31, y el 28 o 29 de un febrero común o bisiesto, cuentan como 30; se
@@ -48,28 +43,29 @@ std::shared_ptr<const std::vector<master::Concepto>> conceptosPermanentes(store:
 int diasNoTrabajados(const std::string& fechaing, const common::Mes& mes);
 
 // El mayor total gravado del mes entre el personal de la empresa con un vínculo
-// que cobra sueldo real, y de quién es (vacío si no hay ninguno).
+// que cobra sueldo real, y de quién es (vacío si no hay ninguno), sobre las
+// filas de lo leído tal como están en este momento de la corrida.
 struct MayorSueldo {
     std::string nombre;
     common::Dinero total;
 };
-MayorSueldo mayorSueldoDeLaEmpresa(store::Conexion& base, const std::string& empresa,
-                                   const common::Mes& mes);
+MayorSueldo mayorSueldoDeLaEmpresa(const Lectura& lectura);
 
-// Pasos 3 a 8 de HabPerm_Click sobre la persona ya leída por BuscarVerif: sin
-// transacción propia (la pone quien llama).
-ResultadoPersona HabPerm(store::Conexion& base, MesPersona& mp, ContextoFormula& ctx,
-                         common::Dialogo& dialogo, const OpcionesHaberes& opciones = {});
+// Pasos 3 a 8 de HabPerm_Click sobre el mes ya leído, en memoria: las filas
+// quedan en el libro de la persona para que alguien las escriba.
+ResultadoPersona HabPerm(MesPersona& mp, ContextoFormula& ctx, common::Dialogo& dialogo,
+                         const OpcionesHaberes& opciones = {});
 
-// HabPerm_Click: una persona en una transacción. Sin empresa o persona, el
-// mensaje de BuscarVerif y nada escrito.
+// HabPerm_Click: una persona, leída, calculada y escrita en una transacción
+// bajo su clave. Sin empresa o persona, el mensaje de BuscarVerif y nada escrito.
 ResultadoPersona generarHaberesPermanentes(store::Conexion& base, const std::string& empresa,
                                            const std::string& nombre, const common::Mes& mes,
                                            common::Dialogo& dialogo,
                                            const OpcionesHaberes& opciones = {});
 
 // ActHamPermxEmpresa_Click: borra los descuentos del mes de toda la empresa y
-// genera los haberes de cada persona activa, confirmando persona por persona.
+// genera los haberes de cada persona activa, escribiendo persona por persona.
+// A las que no trabajan en el mes sólo les llega el archivo de horas.
 ResultadoEmpresa ActHamPermxEmpresa(store::Conexion& base, const std::string& empresa,
                                     const common::Mes& mes, common::Dialogo& dialogo,
                                     const OpcionesHaberes& opciones = {},

@@ -11,6 +11,8 @@
 #include "engine/calculos/explicacion.h"
 #include "engine/mes/filas_persona.h"
 #include "engine/mes/mes_persona.h"
+#include "engine/mes/libro.h"
+#include "engine/mes/maestros.h"
 #include "master/personal.h"
 
 namespace nomira::engine {
@@ -32,27 +34,17 @@ std::string dosCifras(int n) {
     return b;
 }
 
-std::string nroempDe(store::Conexion& base, const std::string& empresa) {
-    const auto r = base.consulta("SELECT nroemp FROM empresas WHERE empresa = ?", {empresa});
-    return r.vacio() ? "0" : common::numeroATexto(common::textoANumero(r.primera().texto(0)));
-}
-
 // El concepto de la línea: haberes del tipo de sueldo de la persona o generales;
 // descuentos, cualquiera.
-std::optional<master::Concepto> conceptoDeLinea(store::Conexion& base, long codigo, bool descuentos,
-                                                const std::string& tiposueldo) {
-    const std::int64_t c = codigo;
-    const auto r =
-        descuentos
-            ? base.consulta(
-                  "SELECT codigo FROM conceptos WHERE codigo = ? AND tipo = 'Des' ORDER BY codigo",
-                  {c})
-            : base.consulta(
-                  "SELECT codigo FROM conceptos WHERE codigo = ? AND (especificode = ? OR "
-                  "especificode = 'G') AND tipo = 'Hab' ORDER BY codigo",
-                  {c, tiposueldo});
-    if (r.vacio()) return std::nullopt;
-    return master::leerConcepto(base, codigo);
+const master::Concepto* conceptoDeLinea(const Maestros& maestros, long codigo, bool descuentos,
+                                        const std::string& tiposueldo) {
+    for (const auto& c : maestros.conceptos.todos()) {
+        if (static_cast<long>(common::textoANumero(c.codigo)) != codigo) continue;
+        if (descuentos ? c.tipo == "Des"
+                       : c.tipo == "Hab" && (c.especificode == tiposueldo || c.especificode == "G"))
+            return maestros.conceptos.porCodigo(codigo);
+    }
+    return nullptr;
 }
 
 }  // namespace
@@ -68,15 +60,6 @@ std::string prefijoArchivosHoras() {
 fs::path rutaArchivoHoras(const std::string& prefijo, const common::Mes& mes,
                           const std::string& nroemp) {
     return prefijo + dosCifras(mes.mes) + dosCifras(mes.anio) + nroemp + ".txt";
-}
-
-std::optional<fs::path> archivoHorasDelMes(const ContextoFormula& ctx) {
-    const auto prefijo = prefijoArchivosHoras();
-    if (prefijo.empty()) return std::nullopt;
-    const auto ruta = rutaArchivoHoras(prefijo, ctx.periodo, nroempDe(baseDe(ctx), ctx.empresa));
-    std::error_code ec;
-    if (!fs::is_regular_file(ruta, ec)) return std::nullopt;
-    return ruta;
 }
 
 std::optional<LineaHoras> leerLineaHoras(const std::string& linea) {
@@ -112,28 +95,10 @@ ArchivoHoras leerArchivoHoras(const fs::path& ruta) {
 
 namespace {
 
-std::optional<ArchivoHoras> leerDelMes(const ContextoFormula& ctx) {
-    const auto ruta = archivoHorasDelMes(ctx);
-    if (!ruta) return std::nullopt;
-    return leerArchivoHoras(*ruta);
-}
-
-// El archivo del mes: el de la corrida, leído con la primera persona que lo
-// pide; fuera de una corrida, buscado y leído ahora.
 ImportacionHoras importarDelMes(ContextoFormula& ctx, bool descuentos, common::Dialogo& dialogo) {
-    std::optional<ArchivoHoras> propio;
-    const std::optional<ArchivoHoras>* archivo = &propio;
-    if (auto* corrida = ctx.horasDeLaCorrida) {
-        if (!corrida->buscado) {
-            corrida->archivo = leerDelMes(ctx);
-            corrida->buscado = true;
-        }
-        archivo = &corrida->archivo;
-    } else {
-        propio = leerDelMes(ctx);
-    }
-    if (!*archivo) return {};
-    return importarHoras(ctx, **archivo, descuentos, dialogo);
+    const auto& horas = maestrosDe(ctx).horas;
+    if (!horas) return {};
+    return importarHoras(ctx, *horas, descuentos, dialogo);
 }
 
 }  // namespace
@@ -148,9 +113,10 @@ ImportacionHoras CalculoCant2(ContextoFormula& ctx, common::Dialogo& dialogo) {
 
 ImportacionHoras importarHoras(ContextoFormula& ctx, const ArchivoHoras& archivo, bool descuentos,
                                common::Dialogo& dialogo) {
-    auto& base = baseDe(ctx);
+    auto& libro = libroDe(ctx);
+    const auto& maestros = maestrosDe(ctx);
     const auto& mes = ctx.periodo;
-    const auto& persona = personaDelContexto(ctx);
+    const auto* persona = ctx.persona;
     const double nrofun = persona ? common::textoANumero(persona->nrofun) : 0;
     const std::string tiposueldo = persona ? persona->tiposueldo : "";
 
@@ -158,7 +124,7 @@ ImportacionHoras importarHoras(ContextoFormula& ctx, const ArchivoHoras& archivo
     std::vector<FilaMes> habydesc;
     int cantHab = 0;
     if (descuentos) {
-        habydesc = leerFilasDelMes(base, TablaLiquidacion::Habydesc, ctx.empresa, ctx.nombre, mes);
+        habydesc = libro.filas(TablaLiquidacion::Habydesc, mes);
         cantHab = static_cast<int>(std::count_if(habydesc.begin(), habydesc.end(),
                                                  [](auto& f) { return f.tipo == "Hab"; }));
     }
@@ -168,7 +134,7 @@ ImportacionHoras importarHoras(ContextoFormula& ctx, const ArchivoHoras& archivo
         ctx.cantarchivo = 0;
         ctx.importearchivo = Dinero();
         if (!l || l->nrofun != nrofun) continue;
-        const auto concepto = conceptoDeLinea(base, l->codigo, descuentos, tiposueldo);
+        const auto* concepto = conceptoDeLinea(maestros, l->codigo, descuentos, tiposueldo);
         if (!concepto) continue;
 
         ctx.cantarchivo = l->cantidad;
@@ -185,8 +151,7 @@ ImportacionHoras importarHoras(ContextoFormula& ctx, const ArchivoHoras& archivo
             const bool unicoHaber = (tiposueldo == "H" || tiposueldo == "J") && cantHab == 1;
             if (ctx.tipoaporte != "04" && (mes.mes == 6 || mes.mes == 12) && ctx.psnis > 3 &&
                 !unicoHaber) {
-                const auto aguinaldos = leerFilasDelMes(base, TablaLiquidacion::Aguinaldos,
-                                                        ctx.empresa, ctx.nombre, mes);
+                const auto& aguinaldos = libro.filas(TablaLiquidacion::Aguinaldos, mes);
                 Dinero snisAg;
                 for (const auto& a : aguinaldos)
                     if (empiezaCon(a.concepto, "SNIS")) {
@@ -198,8 +163,8 @@ ImportacionHoras importarHoras(ContextoFormula& ctx, const ArchivoHoras& archivo
                 exp += "; aguinaldo " + pesos(ctx.montogravag) + " x " + numero(ctx.psnis) +
                        "% - " + pesos(snisAg);
             }
-        } else if (const auto previa =
-                       filaPorCodigo(base, ctx.empresa, ctx.nombre, mes, l->codigo)) {
+        } else if (const auto* previa =
+                       libro.porCodigo(TablaLiquidacion::Habydesc, mes, l->codigo)) {
             // Los haberes del archivo se suman a lo que ya había.
             cant += previa->cant;
             total += previa->total.aDouble();
@@ -210,13 +175,14 @@ ImportacionHoras importarHoras(ContextoFormula& ctx, const ArchivoHoras& archivo
         auto fila = filaDeConcepto(*concepto, descuentos ? "Des" : "Hab");
         fila.cant = cant;
         fila.total = Dinero::desdeDouble(total);
-        escribirFila(base, TablaLiquidacion::Habydesc, ctx.empresa, ctx.nombre, mes, fila);
+        fila.explicacion = exp;
+        libro.escribir(TablaLiquidacion::Habydesc, mes, fila);
         r.filas.push_back(fila);
         r.explicacion += exp + "\n";
 
         if (!descuentos && esConceptoHoras(common::mayusculas(concepto->concepto)))
             if (auto j =
-                    actualizarJornadas(base, ctx.empresa, ctx.nombre, mes,
+                    actualizarJornadas(libro, maestros, mes,
                                        common::mayusculas(concepto->concepto), cant, ctx.htrab))
                 r.filas.push_back(*j);
     }

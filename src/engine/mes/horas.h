@@ -25,9 +25,6 @@ std::string prefijoArchivosHoras();
 std::filesystem::path rutaArchivoHoras(const std::string& prefijo, const common::Mes& mes,
                                        const std::string& nroemp);
 
-// El archivo de la empresa del contexto para su mes, si existe.
-std::optional<std::filesystem::path> archivoHorasDelMes(const ContextoFormula& ctx);
-
 struct LineaHoras {
     double nrofun = 0;
     long codigo = 0;
@@ -44,21 +41,14 @@ struct ArchivoHoras {
 };
 ArchivoHoras leerArchivoHoras(const std::filesystem::path& ruta);
 
-// El archivo del mes en la corrida de una empresa (ContextoFormula::
-// horasDeLaCorrida): se busca y se lee una vez, con la primera persona que lo
-// pide, y sirve para todas.
-struct HorasDeLaCorrida {
-    bool buscado = false;
-    std::optional<ArchivoHoras> archivo;  // nada si el mes no tiene archivo
-};
-
 struct ImportacionHoras {
     std::vector<FilaGenerada> filas;  // en el orden en que se escribieron
     std::string explicacion;
 };
 
-// ctx trae empresa, nombre, periodo, el lector de variables, sueldos, htrab y
-// la base del mes. Sin archivo no hace nada.
+// El archivo del mes que leyeron los maestros de la corrida. ctx trae la
+// persona, sus filas, los maestros, sueldos, htrab y la base del mes. Sin
+// archivo no hace nada.
 ImportacionHoras CalculoCant(ContextoFormula& ctx, common::Dialogo& dialogo);
 // Los descuentos: ctx.tipoaporte ya leído.
 ImportacionHoras CalculoCant2(ContextoFormula& ctx, common::Dialogo& dialogo);

@@ -4,27 +4,13 @@
 #include "engine/calculos/aportes.h"
 #include "engine/mes/aportes_lector.h"
 #include "engine/mes/datos_persona.h"
-#include "store/recordada.h"
+#include "engine/mes/libro.h"
 
 namespace nomira::engine {
 
 using common::Dinero;
 
 namespace {
-
-Dinero sumaConPrefijo(const std::vector<FilaMes>& filas, const char* prefijo) {
-    Dinero s;
-    for (const auto& f : filas)
-        if (empiezaCon(f.concepto, prefijo)) s += f.total;
-    return s;
-}
-
-Dinero sumaSalvacacional(const std::vector<FilaSalVac>& filas, const char* prefijo) {
-    Dinero s;
-    for (const auto& f : filas)
-        if (empiezaCon(f.concepto, prefijo)) s += f.total;
-    return s;
-}
 
 struct Banderas {
     bool multiEmp = false, nfam = false, l19321 = false;
@@ -44,9 +30,7 @@ Dinero ajusteJunio(ContextoFormula& ctx, const std::vector<FilaMes>& habydesc,
                    const std::optional<DatosPersona>& p, common::Dialogo& dialogo) {
     if (ctx.periodo.mes != 6 || ctx.tipoaporte == "04") return {};
     if (excepcionLicencia(p ? p->tiposueldo : "", habydesc)) return {};
-    auto& base = baseDe(ctx);
-    const auto aguinaldos =
-        leerFilasDelMes(base, TablaLiquidacion::Aguinaldos, ctx.empresa, ctx.nombre, ctx.periodo);
+    const auto& aguinaldos = libroDe(ctx).filas(TablaLiquidacion::Aguinaldos, ctx.periodo);
     const double psnis = psnisDeLaFormula(ctx, dialogo);
     return Dinero::desdeDouble(sumaHab(aguinaldos).aDouble() / 12 * psnis / 100 -
                                sumaConPrefijo(aguinaldos, "SNIS").aDouble());
@@ -54,28 +38,11 @@ Dinero ajusteJunio(ContextoFormula& ctx, const std::vector<FilaMes>& habydesc,
 
 }  // namespace
 
-namespace {
-
-void agregarFranja(std::vector<FilaEscala>& escala, const store::FilaAlPaso& f) {
-    escala.push_back({static_cast<long>(f.entero(0)), f.real(1), f.real(2), f.real(3)});
-}
-
-}  // namespace
-
-std::vector<FilaEscala> leerEscala(store::Conexion& base, bool delAguinaldo) {
-    // La corrida de una empresa la pide por cada persona: se convierte una vez.
-    return *store::consultaConvertida(
-        base,
-        delAguinaldo
-            ? "SELECT franja, min, max, tasa FROM franjasirp WHERE franja > 2000 ORDER BY franja"
-            : "SELECT franja, min, max, tasa FROM franjasirp WHERE franja < 1000 ORDER BY franja",
-        {}, agregarFranja);
-}
-
 ResultadoIRPF CalculoIRPF(ContextoFormula& ctx, Dinero montoirpf, Dinero montonominal,
                           const OpcionesIRPF& op, common::Dialogo& dialogo) {
-    auto& base = baseDe(ctx);
-    auto& vars = *ctx.variables;
+    const auto& maestros = maestrosDe(ctx);
+    const auto& libro = libroDe(ctx);
+    const auto& vars = variablesDe(ctx);
     const auto persona = datosPersona(ctx);
     const auto mes = ctx.periodo;
 
@@ -85,21 +52,18 @@ ResultadoIRPF CalculoIRPF(ContextoFormula& ctx, Dinero montoirpf, Dinero montono
     e.mes = mes;
     e.bpc = vars.valor("BPC");
     e.exclusion = vars.valor("EXCLUSIONIRPF");
-    if (persona) e.deducciones = deduccionesDe(base, *persona, mes, vars, &dialogo);
-    e.escala = leerEscala(base, op.escalaAguinaldoEnJunio && mes.mes == 6);
+    if (persona) e.deducciones = deduccionesDe(maestros, *persona, mes, &dialogo);
+    e.escala = op.escalaAguinaldoEnJunio && mes.mes == 6 ? maestros.escalaAguinaldo
+                                                          : maestros.escala;
     const auto b = banderas(persona);
     e.multiEmp = b.multiEmp;
     e.nfam = b.nfam;
     e.l19321 = b.l19321;
 
-    const auto habydesc =
-        leerFilasDelMes(base, TablaLiquidacion::Habydesc, ctx.empresa, ctx.nombre, mes);
+    const auto& habydesc = libro.filas(TablaLiquidacion::Habydesc, mes);
     if (op.conAportes) {
         const Dinero ajuste = ajusteJunio(ctx, habydesc, persona, dialogo);
-        const auto filas =
-            op.tablaAportes == TablaLiquidacion::Habydesc
-                ? habydesc
-                : leerFilasDelMes(base, op.tablaAportes, ctx.empresa, ctx.nombre, mes);
+        const auto& filas = libro.filas(op.tablaAportes, mes);
         e.aportes = aportesDeducibles(filas, ajuste);
         if (op.aguinaldoDeEgreso) {
             Dinero aguinaldo;
@@ -109,16 +73,15 @@ ResultadoIRPF CalculoIRPF(ContextoFormula& ctx, Dinero montoirpf, Dinero montono
             e.aportes -= Dinero::desdeDouble(aguinaldo.aDouble() * tasas / 100);
         }
     }
-    e.irpfAguinaldo = sumaConPrefijo(
-        leerFilasDelMes(base, TablaLiquidacion::Aguinaldos, ctx.empresa, ctx.nombre, mes), "IRPF");
-    e.irpfSalvacacional =
-        sumaSalvacacional(leerSalvacacional(base, ctx.empresa, ctx.nombre, mes, mes), "IRPF");
+    e.irpfAguinaldo = sumaConPrefijo(libro.filas(TablaLiquidacion::Aguinaldos, mes), "IRPF");
+    e.irpfSalvacacional = sumaConPrefijo(libro.filas(TablaLiquidacion::Salvacacional, mes), "IRPF");
     return calcularIRPF(e, op);
 }
 
 ResultadoIRPFDic CalculoIRPFDic(ContextoFormula& ctx, bool conEgresos, common::Dialogo& dialogo) {
-    auto& base = baseDe(ctx);
-    auto& vars = *ctx.variables;
+    const auto& maestros = maestrosDe(ctx);
+    const auto& libro = libroDe(ctx);
+    const auto& vars = variablesDe(ctx);
     const auto persona = datosPersona(ctx);
     const common::Mes enero{ctx.periodo.anio, 1}, diciembre{ctx.periodo.anio, 12};
 
@@ -126,54 +89,46 @@ ResultadoIRPFDic CalculoIRPFDic(ContextoFormula& ctx, bool conEgresos, common::D
     e.periodo = ctx.periodo;
     e.bpc = vars.valor("BPC");
     e.exclusion = vars.valor("EXCLUSIONIRPF");
-    if (persona) e.deducciones = deduccionesDe(base, *persona, ctx.periodo, vars, &dialogo);
-    e.escala = leerEscala(base, false);
+    if (persona) e.deducciones = deduccionesDe(maestros, *persona, ctx.periodo, &dialogo);
+    e.escala = maestros.escala;
     const auto b = banderas(persona);
     e.multiEmp = b.multiEmp;
     e.nfam = b.nfam;
     e.l19321 = b.l19321;
     e.fechaMultiEmp = b.fechaMultiEmp;
 
-    const auto& empresa = ctx.empresa;
-    const auto& nombre = ctx.nombre;
-    const auto habydesc =
-        leerFilas(base, TablaLiquidacion::Habydesc, empresa, nombre, enero, diciembre);
-    const auto aguinaldos =
-        leerFilas(base, TablaLiquidacion::Aguinaldos, empresa, nombre, enero, diciembre);
-    const auto salvac = leerSalvacacional(base, empresa, nombre, enero, diciembre);
+    const auto habydesc = libro.filas(TablaLiquidacion::Habydesc, enero, diciembre);
+    const auto aguinaldos = libro.filas(TablaLiquidacion::Aguinaldos, enero, diciembre);
+    const auto salvac = libro.filas(TablaLiquidacion::Salvacacional, enero, diciembre);
     e.ingresos = habydesc;
     e.aportesDelAnio = sumaAportes(habydesc) + sumaAportes(aguinaldos);
     if (conEgresos) {
-        const auto egresos =
-            leerFilas(base, TablaLiquidacion::Egresos, empresa, nombre, enero, diciembre);
+        const auto egresos = libro.filas(TablaLiquidacion::Egresos, enero, diciembre);
         e.ingresos.insert(e.ingresos.end(), egresos.begin(), egresos.end());
         e.aportesDelAnio += sumaAportes(egresos);
     }
     for (int m = 1; m <= 12; ++m)
-        e.aguinaldosHab[m - 1] = sumaHab(
-            leerFilasDelMes(base, TablaLiquidacion::Aguinaldos, empresa, nombre, {enero.anio, m}));
+        e.aguinaldosHab[m - 1] =
+            sumaHab(libro.filas(TablaLiquidacion::Aguinaldos, common::Mes{enero.anio, m}));
     for (const auto& s : salvac)
         if (s.codigo == 606 || s.codigo == 636) e.salvacacional += s.total;
     // Lo ya retenido: una fila de diciembre ya guardada también cuenta.
     e.retenidoDelAnio = sumaConPrefijo(habydesc, "IRPF") + sumaConPrefijo(aguinaldos, "IRPF") +
-                        sumaSalvacacional(salvac, "IRPF");
+                        sumaConPrefijo(salvac, "IRPF");
     return calcularIRPFDic(e);
 }
 
 Dinero CalculomontodeduccionesIRPF(ContextoFormula& ctx, const OpcionesIRPF& op,
                                    common::Dialogo& dialogo) {
-    auto& base = baseDe(ctx);
-    auto& vars = *ctx.variables;
+    const auto& libro = libroDe(ctx);
     const auto persona = datosPersona(ctx);
     Dinero total;
     if (persona)
-        total = deduccionesDelMes(deduccionesDe(base, *persona, ctx.periodo, vars, &dialogo),
-                                  vars.valor("BPC"), op.factorSlot08);
-    total += sumaAportes(
-        leerFilasDelMes(base, TablaLiquidacion::Habydesc, ctx.empresa, ctx.nombre, ctx.periodo));
+        total = deduccionesDelMes(deduccionesDe(maestrosDe(ctx), *persona, ctx.periodo, &dialogo),
+                                  variablesDe(ctx).valor("BPC"), op.factorSlot08);
+    total += sumaAportes(libro.filas(TablaLiquidacion::Habydesc, ctx.periodo));
     if (ctx.periodo.mes != 6)
-        total += sumaAportes(leerFilasDelMes(base, TablaLiquidacion::Aguinaldos, ctx.empresa,
-                                             ctx.nombre, ctx.periodo));
+        total += sumaAportes(libro.filas(TablaLiquidacion::Aguinaldos, ctx.periodo));
     return total;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
-// Las lecturas del IRPF para una persona y un mes: lo que calcularIRPF y
-// calcularIRPFDic reciben hecho. El contexto es el de la pantalla: empresa,
-// nombre, período, tipoaporte, el lector de variables y la base del mes
-// (montograv) que dejó el Desglose.
+// El IRPF de una persona y un mes sobre lo leído: arma lo que calcularIRPF y
+// calcularIRPFDic reciben hecho. El contexto trae el período, tipoaporte, la
+// persona, sus filas, los maestros y la base del mes (montograv) que dejó el
+// Desglose.
 #include <string>
 #include <vector>
 
@@ -12,9 +12,6 @@
 #include "engine/calculos/irpf_dic.h"
 
 namespace nomira::engine {
-
-// Las franjas de la escala mensual (< 1000) o de la del aguinaldo de junio (> 2000).
-std::vector<FilaEscala> leerEscala(store::Conexion& base, bool delAguinaldo);
 
 ResultadoIRPF CalculoIRPF(ContextoFormula& ctx, common::Dinero montoirpf,
                           common::Dinero montonominal, const OpcionesIRPF& opciones,

@@ -5,7 +5,8 @@
 #include "engine/mes/aportes_lector.h"
 #include "engine/mes/datos_persona.h"
 #include "engine/calculos/explicacion.h"
-#include "engine/mes/filas_persona.h"
+#include "common/numeros.h"
+#include "engine/mes/libro.h"
 #include "engine/mes/irpf_lector.h"
 
 namespace nomira::engine {
@@ -20,41 +21,41 @@ std::vector<std::string> aportesDeLicencia(double cantbfc, const std::string& ti
 
 IRPFLicencia irpfConAportesDeLicencia(ContextoFormula& ctx, Dinero montoirpf, Dinero montonominal,
                                       Dinero gravadoLicencia, common::Dialogo& dialogo) {
-    if (!ctx.variables) throw common::Fallo(91, "Variable de objeto o bloque With no establecida");
-    auto& base = baseDe(ctx);
+    const auto& maestros = maestrosDe(ctx);
     const auto persona = datosPersona(ctx);
     const double cantbfc = persona ? persona->cantbfc : 0;
 
     IRPFLicencia r;
-    store::Transaccion temporal(base);
+    // Los aportes de la licencia cuentan sólo para este IRPF: van a una copia
+    // de las filas de la persona, que se tira después.
+    LibroPersona conAportes = libroDe(ctx);
     for (const auto& nombre : aportesDeLicencia(cantbfc, ctx.tipoaporte)) {
-        const auto c = base.consulta(
-            "SELECT codigo, formula FROM conceptos WHERE concepto = ? AND tipo = 'Des' "
-            "ORDER BY codigo LIMIT 1",
-            {nombre});
-        if (c.vacio()) continue;
+        const auto* c = maestros.conceptos.porNombre(nombre, "Des");
+        if (!c) continue;
         ContextoFormula copia = ctx;
-        copia.formula = c.primera().texto("formula");
+        copia.formula = c->formula;
         copia.montograv = gravadoLicencia;
         copia.psnis = 0;
         CalculoFormula2(copia, dialogo);
         double total = copia.total;
         if (nombre == "MONTEPIO" && persona && ctx.tipoaporte != "04" &&
             common::SocMedica::leer(persona->socmedica).tafap == "Si") {
-            const double tope = topeAfap(base, persona->socmedica);
+            const double tope = topeAfap(maestros, persona->socmedica);
             if (gravadoLicencia.aDouble() > tope) total = 15 * tope / 100;
         }
         const auto importe = Dinero::desdeDouble(total);
-        base.ejecuta(
-            "INSERT INTO habydesc (empresa, nombre, fecha, codigo, concepto, tipo, unidad, "
-            "permanente, gravado, aguinaldo, cant, total, lic, ipd) VALUES (?, ?, ?, ?, ?, 'Des', "
-            "'', '', '', '', 1, ?, '', '')",
-            {ctx.empresa, ctx.nombre, ctx.periodo.primerDia().iso(), c.primera().entero("codigo"),
-             nombre, importe.aDouble()});
+        FilaMes aporte;
+        aporte.codigo = static_cast<long>(common::textoANumero(c->codigo));
+        aporte.concepto = nombre;
+        aporte.tipo = "Des";
+        aporte.cant = 1;
+        aporte.total = Dinero::desdeDouble(importe.aDouble());
+        conAportes.agregarLeida(TablaLiquidacion::Habydesc, ctx.periodo, std::move(aporte));
         r.explicacion += nombre + " de la licencia " + pesos(importe) + "; ";
     }
-    r.irpf = CalculoIRPF(ctx, montoirpf, montonominal, opcionesIRPFForm42(), dialogo);
-    // La transacción no se confirma: los aportes de la licencia se van.
+    ContextoFormula conLicencia = ctx;
+    conLicencia.libro = &conAportes;
+    r.irpf = CalculoIRPF(conLicencia, montoirpf, montonominal, opcionesIRPFForm42(), dialogo);
     return r;
 }
 

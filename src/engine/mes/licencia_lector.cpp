@@ -8,40 +8,30 @@ namespace nomira::engine {
 
 namespace {
 
-std::vector<store::Valor> delAnio(const std::string& empresa, const std::string& nombre, int anio) {
-    return {empresa, nombre, common::Fecha{anio, 1, 1}.iso(), common::Fecha{anio, 12, 31}.iso()};
-}
-
 // Las filas de salvacacional del año, por fecha: las de un mismo mes son un
 // período; a lo sumo cuatro.
-std::vector<double> periodosGozados(store::Conexion& base, const std::string& empresa,
-                                    const std::string& nombre, int anio) {
+std::vector<double> periodosGozados(const LibroPersona& libro, int anio) {
     std::vector<double> periodos;
-    std::string mesActual;
-    for (const auto& f : base.consulta("SELECT fecha, concepto, cant FROM salvacacional WHERE "
-                                       "empresa = ? AND nombre = ? AND fecha >= ? AND fecha <= ? "
-                                       "ORDER BY fecha",
-                                       delAnio(empresa, nombre, anio))
-                             .filas) {
-        if (!esLicenciaGozada(common::mayusculas(f.texto("concepto")))) continue;
-        const std::string mes = f.texto("fecha").substr(0, 7);
-        if (mes != mesActual) {
-            if (periodos.size() == 4) break;  // un quinto período queda afuera
-            periodos.push_back(0);
-            mesActual = mes;
+    for (int m = 1; m <= 12; ++m) {
+        bool nuevo = true;
+        for (const auto& f : libro.filas(TablaLiquidacion::Salvacacional, common::Mes{anio, m})) {
+            if (!esLicenciaGozada(common::mayusculas(f.concepto))) continue;
+            if (nuevo) {
+                if (periodos.size() == 4) return periodos;  // un quinto período queda afuera
+                periodos.push_back(0);
+                nuevo = false;
+            }
+            periodos.back() += f.cant;
         }
-        periodos.back() += f.real("cant");
     }
     if (!periodos.empty()) return periodos;
     // Sin goce en el año: lo no gozado que dejó un egreso ocupa el primero.
     double noGozado = 0;
     bool hay = false;
-    for (const auto& f : base.consulta("SELECT concepto, cant FROM egresos WHERE empresa = ? AND "
-                                       "nombre = ? AND fecha >= ? AND fecha <= ?",
-                                       delAnio(empresa, nombre, anio))
-                             .filas) {
-        if (!esLicenciaNoGozadaEgreso(common::mayusculas(f.texto("concepto")))) continue;
-        noGozado += f.real("cant");
+    for (const auto& f : libro.filas(TablaLiquidacion::Egresos, common::Mes{anio, 1},
+                                     common::Mes{anio, 12})) {
+        if (!esLicenciaNoGozadaEgreso(common::mayusculas(f.concepto))) continue;
+        noGozado += f.cant;
         hay = true;
     }
     if (hay) periodos.push_back(noGozado);
@@ -50,12 +40,11 @@ std::vector<double> periodosGozados(store::Conexion& base, const std::string& em
 
 }  // namespace
 
-std::optional<DiasLicencia> CalculoDiasaGozar(store::Conexion& base, const std::string& empresa,
-                                              const std::string& nombre, int anio,
+std::optional<DiasLicencia> CalculoDiasaGozar(const master::Persona& persona,
+                                              const LibroPersona& libro, int anio,
                                               common::Dialogo& dialogo, PantallaLicencia pantalla) {
-    const auto persona = master::leerPersona(base, empresa, nombre);
-    if (!persona) return std::nullopt;
-    const auto actividad = actividadDeLicencia(*persona);
+    const auto& nombre = persona.nombre;
+    const auto actividad = actividadDeLicencia(persona);
     if (!correspondeLicencia(actividad, anio)) {
         dialogo.avisar(common::TipoAviso::Informacion, "Mensaje de información",
                        "A " + nombre + " no le corresponde LICENCIA ya que ingresó en el año " +
@@ -66,18 +55,16 @@ std::optional<DiasLicencia> CalculoDiasaGozar(store::Conexion& base, const std::
     }
 
     EntradaDiasLicencia e;
-    e.tiposueldo = persona->tiposueldo;
+    e.tiposueldo = persona.tiposueldo;
     e.ingreso = actividad.ingreso;
     e.anio = anio;
-    for (const auto& f : base.consulta("SELECT concepto, cant FROM habydesc WHERE empresa = ? AND "
-                                       "nombre = ? AND fecha >= ? AND fecha <= ?",
-                                       delAnio(empresa, nombre, anio - 1))
-                             .filas) {
-        const std::string c = common::mayusculas(f.texto("concepto"));
-        if (esAusencia(c)) e.ausencias += f.real("cant");
-        if (esDiaTrabajado(c, e.tiposueldo)) e.diasTrabajados += f.real("cant");
+    for (const auto& f : libro.filas(TablaLiquidacion::Habydesc, common::Mes{anio - 1, 1},
+                                     common::Mes{anio - 1, 12})) {
+        const std::string c = common::mayusculas(f.concepto);
+        if (esAusencia(c)) e.ausencias += f.cant;
+        if (esDiaTrabajado(c, e.tiposueldo)) e.diasTrabajados += f.cant;
     }
-    e.periodosGozados = periodosGozados(base, empresa, nombre, anio);
+    e.periodosGozados = periodosGozados(libro, anio);
 
     auto r = calcularDiasLicencia(e);
     if (r.gozadosDeMas && pantalla == PantallaLicencia::Form42)

@@ -1,12 +1,13 @@
 #pragma once
-// CalculoDiasaGozar sobre la base: la persona, las filas del año anterior y lo
+// CalculoDiasaGozar sobre lo leído: la persona, sus filas del año anterior y lo
 // gozado en el año, con los avisos de la pantalla que lo pide.
 #include <optional>
 #include <string>
 
 #include "common/dialogo.h"
 #include "engine/calculos/licencia_dias.h"
-#include "store/conexion.h"
+#include "engine/mes/libro.h"
+#include "master/personal.h"
 
 namespace nomira::engine {
 
@@ -15,10 +16,11 @@ namespace nomira::engine {
 enum class PantallaLicencia { Form42, Form76 };
 
 // Los días a gozar en `anio` (el del mes que se liquida), generados en el año
-// anterior. Nada si la persona no está o no le corresponde licencia; en ese
-// caso lo dice el diálogo.
-std::optional<DiasLicencia> CalculoDiasaGozar(store::Conexion& base, const std::string& empresa,
-                                              const std::string& nombre, int anio,
+// anterior. Nada si no le corresponde licencia; en ese caso lo dice el diálogo.
+// Las filas deben traer habydesc del año anterior y salvacacional y egresos
+// del año.
+std::optional<DiasLicencia> CalculoDiasaGozar(const master::Persona& persona,
+                                              const LibroPersona& libro, int anio,
                                               common::Dialogo& dialogo,
                                               PantallaLicencia pantalla = PantallaLicencia::Form42);
 

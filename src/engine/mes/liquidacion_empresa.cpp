@@ -25,9 +25,8 @@ TotalesEmpresa liquidarMesDeEmpresa(store::Conexion& base, const std::string& em
                                     const OpcionesHaberes& opciones) {
     correr("ActHamPermxEmpresa_Click",
            [&] { return ActHamPermxEmpresa(base, empresa, mes, dialogo, opciones); });
-    master::LectorVariables variables(base);
     const auto d = correr("ActDesPermxEmpresa_Click", [&] {
-        return ActDesPermxEmpresa(base, variables, empresa, mes, dialogo);
+        return ActDesPermxEmpresa(base, empresa, mes, dialogo);
     });
     TotalesEmpresa t;
     for (const auto& p : d.personas) t.personas += p.hecho;

@@ -2,7 +2,6 @@
 
 #include "common/numeros.h"
 #include "common/texto.h"
-#include "store/recordada.h"
 
 namespace nomira::engine {
 
@@ -16,65 +15,56 @@ constexpr const char* kSinPersona =
 
 }  // namespace
 
-std::optional<EmpresaDelMes> leerEmpresaDelMes(store::Conexion& base, const std::string& empresa) {
-    const auto e = master::leerEmpresa(base, empresa);
-    if (!e) return std::nullopt;
-    return EmpresaDelMes{empresa, master::tipoaporteDe(base, *e), consejoDeLaEmpresa(base, *e)};
+MesPersona mesDeLaPersona(std::shared_ptr<Lectura> lectura, PersonaDelMes& persona,
+                          ContextoFormula& ctx) {
+    const auto& m = lectura->maestros;
+    const auto& p = persona.ficha;
+    MesPersona mp;
+    mp.empresa = persona.libro.empresa();
+    mp.nombre = p->nombre;
+    mp.mes = lectura->mes;
+    mp.delMes = &persona;
+    mp.persona = p;
+    mp.tipoaporte = m.tipoaporte;
+    mp.tiposueldo = p->tiposueldo;
+    mp.vinculofun = p->vinculofun;
+    mp.bpc = m.variables.valor("BPC");
+    mp.consejo = m.consejo;
+    mp.lectura = std::move(lectura);
+
+    ctx.empresa = mp.empresa;
+    ctx.nombre = mp.nombre;
+    ctx.periodo = mp.mes;
+    ctx.tipoaporte = mp.tipoaporte;
+    ctx.variables = &m.variables;
+    ctx.persona = p.get();
+    ctx.libro = &persona.libro;
+    ctx.maestros = &m;
+    cargarPersona(ctx, *p);
+    refrescarDesglose(mp, ctx);
+    return mp;
 }
 
-std::optional<MesPersona> BuscarVerif(store::Conexion& base, master::LectorVariables& variables,
-                                      const std::string& empresa, const std::string& nombre,
-                                      const common::Mes& mes, ContextoFormula& ctx,
-                                      common::Dialogo& dialogo, const EmpresaDelMes* leida) {
-    std::optional<EmpresaDelMes> e;
-    if (leida && leida->empresa == empresa)
-        e = *leida;
-    else
-        e = leerEmpresaDelMes(base, empresa);
-    if (!e) {
+std::optional<MesPersona> BuscarVerif(store::Conexion& base, const std::string& empresa,
+                                      const std::string& nombre, const common::Mes& mes,
+                                      ContextoFormula& ctx, common::Dialogo& dialogo) {
+    auto lectura =
+        std::make_shared<Lectura>(leerCorrida(base, empresa, mes, mesesDelRenglon(mes), nombre));
+    if (!lectura->maestros.empresa) {
         dialogo.avisar(common::TipoAviso::Advertencia, kSinEmpresa);
         return std::nullopt;
     }
-    // La persona que el contexto ya trae (la corrida de la empresa la leyó con
-    // todas las demás) no se vuelve a leer.
-    ctx.empresa = empresa;
-    ctx.nombre = nombre;
-    ctx.base = &base;
-    ctx.variables = &variables;
-    const auto& p = personaDelContexto(ctx);
+    auto* p = lectura->persona(nombre);
     if (!p) {
         dialogo.avisar(common::TipoAviso::Advertencia, kSinPersona);
         return std::nullopt;
     }
-
-    MesPersona mp;
-    mp.empresa = empresa;
-    mp.nombre = nombre;
-    mp.mes = mes;
-    mp.tipoaporte = std::move(e->tipoaporte);
-    mp.persona = p;
-    mp.tiposueldo = p->tiposueldo;
-    mp.vinculofun = p->vinculofun;
-    mp.bpc = variables.valor("BPC");
-    mp.consejo = std::move(e->consejo);
-
-    ctx.periodo = mes;
-    ctx.tipoaporte = mp.tipoaporte;
-    cargarPersona(ctx, *mp.persona);
-    refrescarDesglose(base, mp, ctx);
-    return mp;
+    return mesDeLaPersona(std::move(lectura), *p, ctx);
 }
 
-void refrescarDesglose(store::Conexion& base, MesPersona& mp, ContextoFormula& ctx) {
-    mp.desglose = leerDesglose(base, mp.empresa, mp.nombre, mp.mes, mp.tipoaporte, mp.vinculofun,
-                               ctx.sueldo, mp.bpc);
+void refrescarDesglose(MesPersona& mp, ContextoFormula& ctx) {
+    mp.desglose = leerDesglose(mp.libro(), mp.mes, mp.tipoaporte, mp.vinculofun, ctx.sueldo, mp.bpc);
     volcarEnContexto(mp.desglose, ctx);
-}
-
-bool tieneConceptosPropios(store::Conexion& base, const MesPersona& mp, const char* tipo) {
-    return store::puedeEstar(
-        base, "SELECT DISTINCT nombre FROM concpermxpers WHERE empresa = ? AND tipo = ?",
-        {mp.empresa, std::string(tipo)}, mp.nombre);
 }
 
 FilaGenerada filaDeConcepto(const master::Concepto& c, const std::string& tipo) {

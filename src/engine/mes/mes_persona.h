@@ -2,6 +2,7 @@
 // El mes de una persona en Form42: lo que BuscarVerif lee de la empresa y de la
 // persona, cargado en el contexto de las fórmulas, y lo que devuelve una
 // generación (las filas escritas con la explicación de cada importe).
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -12,6 +13,7 @@
 #include "engine/calculos/base_irpf.h"
 #include "engine/calculos/calculo_licencia.h"
 #include "engine/mes/filas_mes.h"
+#include "engine/mes/lectura.h"
 #include "engine/formulas/formula.h"
 #include "engine/calculos/irpf.h"
 #include "engine/calculos/irpf_dic.h"
@@ -23,52 +25,45 @@
 
 namespace nomira::engine {
 
-// Lo que el mes de cada persona toma de su empresa. La corrida de una empresa
-// lo lee una vez para todas.
-struct EmpresaDelMes {
-    std::string empresa;
-    std::string tipoaporte;   // "04" es la exoneración; "" sin fila en tipoaport
-    ConsejoSalarios consejo;  // grupo y subgrupo, para los divisores de la licencia
-};
-// Nada si la empresa no existe.
-std::optional<EmpresaDelMes> leerEmpresaDelMes(store::Conexion& base, const std::string& empresa);
-
-// La empresa y la persona tal como las usa el mes.
+// La empresa y la persona tal como las usa el mes, sobre lo leído por la
+// corrida (que el mes comparte: el contexto de las fórmulas apunta ahí).
 struct MesPersona {
     std::string empresa, nombre;
     common::Mes mes;
+    std::shared_ptr<Lectura> lectura;
+    PersonaDelMes* delMes = nullptr;    // dentro de lectura
     master::PersonaCompartida persona;  // nunca nula
     std::string tipoaporte;
     std::string tiposueldo;  // "S", "J" o "H"
     std::string vinculofun;
     double bpc = 0;
     ConsejoSalarios consejo;
-    BaseMes desglose;  // la base del mes al momento de leerla
+    BaseMes desglose;  // la base del mes al momento de calcularla
+
+    LibroPersona& libro() const { return delMes->libro; }
+    const Maestros& maestros() const { return lectura->maestros; }
 };
 
-// BuscarVerif: la empresa (tipoaporte, consejo) y la persona (sueldo, tiposueldo,
-// htrab, cantbfc, sueldo2, sueldo3), y la base del mes (Desglose) volcada en ctx.
-// ctx queda con empresa, nombre, periodo y variables. Sin empresa o sin persona
-// avisa con el mensaje de la pantalla y devuelve nada. Si ctx ya trae leída esa
-// persona (personaLeida) no se la vuelve a leer: un contexto nuevo la lee. Con
-// `leida` (de esa misma empresa) la empresa tampoco se lee.
-std::optional<MesPersona> BuscarVerif(store::Conexion& base, master::LectorVariables& variables,
-                                      const std::string& empresa, const std::string& nombre,
-                                      const common::Mes& mes, ContextoFormula& ctx,
-                                      common::Dialogo& dialogo,
-                                      const EmpresaDelMes* leida = nullptr);
+// El mes de una persona de la corrida: lo de la empresa y la persona, y la base
+// del mes (Desglose) volcada en ctx, que queda con empresa, nombre, período, la
+// persona, sus filas y los maestros.
+MesPersona mesDeLaPersona(std::shared_ptr<Lectura> lectura, PersonaDelMes& persona,
+                          ContextoFormula& ctx);
 
-// Vuelve a leer la base del mes (después de escribir filas) y la vuelca en ctx.
-void refrescarDesglose(store::Conexion& base, MesPersona& mp, ContextoFormula& ctx);
+// BuscarVerif: lee la empresa y la persona con sus filas del mes y del año de
+// la licencia (mesesDelRenglon), y arma su mes. Sin empresa o sin persona avisa
+// con el mensaje de la pantalla y devuelve nada.
+std::optional<MesPersona> BuscarVerif(store::Conexion& base, const std::string& empresa,
+                                      const std::string& nombre, const common::Mes& mes,
+                                      ContextoFormula& ctx, common::Dialogo& dialogo);
+
+// Vuelve a calcular la base del mes sobre las filas (después de cambiarlas) y la
+// vuelca en ctx.
+void refrescarDesglose(MesPersona& mp, ContextoFormula& ctx);
 
 // La fila de un concepto con sus banderas y el tipo dado ("Hab" o "Des"); cant y
 // total en 0.
 FilaGenerada filaDeConcepto(const master::Concepto& c, const std::string& tipo);
-
-// ¿Puede tener la persona conceptos propios (concpermxpers) de ese tipo ("Hab" o
-// "Des")? En la corrida de una empresa se sabe de una lectura de toda la
-// empresa; fuera de ella es siempre que sí y se buscan.
-bool tieneConceptosPropios(store::Conexion& base, const MesPersona& mp, const char* tipo);
 
 // ¿Trabaja la persona en el mes? Ingresó antes del año, o en el año y no
 // después del mes; y no egresó en un año anterior ni en un mes anterior del

@@ -1,38 +1,14 @@
-// CalculoAntiguedad sobre la base: persona, consejo de la empresa y bases.
-#include "engine/calculos/calculo_licencia.h"
-#include "engine/calculos/primas_antiguedad.h"
-#include "master/personal.h"
+#include "engine/mes/primas_antiguedad_lector.h"
 
 namespace nomira::engine {
 
-namespace {
-
-// El sueldo mínimo más nuevo (por fecha de fin) de la categoría; 0 sin fila.
-double sueldoMinimo(store::Conexion& base, const ConsejoSalarios& c, const std::string& sector,
-                    const std::string& categoria) {
-    const auto r = base.consulta(
-        "SELECT sueldo FROM histsueldosmin WHERE nombre = ? AND nombre2 = ? AND nombre3 = ? AND "
-        "nombre4 = ? ORDER BY fechafin IS NULL, fechafin DESC LIMIT 1",
-        {c.textoGrupo, c.textoSubgrupo, sector, categoria});
-    return r.vacio() ? 0 : r.primera().real("sueldo");
-}
-
-}  // namespace
-
-std::optional<PrimaAntiguedad> CalculoAntiguedad(
-    store::Conexion& base, master::LectorVariables& variables, const std::string& empresa,
-    const std::string& nombre, const std::string& textoCant, const common::Mes& periodo,
-    common::Dialogo& dialogo, const std::string& pantalla) {
-    const auto persona = master::leerPersona(base, empresa, nombre);
-    if (!persona) return std::nullopt;
-    return CalculoAntiguedad(base, variables, *persona, consejoDeLaEmpresa(base, empresa),
-                             textoCant, periodo, dialogo, pantalla);
-}
-
-std::optional<PrimaAntiguedad> CalculoAntiguedad(
-    store::Conexion& base, master::LectorVariables& variables, const master::Persona& persona,
-    const ConsejoSalarios& consejo, const std::string& textoCant, const common::Mes& periodo,
-    common::Dialogo& dialogo, const std::string& pantalla) {
+std::optional<PrimaAntiguedad> CalculoAntiguedad(const Maestros& maestros,
+                                                 const master::Persona& persona,
+                                                 const std::string& textoCant,
+                                                 const common::Mes& periodo,
+                                                 common::Dialogo& dialogo,
+                                                 const std::string& pantalla) {
+    const auto& consejo = maestros.consejo;
     const int miembro = miembroPorConsejo(consejo.grupo, consejo.subgrupo).value_or(0);
     try {
         const auto baseDe = [&](const MiembroAntiguedad& m, const ActividadAntiguedad& a) {
@@ -40,12 +16,12 @@ std::optional<PrimaAntiguedad> CalculoAntiguedad(
                 case BaseAntiguedad::Sueldo:
                     return a.sueldo;
                 case BaseAntiguedad::BPC:
-                    return variables.valor("BPC");
+                    return maestros.variables.valor("BPC");
                 case BaseAntiguedad::SALMIN:
-                    return variables.valor("SALMIN");
+                    return maestros.variables.valor("SALMIN");
                 case BaseAntiguedad::SueldoMinimo:
-                    return sueldoMinimo(base, consejo, m.sector ? m.sector : a.sector,
-                                        m.categoria ? m.categoria : a.categoria);
+                    return maestros.sueldoMinimo(m.sector ? m.sector : a.sector,
+                                                 m.categoria ? m.categoria : a.categoria);
             }
             return 0.0;
         };

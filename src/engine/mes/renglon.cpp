@@ -10,10 +10,11 @@
 #include "engine/calculos/calculo_licencia.h"
 #include "engine/mes/descuentos.h"
 #include "engine/calculos/explicacion.h"
-#include "engine/mes/explicaciones.h"
+#include "engine/mes/escritura.h"
+#include "engine/mes/filas_persona.h"
 #include "engine/mes/filas_persona.h"
 #include "engine/mes/licencia_lector.h"
-#include "engine/calculos/primas_antiguedad.h"
+#include "engine/mes/primas_antiguedad_lector.h"
 #include "engine/calculos/salario_vacacional.h"
 
 namespace nomira::engine {
@@ -26,40 +27,25 @@ long codigoDe(const master::Concepto& c) {
     return static_cast<long>(common::textoANumero(c.codigo));
 }
 
-std::vector<store::Valor> clavesMes(const MesPersona& mp) {
-    return {mp.empresa, mp.nombre, mp.mes.primerDia().iso()};
+// Las filas SUELDO del mes con otro total, y por qué.
+void reescribirSueldo(const MesPersona& mp, Dinero total, const std::string& explicacion) {
+    auto& libro = mp.libro();
+    std::vector<FilaMes> sueldos;
+    for (const auto& f : libro.filas(TablaLiquidacion::Habydesc, mp.mes))
+        if (f.concepto == "SUELDO") sueldos.push_back(f);
+    for (auto& f : sueldos) {
+        f.total = total;
+        f.explicacion = explicacion;
+        libro.escribir(TablaLiquidacion::Habydesc, mp.mes, f);
+    }
 }
 
-std::vector<store::Valor> clavesCodigo(const MesPersona& mp, long codigo) {
-    return {mp.empresa, mp.nombre, mp.mes.primerDia().iso(), static_cast<std::int64_t>(codigo)};
+bool hayDescuentos(const MesPersona& mp) {
+    return mp.libro().tiene(TablaLiquidacion::Habydesc, mp.mes, "Des");
 }
 
-// La fila SUELDO del mes con otro total, y por qué.
-void reescribirSueldo(store::Conexion& base, const MesPersona& mp, Dinero total,
-                      const std::string& explicacion) {
-    const auto filas = base.consulta(
-        "SELECT codigo FROM habydesc WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
-        "concepto = 'SUELDO'",
-        clavesMes(mp));
-    base.ejecuta(
-        "UPDATE habydesc SET total = ? WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
-        "concepto = 'SUELDO'",
-        {total.aDouble(), mp.empresa, mp.nombre, mp.mes.primerDia().iso()});
-    for (const auto& f : filas.filas)
-        guardarExplicacion(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes,
-                           static_cast<long>(f.entero("codigo")), "Hab", explicacion);
-}
-
-bool hayDescuentos(store::Conexion& base, const MesPersona& mp) {
-    return !base.consulta(
-                    "SELECT 1 FROM habydesc WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
-                    "tipo = 'Des' LIMIT 1",
-                    clavesMes(mp))
-                .vacio();
-}
-
-double diasAGozar(store::Conexion& base, const MesPersona& mp, common::Dialogo& dialogo) {
-    const auto d = CalculoDiasaGozar(base, mp.empresa, mp.nombre, mp.mes.anio, dialogo);
+double diasAGozar(const MesPersona& mp, common::Dialogo& dialogo) {
+    const auto d = CalculoDiasaGozar(*mp.persona, mp.libro(), mp.mes.anio, dialogo);
     return d ? d->cantdiaspendientes : 0;
 }
 
@@ -76,11 +62,10 @@ std::optional<std::string> pedirPeriodo(const MesPersona& mp, common::Dialogo& d
 }
 
 // La licencia: días a gozar, las preguntas, el período y el importe.
-std::optional<CalculoRenglon> calcularLicencia(store::Conexion& base, MesPersona& mp,
-                                               ContextoFormula& ctx, CalculoRenglon r,
-                                               const std::string& textoCant,
+std::optional<CalculoRenglon> calcularLicencia(MesPersona& mp, ContextoFormula& ctx,
+                                               CalculoRenglon r, const std::string& textoCant,
                                                common::Dialogo& dialogo) {
-    const double totaldias = diasAGozar(base, mp, dialogo);
+    const double totaldias = diasAGozar(mp, dialogo);
     if (textoCant == "0" || textoCant == " 0") {
         dialogo.avisar(common::TipoAviso::Advertencia, kLicenciaCero);
         r.explicacion = "licencia de cero días";
@@ -99,7 +84,7 @@ std::optional<CalculoRenglon> calcularLicencia(store::Conexion& base, MesPersona
     r.fechadesdelic = periodo->substr(0, 8);
     r.fechahastalic = periodo->substr(9, 8);
     const auto importe =
-        CalculoLicencia(base, ctx, textoCant, mp.consejo.grupo, mp.consejo.subgrupo, dialogo);
+        CalculoLicencia(ctx, textoCant, mp.consejo.grupo, mp.consejo.subgrupo, dialogo);
     r.cant = textoCant.empty() ? 1 : dias;
     r.total = importe.total;
     r.explicacion =
@@ -108,9 +93,9 @@ std::optional<CalculoRenglon> calcularLicencia(store::Conexion& base, MesPersona
 }
 
 // La fórmula con los ajustes de los aportes y la antigüedad.
-CalculoRenglon calcularConFormula(store::Conexion& base, MesPersona& mp, ContextoFormula& ctx,
-                                  CalculoRenglon r, const std::string& nombre,
-                                  const std::string& textoCant, common::Dialogo& dialogo) {
+CalculoRenglon calcularConFormula(MesPersona& mp, ContextoFormula& ctx, CalculoRenglon r,
+                                  const std::string& nombre, const std::string& textoCant,
+                                  common::Dialogo& dialogo) {
     ctx.cantarchivo = 0;
     ctx.importearchivo = Dinero();
     ctx.psnis = 0;
@@ -119,6 +104,7 @@ CalculoRenglon calcularConFormula(store::Conexion& base, MesPersona& mp, Context
     ctx.textoCant = textoCant;
     CalculoFormula(ctx, dialogo);
 
+    const auto& libro = mp.libro();
     EntradaAporte e;
     e.concepto = nombre;
     e.totalFormula = ctx.total;
@@ -129,13 +115,11 @@ CalculoRenglon calcularConFormula(store::Conexion& base, MesPersona& mp, Context
     e.cantbfc = ctx.cantbfc;
     e.bpc = mp.bpc;
     e.montograv = ctx.montograv;
-    e.excepcionLicencia = excepcionLicencia(
-        mp.tiposueldo,
-        leerFilasDelMes(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes));
+    e.excepcionLicencia =
+        excepcionLicencia(mp.tiposueldo, libro.filas(TablaLiquidacion::Habydesc, mp.mes));
     e.tafap = common::SocMedica::leer(mp.persona->socmedica).tafap == "Si";
-    e.tope = topeAfap(base, mp.persona->socmedica);
-    for (const auto& f :
-         leerFilasDelMes(base, TablaLiquidacion::Aguinaldos, mp.empresa, mp.nombre, mp.mes)) {
+    e.tope = topeAfap(mp.maestros(), mp.persona->socmedica);
+    for (const auto& f : libro.filas(TablaLiquidacion::Aguinaldos, mp.mes)) {
         if (f.tipo == "Hab") e.aguinaldosHab += f.total;
         if (empiezaCon(f.concepto, "SNIS") && e.snisAguinaldo == Dinero())
             e.snisAguinaldo = f.total;
@@ -147,13 +131,24 @@ CalculoRenglon calcularConFormula(store::Conexion& base, MesPersona& mp, Context
     r.explicacion = a.explicacion;
 
     if (esConceptoAntiguedad(nombre))
-        if (const auto p = CalculoAntiguedad(base, *ctx.variables, *mp.persona, mp.consejo,
-                                             textoCant, mp.mes, dialogo)) {
+        if (const auto p = CalculoAntiguedad(mp.maestros(), *mp.persona, textoCant, mp.mes, dialogo)) {
             r.cant = p->cant;
             r.total = p->total;
             r.explicacion = p->explicacion;
         }
     return r;
+}
+
+// Lo que se guarda o borra se calcula sobre las filas como están ahora en la
+// base, bajo la clave de la persona: otra generación pudo escribirlas desde que
+// la pantalla las leyó.
+bool releer(store::Conexion& base, MesPersona& mp, ContextoFormula& ctx,
+            common::Dialogo& dialogo) {
+    bloquearMes(base, mp.empresa, mp.nombre, mp.mes);
+    auto nuevo = BuscarVerif(base, mp.empresa, mp.nombre, mp.mes, ctx, dialogo);
+    if (!nuevo) return false;
+    mp = std::move(*nuevo);
+    return true;
 }
 
 }  // namespace
@@ -168,36 +163,35 @@ bool esConceptoLicencia(const std::string& concepto) {
            concepto == "LICENCIA 3RA ACT";
 }
 
-std::optional<RenglonBuscado> buscarRenglon(store::Conexion& base, const MesPersona& mp,
-                                            ContextoFormula& ctx, long codigo,
-                                            common::Dialogo& dialogo) {
-    auto c = master::leerConcepto(base, codigo);
+std::optional<RenglonBuscado> buscarRenglon(const MesPersona& mp, const ContextoFormula& ctx,
+                                            long codigo, common::Dialogo& dialogo) {
+    const auto* c = mp.maestros().conceptos.porCodigo(codigo);
     if (!c) {
         dialogo.avisar(common::TipoAviso::Advertencia, master::kCodigoInexistente);
         return std::nullopt;
     }
+    const auto& libro = mp.libro();
     RenglonBuscado r;
-    r.concepto = std::move(*c);
-    if (const auto f = filaPorCodigo(base, mp.empresa, mp.nombre, mp.mes, codigo)) {
+    r.concepto = *c;
+    if (const auto* f = libro.porCodigo(TablaLiquidacion::Habydesc, mp.mes, codigo)) {
         r.existe = true;
         r.textoCant = common::numeroATexto(f->cant);
         r.textoTotal = common::numeroATexto(f->total.aDouble());
     }
     const auto nombre = common::mayusculas(r.concepto.concepto);
     if (esConceptoLicencia(nombre)) {
-        r.textoCant = common::numeroATexto(diasAGozar(base, mp, dialogo));
+        r.textoCant = common::numeroATexto(diasAGozar(mp, dialogo));
     } else if (nombre == "JORNADAS EN EL MES" && ctx.htrab != 0) {
         double horas = 0;
         for (const char* n : {"HORAS", "HORAS NOCTURNAS"})
-            if (const auto f = filaPorConcepto(base, mp.empresa, mp.nombre, mp.mes, n))
+            if (const auto* f = libro.porConcepto(TablaLiquidacion::Habydesc, mp.mes, n))
                 horas += f->cant;
         r.textoCant = common::numeroATexto(horas / ctx.htrab);
     }
     return r;
 }
 
-std::optional<CalculoRenglon> calcularRenglon(store::Conexion& base, MesPersona& mp,
-                                              ContextoFormula& ctx,
+std::optional<CalculoRenglon> calcularRenglon(MesPersona& mp, ContextoFormula& ctx,
                                               const master::Concepto& concepto,
                                               const std::string& textoCant,
                                               common::Dialogo& dialogo) {
@@ -207,7 +201,7 @@ std::optional<CalculoRenglon> calcularRenglon(store::Conexion& base, MesPersona&
     const auto nombre = common::mayusculas(concepto.concepto);
     ctx.textoCant = textoCant;
     if (nombre == "IRP" || nombre == "IRPF") {
-        const auto imp = calcularImpuesto(base, mp, ctx, nombre, dialogo);
+        const auto imp = calcularImpuesto(mp, ctx, nombre, dialogo);
         r.texto = imp.concepto;
         r.cant = imp.cant;
         r.total = imp.total;
@@ -216,8 +210,8 @@ std::optional<CalculoRenglon> calcularRenglon(store::Conexion& base, MesPersona&
         return r;
     }
     if (esConceptoLicencia(nombre))
-        return calcularLicencia(base, mp, ctx, std::move(r), textoCant, dialogo);
-    return calcularConFormula(base, mp, ctx, std::move(r), nombre, textoCant, dialogo);
+        return calcularLicencia(mp, ctx, std::move(r), textoCant, dialogo);
+    return calcularConFormula(mp, ctx, std::move(r), nombre, textoCant, dialogo);
 }
 
 std::optional<std::string> guardarRenglon(store::Conexion& base, MesPersona& mp,
@@ -229,93 +223,92 @@ std::optional<std::string> guardarRenglon(store::Conexion& base, MesPersona& mp,
         return m;
     };
     if (textoTotal.empty()) return rechazar(kFaltaTotal);
+    store::Transaccion t(base);
+    if (!releer(base, mp, ctx, dialogo)) return std::string();
+    auto& libro = mp.libro();
     const auto& c = calculo.concepto;
     const long codigo = codigoDe(c);
-    const bool existe = filaPorCodigo(base, mp.empresa, mp.nombre, mp.mes, codigo).has_value();
-    if (c.tipo == "Hab" && hayDescuentos(base, mp))
+    const bool existe = libro.porCodigo(TablaLiquidacion::Habydesc, mp.mes, codigo) != nullptr;
+    if (c.tipo == "Hab" && hayDescuentos(mp))
         return rechazar(mensajeHayDescuentos(existe ? "Modificar" : "Agregar"));
-    if (hayEgresos(base, mp.empresa, mp.nombre, mp.mes)) return rechazar(kConEgresos);
+    if (libro.hayEgresos(mp.mes)) return rechazar(kConEgresos);
 
     const auto nombre = common::mayusculas(c.concepto);
     const double total = common::textoANumero(textoTotal);
-    store::Transaccion t(base);
     std::string vacacional;
     if (esConceptoLicencia(nombre)) {
         if (const auto sv = CalculoSalarioVacacionalNew(
-                base, ctx, nombre, common::textoANumero(textoCant), Dinero::desdeDouble(total),
+                ctx, nombre, common::textoANumero(textoCant), Dinero::desdeDouble(total),
                 calculo.fechadesdelic, calculo.fechahastalic, dialogo))
             vacacional = sv->explicacion;
         // El mes de un mensual paga el sueldo menos los días de licencia.
         if (mp.tiposueldo == "S") {
             const auto sueldo = Dinero::desdeDouble(ctx.sueldo - total);
-            reescribirSueldo(base, mp, sueldo,
+            reescribirSueldo(mp, sueldo,
                              "Sueldo " + pesos(ctx.sueldo) + " menos la licencia " + pesos(total) +
                                  " = " + pesos(sueldo) + ".");
         }
     }
     if (nombre == "RET. JUD. S/VAC") {
-        base.ejecuta(
-            "DELETE FROM salvacacional WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
-            "codigo = ?",
-            clavesCodigo(mp, codigo));
-        base.ejecuta(
-            "INSERT INTO salvacacional (empresa, nombre, fecha, codigo, concepto, unidad, cant, "
-            "total) VALUES (?, ?, ?, ?, ?, 'I', 1, ?)",
-            {mp.empresa, mp.nombre, mp.mes.primerDia().iso(), static_cast<std::int64_t>(codigo),
-             c.concepto, Dinero::desdeDouble(total).aDouble()});
+        FilaMes retencion;
+        retencion.codigo = codigo;
+        retencion.concepto = c.concepto;
+        retencion.unidad = "I";
+        retencion.cant = 1;
+        retencion.total = Dinero::desdeDouble(total);
+        libro.borrarCodigo(TablaLiquidacion::Salvacacional, mp.mes, codigo);
+        libro.escribir(TablaLiquidacion::Salvacacional, mp.mes, retencion);
     }
     auto fila = filaDeConcepto(c, c.tipo);
     fila.concepto = calculo.texto;
     fila.cant = common::textoANumero(textoCant);
     fila.total = Dinero::desdeDouble(total);
-    escribirFila(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, fila);
     std::string explicacion = calculo.explicacion;
     if (fila.total != calculo.total)
         explicacion += (explicacion.empty() ? "" : " ") + std::string("Total tecleado: ") +
                        pesos(fila.total) + ".";
     if (!vacacional.empty()) explicacion += (explicacion.empty() ? "" : " ") + vacacional;
-    guardarExplicacion(base, TablaLiquidacion::Habydesc, mp.empresa, mp.nombre, mp.mes, codigo,
-                       fila.tipo, explicacion);
+    libro.escribir(TablaLiquidacion::Habydesc, mp.mes, fila);
+    if (!explicacion.empty())
+        libro.explicar(TablaLiquidacion::Habydesc, mp.mes, codigo, explicacion);
     if (esConceptoHoras(nombre))
-        actualizarJornadas(base, mp.empresa, mp.nombre, mp.mes, nombre, fila.cant, ctx.htrab);
+        actualizarJornadas(libro, mp.maestros(), mp.mes, nombre, fila.cant, ctx.htrab);
     else if (existe && mp.tipoaporte == "04" && mp.tiposueldo == "H" && empiezaCon(nombre, "HORAS"))
-        actualizarJornadas(base, mp.empresa, mp.nombre, mp.mes, nombre, fila.cant, ctx.htrab);
+        actualizarJornadas(libro, mp.maestros(), mp.mes, nombre, fila.cant, ctx.htrab);
+    escribirLibro(base, libro);
     t.confirmar();
-    refrescarDesglose(base, mp, ctx);
+    refrescarDesglose(mp, ctx);
     return std::nullopt;
 }
 
-std::optional<std::string> eliminarRenglon(store::Conexion& base, const MesPersona& mp,
-                                           const master::Concepto& c, common::Dialogo& dialogo) {
-    if (c.tipo == "Hab" && hayDescuentos(base, mp)) {
+std::optional<std::string> eliminarRenglon(store::Conexion& base, MesPersona& mp,
+                                           ContextoFormula& ctx, const master::Concepto& c,
+                                           common::Dialogo& dialogo) {
+    if (c.tipo == "Hab" && hayDescuentos(mp)) {
         const auto m = mensajeHayDescuentos("Eliminar");
         dialogo.avisar(common::TipoAviso::Advertencia, m);
         return m;
     }
     if (!dialogo.confirmar("Eliminar Concepto", "¿Desea continuar?")) return "";
+    store::Transaccion t(base);
+    if (!releer(base, mp, ctx, dialogo)) return std::string();
+    auto& libro = mp.libro();
     const auto nombre = common::mayusculas(c.concepto);
     const long codigo = codigoDe(c);
-    store::Transaccion t(base);
     if (nombre == "LICENCIA" || nombre == "LICENCIA 2DA ACT") {
-        base.ejecuta("DELETE FROM salvacacional WHERE empresa = ? AND nombre = ? AND fecha = ?",
-                     clavesMes(mp));
+        libro.borrar(TablaLiquidacion::Salvacacional, mp.mes, [](const FilaMes&) { return true; });
         if (nombre == "LICENCIA" && mp.tiposueldo == "S") {
             const auto sueldo = Dinero::desdeDouble(common::textoANumero(mp.persona->sueldo));
-            reescribirSueldo(base, mp, sueldo,
+            reescribirSueldo(mp, sueldo,
                              "Sueldo de la ficha: " + pesos(sueldo) + " (se borró la licencia).");
         }
     }
-    const auto claves = clavesCodigo(mp, codigo);
     if (nombre == "RET. JUD. S/VAC")
-        base.ejecuta(
-            "DELETE FROM salvacacional WHERE empresa = ? AND nombre = ? AND fecha = ? AND "
-            "codigo = ?",
-            claves);
-    base.ejecuta(
-        "DELETE FROM habydesc WHERE empresa = ? AND nombre = ? AND fecha = ? AND codigo = ?",
-        claves);
-    podarExplicaciones(base, TablaLiquidacion::Habydesc, mp.empresa, mp.mes, mp.nombre);
+        libro.borrarCodigo(TablaLiquidacion::Salvacacional, mp.mes, codigo);
+    libro.borrarCodigo(TablaLiquidacion::Habydesc, mp.mes, codigo);
+    escribirLibro(base, libro);
     t.confirmar();
+    refrescarDesglose(mp, ctx);
     return std::nullopt;
 }
 

@@ -36,9 +36,8 @@ struct RenglonBuscado {
     bool existe = false;  // Modificar en lugar de Agregar
     std::string textoCant, textoTotal;
 };
-std::optional<RenglonBuscado> buscarRenglon(store::Conexion& base, const MesPersona& mp,
-                                            ContextoFormula& ctx, long codigo,
-                                            common::Dialogo& dialogo);
+std::optional<RenglonBuscado> buscarRenglon(const MesPersona& mp, const ContextoFormula& ctx,
+                                            long codigo, common::Dialogo& dialogo);
 
 // El cálculo del Enter en la cantidad.
 struct CalculoRenglon {
@@ -51,15 +50,15 @@ struct CalculoRenglon {
     std::optional<ImporteImpuesto> impuesto;  // IRP e IRPF: el cálculo entero
 };
 // Nada si una respuesta No cortó el cálculo de una licencia.
-std::optional<CalculoRenglon> calcularRenglon(store::Conexion& base, MesPersona& mp,
-                                              ContextoFormula& ctx,
+std::optional<CalculoRenglon> calcularRenglon(MesPersona& mp, ContextoFormula& ctx,
                                               const master::Concepto& concepto,
                                               const std::string& textoCant,
                                               common::Dialogo& dialogo);
 
 // El Enter en el total: agrega o modifica la fila del código con la cantidad
-// y el total de las casillas. Devuelve el mensaje que lo impidió (ya avisado),
-// o nada si se guardó.
+// y el total de las casillas, sobre las filas releídas bajo la clave de la
+// persona (mp y ctx quedan con ellas). Devuelve el mensaje que lo impidió (ya
+// avisado), o nada si se guardó.
 std::optional<std::string> guardarRenglon(store::Conexion& base, MesPersona& mp,
                                           ContextoFormula& ctx, const CalculoRenglon& calculo,
                                           const std::string& textoCant,
@@ -67,8 +66,8 @@ std::optional<std::string> guardarRenglon(store::Conexion& base, MesPersona& mp,
 
 // Eliminar_Click: la fila del código, después de "¿Desea continuar?". Devuelve
 // el mensaje que lo impidió, "" si se respondió No, o nada si se borró.
-std::optional<std::string> eliminarRenglon(store::Conexion& base, const MesPersona& mp,
-                                           const master::Concepto& concepto,
+std::optional<std::string> eliminarRenglon(store::Conexion& base, MesPersona& mp,
+                                           ContextoFormula& ctx, const master::Concepto& concepto,
                                            common::Dialogo& dialogo);
 
 }  // namespace nomira::engine

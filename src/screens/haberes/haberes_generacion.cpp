@@ -62,8 +62,7 @@ void PantallaHaberes::HabPerm_Click() {
 void PantallaHaberes::DescPerm_Click() {
     intentar("DescPerm_Click", [this] {
         if (!hayMesDePersona()) return;
-        master::LectorVariables variables(base());
-        const auto r = engine::DescPerm(base(), variables, empresa(), nombre(), *mes(), dialogo());
+        const auto r = engine::DescPerm(base(), empresa(), nombre(), *mes(), dialogo());
         releer();
         for (const auto& f : r.filas)
             if (f.irpfMes || f.irpfDiciembre) {
@@ -126,10 +125,9 @@ void PantallaHaberes::ActHamPermxEmpresa_Click() {
 
 void PantallaHaberes::ActDesPermxEmpresa_Click() {
     intentar("ActDesPermxEmpresa_Click", [this] {
-        master::LectorVariables variables(base());
         // Al terminar sin detenerse el motor avisa "Actualización finalizada.".
         correrEmpresa([&](const common::Mes& m) {
-            return engine::ActDesPermxEmpresa(base(), variables, empresa(), m, dialogo(),
+            return engine::ActDesPermxEmpresa(base(), empresa(), m, dialogo(),
                                               avance_->progreso(), avance_->cancelar());
         });
     });

@@ -135,17 +135,16 @@ bool PantallaHaberes::BuscarVerif() {
     const auto m = mes();
     mp_.reset();
     if (empresa().empty() || nombre().empty() || !m) return false;
-    // Un lector nuevo en cada lectura: otra PC pudo cambiar las variables.
-    variables_ = std::make_unique<master::LectorVariables>(base());
+    // Cada lectura trae las filas, las variables y los conceptos como están
+    // ahora: otra PC pudo cambiarlos.
     ctx_ = {};
-    mp_ = engine::BuscarVerif(base(), *variables_, empresa(), nombre(), *m, ctx_, dialogo());
+    mp_ = engine::BuscarVerif(base(), empresa(), nombre(), *m, ctx_, dialogo());
     return mp_.has_value();
 }
 
 void PantallaHaberes::Consultar_Click() {
     intentar("Consultar_Click", [this] {
-        if (!mp_) return;
-        engine::refrescarDesglose(base(), *mp_, ctx_);
+        if (!mp_ || !BuscarVerif()) return;
         const auto filas = engine::filasParaGrillas(base(), mp_->empresa, mp_->nombre, mp_->mes);
         desplegar(haberes_, filas, "Hab");
         desplegar(descuentos_, filas, "Des");

@@ -40,7 +40,7 @@ bool PantallaHaberes::Buscar_Click() {
             return advertir(kFaltaCodigo);
         const auto codigo = numero(s(codigo_));
         if (!BuscarVerif()) return;
-        buscado_ = engine::buscarRenglon(base(), *mp_, ctx_, codigo, dialogo());
+        buscado_ = engine::buscarRenglon(*mp_, ctx_, codigo, dialogo());
         calculo_.reset();
         if (!buscado_) return;
         concepto_->setText(q(buscado_->concepto.concepto));
@@ -73,7 +73,7 @@ bool PantallaHaberes::cantEnter() {
     intentar("Text5_KeyPress", [this] {
         if (!mp_ || !buscado_) return advertir(kFaltaCodigo);
         calculo_ =
-            engine::calcularRenglon(base(), *mp_, ctx_, buscado_->concepto, s(cant_), dialogo());
+            engine::calcularRenglon(*mp_, ctx_, buscado_->concepto, s(cant_), dialogo());
         // Una respuesta No a las preguntas de la licencia deja la fila como estaba.
         if (!calculo_) return;
         concepto_->setText(q(calculo_->texto));
@@ -129,7 +129,7 @@ void PantallaHaberes::Eliminar_Click() {
     intentar("Eliminar_Click", [this] {
         if (!mp_ || !buscado_) return advertir(kFaltaCodigo);
         const auto& c = buscado_->concepto;
-        const auto rechazo = engine::eliminarRenglon(base(), *mp_, c, dialogo());
+        const auto rechazo = engine::eliminarRenglon(base(), *mp_, ctx_, c, dialogo());
         if (rechazo && rechazo->empty()) return;  // respondió No
         limpiarRenglon();
         Consultar_Click();

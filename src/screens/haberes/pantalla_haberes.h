@@ -94,7 +94,6 @@ class PantallaHaberes : public ventana::Pantalla {
 
     std::string mesanterior_;
     // El mes leído por BuscarVerif y su contexto de fórmulas.
-    std::unique_ptr<master::LectorVariables> variables_;
     engine::ContextoFormula ctx_;
     std::optional<engine::MesPersona> mp_;
     std::optional<engine::RenglonBuscado> buscado_;
