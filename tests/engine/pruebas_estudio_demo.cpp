@@ -9,7 +9,7 @@
 #include <map>
 #include <sstream>
 
-#include "apoyo/base_prueba.h"
+#include "engine/apoyo_estudio_demo.h"
 #include "apoyo/carpeta_temporal.h"
 #include "apoyo/cli.h"
 #include "apoyo/dialogo_guion.h"
@@ -28,25 +28,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path kDatos = fs::path(__FILE__).parent_path() / "../../data";
 const std::string kFabrica = "FÁBRICA DE EJEMPLO S.A.";
 const std::string kConstructora = "CONSTRUCTORA MODELO S.R.L.";
 const std::string kComercio = "COMERCIO DE PRUEBA LTDA.";
-// Hoy es el 15/11/2026: se liquida octubre.
-const common::Mes kMes{2026, 10};
 
 struct Fila {
     double cant = 0, total = 0;
 };
 
-class EstudioDemo : public store::prueba::BasePrueba {
+class EstudioDemo : public pruebas::BaseEstudioDemo {
   protected:
-    void SetUp() override {
-        BasePrueba::SetUp();
-        if (IsSkipped()) return;
-        master::cargarDatosIniciales(c(), kDatos, common::Fecha{2026, 11, 15});
-        master::crearEstudioDemo(c());
-    }
 
     std::vector<master::Persona> personal() {
         std::vector<master::Persona> v;
@@ -86,8 +77,6 @@ class EstudioDemo : public store::prueba::BasePrueba {
         ASSERT_FALSE(d.fallo) << d.personaFallida;
     }
 
-    pruebas::CarpetaTemporal tmp{"15/11/2026"};
-    pruebas::DialogoGuion dialogo;
 };
 NOMIRA_PARA_CADA_MOTOR(EstudioDemo);
 
@@ -141,16 +130,9 @@ TEST_P(EstudioDemo, CadaFormulaEstandarSeEvaluaSobreCadaPersona) {
 }
 
 TEST_P(EstudioDemo, ElMesAnteriorDeCadaEmpresaSeLiquidaSinAvisosConLasFilasDeCadaPersona) {
-    const std::string prefijo = (tmp.ruta() / "reloj" / "HORAS").string();
-    fs::create_directories(tmp.ruta() / "Software" / "Nomira");
-    std::ofstream(tmp.ruta() / "Software" / "Nomira" / "horas.txt") << prefijo << '\n';
-    const auto escritas = master::escribirHorasDemo(
-        [&](const std::string& nroemp) { return rutaArchivoHoras(prefijo, kMes, nroemp); });
-    EXPECT_EQ(escritas.size(), 3u);
+    EXPECT_EQ(horasDelReloj().size(), 3u);
     // Un archivo que ya está no se pisa.
-    EXPECT_TRUE(master::escribirHorasDemo([&](const std::string& nroemp) {
-                    return rutaArchivoHoras(prefijo, kMes, nroemp);
-                }).empty());
+    EXPECT_TRUE(horasDelReloj().empty());
 
     for (const auto& e : master::empresasDemo()) liquidar(e);
 
