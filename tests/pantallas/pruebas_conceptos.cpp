@@ -146,3 +146,41 @@ TEST_F(PantallasConceptos, PermanentesPorPersonaConSusMensajes) {
 }
 
 }  // namespace
+
+// La ficha no guarda una fórmula que nunca podrá evaluarse: dice el mensaje del
+// evaluador y el carácter, y deja el cursor ahí. Un concepto nuevo nace no permanente.
+TEST_F(PantallasConceptos, LaFichaRechazaLaFormulaQueNoSeEvaluaYNaceNoPermanente) {
+    abrir("Form4");
+    pantalla->findChild<QLineEdit*>("codigo")->setText("901");
+    auto* f = ficha(Qt::Key_F5);
+    ASSERT_NE(f, nullptr);
+    auto* formula = f->findChild<QLineEdit*>("formula");
+    QTest::keyClicks(f->findChild<QLineEdit*>("concepto"), "PRIMA");
+    elegir(f, "especificode", "General");
+    const std::pair<const char*, const char*> malas[] = {
+        {"[SUELDO]*(2", "en el carácter 10."},
+        {"[SUELDO*2", "Falta el corchete de cierre ']', en el carácter 1."},
+        {"[SUELDO]*2)", "en el carácter 11."},
+        {"FOO([SUELDO])", "la función FOO no existe, en el carácter 1."}};
+    for (const auto& [texto, final] : malas) {
+        formula->setText(texto);
+        dialogo.preguntas.clear();
+        QTest::keyClick(formula, Qt::Key_F5);
+        EXPECT_TRUE(dialogo.preguntas.empty()) << texto;  // ni llega a preguntar
+        const auto m = dialogo.ultimoMensaje();
+        EXPECT_TRUE(m.starts_with("La fórmula no se puede evaluar: ")) << m;
+        EXPECT_TRUE(m.ends_with(final)) << texto << " -> " << m;
+        EXPECT_FALSE(master::leerConcepto(*sesion.base, 901)) << texto;
+    }
+    formula->setText("[SUELDO]*(2");
+    QTest::keyClick(formula, Qt::Key_F5);
+    EXPECT_NE(dialogo.ultimoMensaje().find("1006"), std::string::npos) << dialogo.ultimoMensaje();
+    EXPECT_EQ(formula->cursorPosition(), 9);
+
+    formula->setText("Round([SUELDO]*(2+[CANT]), 2)");
+    QTest::keyClick(formula, Qt::Key_F5);
+    cerrada();
+    const auto c = master::leerConcepto(*sesion.base, 901);
+    ASSERT_TRUE(c);
+    EXPECT_EQ(c->permanente, "No");
+}

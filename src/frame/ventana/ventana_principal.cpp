@@ -12,13 +12,13 @@
 #include "frame/ventana/pantalla_ingreso.h"
 #include "frame/ventana/registro_pantallas.h"
 #include "frame/ventana/ventana_ayuda.h"
+#include "frame/ventana/texto_qt.h"
 
 namespace nomira::ventana {
 
 using frame::Accion;
 
 namespace {
-QString q(const std::string& s) { return QString::fromStdString(s); }
 // Estos menús se usan antes de ingresar; los demás esperan al ingreso.
 bool menuSiempreAbierto(const std::string& m) { return m == "Entrar" || m == "Ayuda" || m == "Salir"; }
 }  // namespace
@@ -35,21 +35,21 @@ VentanaPrincipal::VentanaPrincipal(frame::Sesion& sesion) : sesion_(sesion) {
 
 void VentanaPrincipal::construirMenu() {
     for (const auto& m : frame::menusPrincipales()) {
-        auto* menu = menuBar()->addMenu(q(m.titulo));
-        menu->setObjectName(q(m.nombre));
+        auto* menu = menuBar()->addMenu(aQt(m.titulo));
+        menu->setObjectName(aQt(m.nombre));
         menus_[m.nombre] = menu;
     }
     const auto& registro = registroPantallas();
     for (const auto& e : frame::arbolMenu()) {
         QMenu* dentro = menus_.at(e.padre.empty() ? e.menu : e.padre);
         if (e.accion == Accion::Submenu) {
-            auto* sub = dentro->addMenu(q(e.titulo));
-            sub->setObjectName(q(e.nombre));
+            auto* sub = dentro->addMenu(aQt(e.titulo));
+            sub->setObjectName(aQt(e.nombre));
             menus_[e.nombre] = sub;
             continue;
         }
-        auto* a = dentro->addAction(q(e.titulo));
-        a->setObjectName(q(e.nombre));
+        auto* a = dentro->addAction(aQt(e.titulo));
+        a->setObjectName(aQt(e.nombre));
         // Las pantallas que todavía no existen se ven, pero no se pueden elegir.
         a->setEnabled(e.accion != Accion::Pantalla || registro.count(e.pantalla));
         connect(a, &QAction::triggered, this, [this, n = e.nombre] { ejecutar(n); });
@@ -63,8 +63,8 @@ void VentanaPrincipal::construirBarra() {
     barra->setMovable(false);
     barra->setToolButtonStyle(Qt::ToolButtonTextOnly);
     for (const auto& t : frame::teclasBarra()) {
-        auto* a = barra->addAction(q(t.clave));
-        a->setObjectName(q("tecla_" + t.entrada));
+        auto* a = barra->addAction(aQt(t.clave));
+        a->setObjectName(aQt("tecla_" + t.entrada));
         a->setEnabled(acciones_.at(t.entrada)->isEnabled());
         connect(a, &QAction::triggered, this, [this, n = t.entrada] { ejecutar(n); });
     }

@@ -32,6 +32,8 @@ public:
 private:
     master::Concepto leido() const;
     void cargar(const master::Concepto& c);
+    // La fórmula se puede evaluar; si no, avisa con el mensaje y el lugar del error.
+    bool formulaEvaluable();
     void Agregar_Click();
     void Modificar_Click();
     void Eliminar_Click();

@@ -11,9 +11,13 @@
 
 #include "master/informe_empresas.h"
 #include "screens/empresas/ficha_empresa.h"
-#include "screens/empresas/piezas.h"
+#include "frame/ventana/piezas.h"
 
 namespace nomira::pantallas {
+
+using ventana::deQt;
+using ventana::accionConTecla;
+using ventana::llevarListado;
 
 PantallaEmpresas::PantallaEmpresas(frame::Sesion& sesion, QWidget* padre)
     : Pantalla(sesion, "Form2", "Empresas", padre) {
@@ -82,12 +86,12 @@ PantallaEmpresas::PantallaEmpresas(frame::Sesion& sesion, QWidget* padre)
     connect(grilla_, &QAbstractItemView::clicked, this,
             [this] { empresa_->setCurrentText(QString::fromStdString(grilla_->elegida(1))); });
 
-    auto* todo = new QVBoxLayout(this);
+    auto* todo = new QVBoxLayout(lienzo());
     todo->addWidget(barra);
     todo->addLayout(arriba);
     todo->addWidget(claves);
     todo->addWidget(grilla_, 1);
-    resize(1000, 560);
+    pedirTamano(1000, 560);
     intentar("Form_Load", [this] { desplegar(master::consultarEmpresas(base())); });
 }
 

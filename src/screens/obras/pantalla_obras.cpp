@@ -8,10 +8,14 @@
 
 #include "master/empresas.h"
 #include "master/obras.h"
-#include "screens/empresas/piezas.h"
+#include "frame/ventana/piezas.h"
 #include "screens/obras/ficha_obra.h"
 
 namespace nomira::pantallas {
+
+using ventana::deQt;
+using ventana::accionConTecla;
+using ventana::llevarListado;
 
 PantallaObras::PantallaObras(frame::Sesion& sesion, QWidget* padre)
     : Pantalla(sesion, "Form291", "Obras", padre) {
@@ -65,11 +69,11 @@ PantallaObras::PantallaObras(frame::Sesion& sesion, QWidget* padre)
     connect(grilla_, &QAbstractItemView::clicked, this,
             [this] { nroObra_->setCurrentText(QString::fromStdString(grilla_->elegida(0))); });
 
-    auto* todo = new QVBoxLayout(this);
+    auto* todo = new QVBoxLayout(lienzo());
     todo->addWidget(barra);
     todo->addLayout(arriba);
     todo->addWidget(grilla_, 1);
-    resize(760, 420);
+    pedirTamano(760, 420);
 }
 
 std::string PantallaObras::textoEmpresa() const {

@@ -14,8 +14,11 @@
 #include "frame/ventana/ventana_ayuda.h"
 #include "master/configuracion.h"
 #include "master/empresas.h"
+#include "frame/ventana/texto_qt.h"
 
 namespace nomira::pantallas {
+
+using ventana::aQt;
 
 namespace {
 
@@ -27,9 +30,6 @@ const std::pair<const char*, O> kClaves[] = {
     {"Fecha Ing.", O::FechaIng}, {"Categoría", O::Categoria}, {"Tipo de Rem.", O::TipoRem},
     {"Fecha Eg.", O::FechaEg},   {"Seg. Salud", O::SegSalud}, {"FSueVig", O::FSueVig}};
 
-QString q(const std::string& s) {
-    return QString::fromStdString(s);
-}
 
 }  // namespace
 
@@ -41,7 +41,7 @@ PantallaPersonal::PantallaPersonal(frame::Sesion& sesion, QWidget* padre)
     empresa_->setInsertPolicy(QComboBox::NoInsert);
     empresa_->addItem("");
     intentar("Form_Load", [this] {
-        for (const auto& e : master::nombresDeEmpresas(base())) empresa_->addItem(q(e));
+        for (const auto& e : master::nombresDeEmpresas(base())) empresa_->addItem(aQt(e));
     });
     empresa_->setCurrentText("");
     nombre_ = new QComboBox;
@@ -65,7 +65,7 @@ PantallaPersonal::PantallaPersonal(frame::Sesion& sesion, QWidget* padre)
     grilla_ = new ventana::Grilla;
     grilla_->setObjectName("grilla");
     connect(grilla_, &QAbstractItemView::doubleClicked, this, [this] {
-        nombre_->setCurrentText(q(grilla_->elegida(1)));
+        nombre_->setCurrentText(aQt(grilla_->elegida(1)));
         buscar();
     });
 
@@ -90,11 +90,11 @@ PantallaPersonal::PantallaPersonal(frame::Sesion& sesion, QWidget* padre)
                               {Qt::Key_F7, "F7 Eliminar", [this] { buscar(); }},
                               {Qt::Key_F8, "F8 Imprimir", [this] { imprimir(); }},
                               {Qt::Key_F9, "F9 Copiar", [this] { guardarOficial(); }}});
-    auto* todo = new QVBoxLayout(this);
+    auto* todo = new QVBoxLayout(lienzo());
     todo->addLayout(campos);
     todo->addLayout(botones);
     todo->addWidget(grilla_, 1);
-    resize(980, 600);
+    pedirTamano(980, 600);
 }
 
 std::string PantallaPersonal::empresa() const {
@@ -106,7 +106,7 @@ void PantallaPersonal::cargarNombres() {
         const auto escrito = nombre_->currentText();
         nombre_->clear();
         nombre_->addItem("");
-        for (const auto& n : master::nombresDelPersonal(base(), empresa())) nombre_->addItem(q(n));
+        for (const auto& n : master::nombresDelPersonal(base(), empresa())) nombre_->addItem(aQt(n));
         nombre_->setCurrentText(escrito);
     });
 }
@@ -164,7 +164,7 @@ void PantallaPersonal::imprimir() {
     intentar("Imprimir_Click", [this] {
         const auto destino =
             ventana::destinoDe(master::leerConfiguracion(base()), ventana::UsoImpresora::Informes);
-        ventana::imprimirLineas(master::lineasListado(empresa(), listados_), destino, "personal");
+        ventana::imprimirLineas(master::lineasListado(empresa(), listados_), destino, "personal", dialogo());
     });
 }
 
@@ -176,14 +176,6 @@ void PantallaPersonal::guardarOficial() {
         for (const auto& linea : master::lineasListado(empresa(), listados_)) f << linea << "\n";
         if (!f) throw common::Fallo(75, "Error de acceso a la ruta o el archivo: " + ruta.string());
     });
-}
-
-void registrarPantallasPersonal() {
-    auto& r = ventana::registroPantallas();
-    r["Form3"] = [](frame::Sesion& s, QWidget* p) -> QWidget* {
-        return new PantallaPersonal(s, p);
-    };
-    r["Form31"] = [](frame::Sesion& s, QWidget* p) -> QWidget* { return new FichaPersonal(s, p); };
 }
 
 }  // namespace nomira::pantallas

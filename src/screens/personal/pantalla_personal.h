@@ -43,6 +43,5 @@ class PantallaPersonal : public ventana::Pantalla {
     QPointer<FichaPersonal> ficha_;
 };
 
-void registrarPantallasPersonal();
 
 }  // namespace nomira::pantallas

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 
 #include "frame/ventana/campo_fecha.h"
+#include "frame/ventana/campo_numero.h"
 #include "frame/ventana/combo_catalogo.h"
 #include "master/sueldos_minimos.h"
 #include "frame/ventana/pantalla.h"
@@ -19,9 +20,9 @@ public:
     PantallaAumentos(frame::Sesion& sesion, master::CategoriaLaboral sector,
                      QWidget* padre = nullptr);
 
-    QLineEdit* recuperacion = new QLineEdit;
-    QLineEdit* inflacion = new QLineEdit;
-    QLineEdit* porcentaje = new QLineEdit;
+    ventana::CampoNumero* recuperacion = new ventana::CampoNumero;
+    ventana::CampoNumero* inflacion = new ventana::CampoNumero;
+    ventana::CampoNumero* porcentaje = new ventana::CampoNumero;
     QComboBox* empresa = new QComboBox;
     ventana::ComboCatalogo* categoria;
     ventana::CampoFecha* fsuevig = new ventana::CampoFecha;

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 
 #include "frame/ventana/campo_fecha.h"
+#include "frame/ventana/campo_numero.h"
 #include "frame/ventana/combo_catalogo.h"
 #include "frame/ventana/grilla.h"
 #include "master/sueldos_minimos.h"
@@ -22,7 +23,7 @@ public:
     ventana::ComboCatalogo* categoria;
     ventana::CampoFecha* fechaini = new ventana::CampoFecha;
     ventana::CampoFecha* fechafin = new ventana::CampoFecha;
-    QLineEdit* sueldo = new QLineEdit;
+    ventana::CampoNumero* sueldo = new ventana::CampoNumero;
     ventana::Grilla* grilla = new ventana::Grilla;
 
 private:

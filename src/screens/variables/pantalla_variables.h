@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "frame/ventana/campo_fecha.h"
+#include "frame/ventana/campo_numero.h"
 #include "frame/ventana/grilla.h"
 #include "frame/ventana/pantalla.h"
 
@@ -27,7 +28,7 @@ public:
 
     QLineEdit* nombre = new QLineEdit;
     ventana::CampoFecha* fecha = new ventana::CampoFecha;
-    QLineEdit* valor = new QLineEdit;
+    ventana::CampoNumero* valor = new ventana::CampoNumero;
     ventana::Grilla* grilla = new ventana::Grilla;
 
 private:
@@ -43,6 +44,5 @@ private:
     InstanciaVariables instancia_;
 };
 
-void registrarPantallasVariables();
 
 }  // namespace nomira::pantallas
