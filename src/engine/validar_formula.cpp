@@ -102,8 +102,9 @@ RevisionFormula revisarFormula(std::string_view f) {
     // Una función que no existe sólo falla al evaluar: se prueba cada nombre seguido
     // de "(" con un argumento neutro.
     for (std::size_t i = 0; i < s.texto.size(); ++i) {
-        if (!esLetra(s.texto[i]) || (i > 0 && (esLetra(s.texto[i - 1]) ||
-                                               std::isdigit(static_cast<unsigned char>(s.texto[i - 1])))))
+        if (!esLetra(s.texto[i]) ||
+            (i > 0 &&
+             (esLetra(s.texto[i - 1]) || std::isdigit(static_cast<unsigned char>(s.texto[i - 1])))))
             continue;
         std::size_t fin = i;
         while (fin < s.texto.size() &&

@@ -303,7 +303,8 @@ TEST_F(PantallaHaberes, DiciembreMuestraElCierreDelAnio) {
     teclear("cant", "");
     EXPECT_TRUE(detalle->isVisible());
     EXPECT_EQ(texto("inggrav"), "1,440,000.00");  // doce meses de 120000
-    EXPECT_EQ(texto("totalirpfmes"), pesos(std::stod(*ventana::numeroTecleado(w("total")->text().toStdString()))));
+    EXPECT_EQ(texto("totalirpfmes"),
+              pesos(std::stod(*ventana::numeroTecleado(w("total")->text().toStdString()))));
     EXPECT_NE(texto("totalirpfmes"), "0.00");  // el año pasa la franja sin impuesto
 
     // Otra persona limpia el recuadro; F2 relee lo que otra PC escribió.

@@ -10,8 +10,8 @@
 #include <QTest>
 
 #include "apoyo/carpeta_temporal.h"
-#include "common/empaquetados.h"
 #include "apoyo/dialogo_guion.h"
+#include "common/empaquetados.h"
 #include "frame/arranque.h"
 #include "master/empresas.h"
 #include "master/personal.h"
@@ -148,6 +148,7 @@ TEST_F(PantallasPersonal, AltaConElTecladoYLaGrillaLaEncuentra) {
     EXPECT_EQ(ficha->findChild<QTabWidget*>("paginas")->currentIndex(), 0);
     EXPECT_FALSE(master::leerPersona(*sesion.base, "ACME", "PEREZ, ANA"));
     campo(ficha, "fechanac")->setText("01/01/90");
+    campo(ficha, "cantbfc")->clear();
     escribir(ficha, "cantbfc", "1,5");
 
     dialogo.mensajes.clear();
@@ -178,6 +179,13 @@ TEST_F(PantallasPersonal, AltaConElTecladoYLaGrillaLaEncuentra) {
     EXPECT_EQ(campo(ficha, "nombre")->text(), "");
     EXPECT_EQ(campo(ficha, "nrofun")->text(), "2");
 
+    // La ficha es modal: la lista responde cuando se cierra.
+    QApplication::setActiveWindow(&personal);
+    QTest::keyClick(&personal, Qt::Key_F3);
+    EXPECT_EQ(personal.findChild<QTableView*>("grilla")->model()->rowCount(), 0);
+    QApplication::setActiveWindow(ficha);
+    QTest::keyClick(ficha, Qt::Key_Escape);  // Esc cierra la ficha
+    EXPECT_FALSE(ficha->isVisible());
     QApplication::setActiveWindow(&personal);
     QTest::keyClick(&personal, Qt::Key_F3);
     auto* grilla = personal.findChild<QTableView*>("grilla");

@@ -81,8 +81,12 @@ class CamposDeLasPantallas : public ::testing::Test {
         sesion.dialogo = &dialogo;
         sesion.base = frame::crearBaseNueva(tmp.archivo("n.db"));
         sesion.categoria = 1;
+        anterior = ventana::registroPantallas();
         pantallas::registrarTodas();
     }
+    // Las demás pruebas de esta carpeta cuentan con el registro del marco solo.
+    void TearDown() override { ventana::registroPantallas() = anterior; }
+    std::map<std::string, ventana::FabricaPantalla> anterior;
     pruebas::CarpetaTemporal tmp;
     pruebas::DialogoGuion dialogo;
     frame::Sesion sesion;
@@ -126,9 +130,11 @@ TEST_F(CamposDeLasPantallas, CadaNumeroYCadaFechaSeRevisanAntesDeGuardar) {
             const auto anterior = campo->text();
             campo->setText(campo->forma() == ventana::FormaFecha::Mes ? "13/26" : "32/13/10");
             dialogo.mensajes.clear();
-            EXPECT_FALSE(pantalla->camposValidos()) << formulario << " " << campo->objectName().toStdString();
-            EXPECT_NE(dialogo.ultimoMensaje().find("El campo " + ventana::rotuloDe(campo).toStdString()),
-                      std::string::npos)
+            EXPECT_FALSE(pantalla->camposValidos())
+                << formulario << " " << campo->objectName().toStdString();
+            EXPECT_NE(
+                dialogo.ultimoMensaje().find("El campo " + ventana::rotuloDe(campo).toStdString()),
+                std::string::npos)
                 << dialogo.ultimoMensaje();
             EXPECT_EQ(QApplication::focusWidget(), campo) << formulario;
             campo->setText(anterior);

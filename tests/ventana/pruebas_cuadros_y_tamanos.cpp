@@ -76,8 +76,12 @@ class PantallasRegistradas : public ::testing::Test {
         sesion.dialogo = &dialogo;
         sesion.base = frame::crearBaseNueva(tmp.archivo("n.db"));
         sesion.categoria = 1;
+        anterior = ventana::registroPantallas();
         pantallas::registrarTodas();
     }
+    // Las demás pruebas de esta carpeta cuentan con el registro del marco solo.
+    void TearDown() override { ventana::registroPantallas() = anterior; }
+    std::map<std::string, ventana::FabricaPantalla> anterior;
     pruebas::CarpetaTemporal tmp;
     pruebas::DialogoGuion dialogo;
     frame::Sesion sesion;

@@ -24,9 +24,10 @@ std::optional<std::string> sinMiles(std::string_view entera) {
     bool primero = true;
     while (true) {
         const auto coma = entera.find(',', desde);
-        const auto grupo = entera.substr(desde, coma == std::string_view::npos ? coma : coma - desde);
-        if (!soloCifras(grupo) || (!primero && grupo.size() != 3) || (primero && grupo.size() > 3 &&
-                                                                       coma != std::string_view::npos))
+        const auto grupo =
+            entera.substr(desde, coma == std::string_view::npos ? coma : coma - desde);
+        if (!soloCifras(grupo) || (!primero && grupo.size() != 3) ||
+            (primero && grupo.size() > 3 && coma != std::string_view::npos))
             return std::nullopt;
         r += grupo;
         if (coma == std::string_view::npos) return r;

@@ -30,7 +30,8 @@ bool DialogoQt::confirmar(const std::string& titulo, const std::string& texto, b
     return caja.exec() == QMessageBox::Yes;
 }
 
-std::optional<std::string> DialogoQt::pedirTexto(const std::string& titulo, const std::string& texto,
+std::optional<std::string> DialogoQt::pedirTexto(const std::string& titulo,
+                                                 const std::string& texto,
                                                  const std::string& inicial) {
     bool ok = false;
     const auto r = QInputDialog::getText(padre_, aQt(titulo), aQt(texto), QLineEdit::Normal,
@@ -39,7 +40,8 @@ std::optional<std::string> DialogoQt::pedirTexto(const std::string& titulo, cons
     return r.toStdString();
 }
 
-void DialogoQt::avisar(common::TipoAviso tipo, const std::string& titulo, const std::string& texto) {
+void DialogoQt::avisar(common::TipoAviso tipo, const std::string& titulo,
+                       const std::string& texto) {
     QMessageBox::Icon icono = QMessageBox::Information;
     if (tipo == common::TipoAviso::Advertencia) icono = QMessageBox::Warning;
     if (tipo == common::TipoAviso::Error) icono = QMessageBox::Critical;

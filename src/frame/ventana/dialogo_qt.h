@@ -17,15 +17,16 @@ bool preguntaQueDestruye(const std::string& titulo, const std::string& texto);
 void armarCaja(QMessageBox& caja, const std::string& titulo, const std::string& texto);
 
 class DialogoQt : public common::Dialogo {
-public:
+  public:
     explicit DialogoQt(QWidget* padre) : padre_(padre) {}
     bool confirmar(const std::string& titulo, const std::string& texto, bool porDefectoSi) override;
     std::optional<std::string> pedirTexto(const std::string& titulo, const std::string& texto,
                                           const std::string& inicial) override;
-    void avisar(common::TipoAviso tipo, const std::string& titulo, const std::string& texto) override;
+    void avisar(common::TipoAviso tipo, const std::string& titulo,
+                const std::string& texto) override;
     using common::Dialogo::avisar;
 
-private:
+  private:
     QWidget* padre_;
 };
 

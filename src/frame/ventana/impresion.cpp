@@ -13,7 +13,6 @@ namespace nomira::ventana {
 
 namespace {
 
-
 QFont fuenteDe(const DestinoImpresion& d) {
     QFont f(d.fuente.isEmpty() ? "Courier New" : d.fuente, d.tamano > 0 ? d.tamano : 10);
     // Los informes se arman en columnas por cantidad de caracteres: hace falta letra fija.
@@ -22,7 +21,8 @@ QFont fuenteDe(const DestinoImpresion& d) {
     return f;
 }
 
-void pintar(QPrinter& impresora, const std::vector<std::string>& lineas, const DestinoImpresion& d) {
+void pintar(QPrinter& impresora, const std::vector<std::string>& lineas,
+            const DestinoImpresion& d) {
     QPainter p(&impresora);
     p.setFont(fuenteDe(d));
     const QFontMetrics medida(p.font(), &impresora);
@@ -43,9 +43,12 @@ void pintar(QPrinter& impresora, const std::vector<std::string>& lineas, const D
 
 DestinoImpresion destinoDe(const master::Configuracion& c, UsoImpresora uso) {
     switch (uso) {
-        case UsoImpresora::Recibos: return {aQt(c.impresorarecibos), aQt(c.tiporec), aQt(c.tamrec).toInt()};
-        case UsoImpresora::Informes: return {aQt(c.impresorainformes), aQt(c.tipoinf), aQt(c.taminf).toInt()};
-        case UsoImpresora::Otros: return {aQt(c.impresoracomanda), aQt(c.tipocom), aQt(c.tamcom).toInt()};
+        case UsoImpresora::Recibos:
+            return {aQt(c.impresorarecibos), aQt(c.tiporec), aQt(c.tamrec).toInt()};
+        case UsoImpresora::Informes:
+            return {aQt(c.impresorainformes), aQt(c.tipoinf), aQt(c.taminf).toInt()};
+        case UsoImpresora::Otros:
+            return {aQt(c.impresoracomanda), aQt(c.tipocom), aQt(c.tamcom).toInt()};
     }
     return {};
 }

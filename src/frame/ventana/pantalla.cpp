@@ -18,10 +18,7 @@ namespace nomira::ventana {
 
 Pantalla::Pantalla(frame::Sesion& sesion, const QString& formulario, const QString& titulo,
                    QWidget* padre)
-    : QWidget(padre, Qt::Window),
-      sesion_(sesion),
-      area_(new QScrollArea),
-      lienzo_(new QWidget) {
+    : QWidget(padre, Qt::Window), sesion_(sesion), area_(new QScrollArea), lienzo_(new QWidget) {
     setObjectName(formulario);
     setWindowTitle(titulo);
     // En un escritorio más chico que la pantalla, barras en lugar de campos cortados.
@@ -62,7 +59,9 @@ QHBoxLayout* Pantalla::botonera(const std::vector<AccionTecla>& acciones) {
     return fila;
 }
 
-QPushButton* Pantalla::boton(const QString& nombre) const { return findChild<QPushButton*>(nombre); }
+QPushButton* Pantalla::boton(const QString& nombre) const {
+    return findChild<QPushButton*>(nombre);
+}
 
 void Pantalla::habilitarSegunHallado(bool hallado) {
     if (auto* b = boton("Agregar")) b->setEnabled(!hallado);
@@ -80,7 +79,8 @@ void Pantalla::ayuda() {
     abrirAyuda(this, objectName());
 }
 
-void Pantalla::imprimirInforme(const std::vector<std::string>& lineas, const std::string& documento) {
+void Pantalla::imprimirInforme(const std::vector<std::string>& lineas,
+                               const std::string& documento) {
     ventana::imprimirInforme(base(), lineas, documento, dialogo());
 }
 
@@ -95,7 +95,8 @@ bool Pantalla::eventFilter(QObject* objeto, QEvent* evento) {
     auto* campo = qobject_cast<QWidget*>(objeto);
     if (!campo || campo->window() != this) return false;
     // Un combo editable entrega las teclas a su línea de edición.
-    if (auto* linea = qobject_cast<QLineEdit*>(campo); linea && qobject_cast<QComboBox*>(linea->parent()))
+    if (auto* linea = qobject_cast<QLineEdit*>(campo);
+        linea && qobject_cast<QComboBox*>(linea->parent()))
         campo = static_cast<QWidget*>(linea->parent());
     if (qobject_cast<QAbstractButton*>(campo)) return false;
     if (!qobject_cast<QLineEdit*>(campo) && !qobject_cast<QComboBox*>(campo)) return false;
@@ -166,9 +167,13 @@ void Pantalla::hacerFicha() {
     if (!teclas_.count(Qt::Key_Escape)) tecla(QKeySequence(Qt::Key_Escape), [this] { close(); });
 }
 
-void Pantalla::advertir(const std::string& texto) { dialogo().avisar(common::TipoAviso::Advertencia, texto); }
+void Pantalla::advertir(const std::string& texto) {
+    dialogo().avisar(common::TipoAviso::Advertencia, texto);
+}
 
-void Pantalla::informar(const std::string& texto) { dialogo().avisar(common::TipoAviso::Informacion, texto); }
+void Pantalla::informar(const std::string& texto) {
+    dialogo().avisar(common::TipoAviso::Informacion, texto);
+}
 
 bool Pantalla::confirmar(const std::string& titulo, bool porDefectoSi) {
     return dialogo().confirmar(titulo, "¿Desea continuar?", porDefectoSi);

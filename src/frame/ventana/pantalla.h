@@ -30,7 +30,7 @@ QString rotuloTecla(const QString& nombre, Qt::Key tecla);
 
 class Pantalla : public QWidget {
     Q_OBJECT
-public:
+  public:
     // `formulario` es el objectName ("Form21"); `titulo`, el de la ventana.
     Pantalla(frame::Sesion& sesion, const QString& formulario, const QString& titulo,
              QWidget* padre = nullptr);
@@ -67,7 +67,7 @@ public:
     // salvo que la que se cierre sea esta (sus hijas mueren con ella).
     void abrirHija(QWidget* hija, std::function<void()> alCerrar);
 
-protected:
+  protected:
     // Donde cada pantalla pone su capa: va dentro de un área con barras.
     QWidget* lienzo() const { return lienzo_; }
     // El tamaño que la pantalla prefiere si el escritorio lo permite.
@@ -87,7 +87,7 @@ protected:
 
     frame::Sesion& sesion_;
 
-private:
+  private:
     void ajustarAlEscritorio();
 
     QScrollArea* area_;

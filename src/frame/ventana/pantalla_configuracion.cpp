@@ -20,7 +20,6 @@ namespace nomira::ventana {
 
 namespace {
 
-
 QLineEdit* campoNumero(const char* nombre) {
     auto* e = new QLineEdit;
     e->setObjectName(nombre);
@@ -29,8 +28,8 @@ QLineEdit* campoNumero(const char* nombre) {
     return e;
 }
 
-const char* const kGrupos[] = {"Configuración", "Empresas", "Personal", "Liquidaciones", "Informes",
-                               "Utilidades"};
+const char* const kGrupos[] = {"Configuración", "Empresas", "Personal",
+                               "Liquidaciones", "Informes", "Utilidades"};
 const char* const kCategorias[] = {"Categoría 1 (administrador)", "Categoría 2 (supervisor)",
                                    "Categoría 3 (operador)"};
 
@@ -121,7 +120,8 @@ QWidget* PantallaConfiguracion::paginaImpresion() {
         imp.impresora->addItems(QPrinterInfo::availablePrinterNames());
         imp.fuente = new QFontComboBox;
         imp.fuente->setObjectName(QString("fuente_") + nombres[i]);
-        imp.fuente->setEditable(true);  // guarda el nombre escrito aunque la fuente no esté en esta PC
+        imp.fuente->setEditable(
+            true);  // guarda el nombre escrito aunque la fuente no esté en esta PC
         imp.tamano = new QSpinBox;
         imp.tamano->setObjectName(QString("tamano_") + nombres[i]);
         imp.tamano->setRange(4, 36);
@@ -133,7 +133,8 @@ QWidget* PantallaConfiguracion::paginaImpresion() {
     todo->addWidget(impresoras);
 
     contitulos_ = GrupoOpciones::siNo("Imp.con títulos?");
-    cantpers_ = new GrupoOpciones("Cant.pers.imp.?", {{"todos", "Todos"}, {"uno", "Uno"}, {"algunos", "Algunos"}});
+    cantpers_ = new GrupoOpciones("Cant.pers.imp.?",
+                                  {{"todos", "Todos"}, {"uno", "Uno"}, {"algunos", "Algunos"}});
     autoguardado_ = GrupoOpciones::siNo("Auto-guardado?");
     copiativo_ = GrupoOpciones::siNo("Con copiativo?");
     imppesos_ = GrupoOpciones::siNo("Imp.pesos?");
@@ -183,7 +184,8 @@ void PantallaConfiguracion::cargar() {
         for (int i = 0; i < master::kCantPermisos; ++i) checks_[i]->setChecked(c.checks[i] == "1");
         const std::string* fuentes[] = {&c.tiporec, &c.tipoinf, &c.tipocom};
         const std::string* tamanos[] = {&c.tamrec, &c.taminf, &c.tamcom};
-        const std::string* impresoras[] = {&c.impresorarecibos, &c.impresorainformes, &c.impresoracomanda};
+        const std::string* impresoras[] = {&c.impresorarecibos, &c.impresorainformes,
+                                           &c.impresoracomanda};
         for (int i = 0; i < 3; ++i) {
             impresion_[i].impresora->setCurrentText(aQt(*impresoras[i]));
             impresion_[i].fuente->setCurrentText(aQt(*fuentes[i]));
@@ -210,7 +212,8 @@ std::optional<master::Configuracion> PantallaConfiguracion::leerPantalla() {
     auto c = master::leerConfiguracion(*sesion_.base);
     for (int i = 0; i < master::kCantUsuarios; ++i) {
         const auto& f = usuarios_[i];
-        const auto usu = deQt(f.usu->text()), pas = f.pas->text().toStdString(), cat = deQt(f.cat->currentText());
+        const auto usu = deQt(f.usu->text()), pas = f.pas->text().toStdString(),
+                   cat = deQt(f.cat->currentText());
         auto& u = c.usuarios[i];
         if (usu.empty()) {
             u = {};
@@ -227,7 +230,8 @@ std::optional<master::Configuracion> PantallaConfiguracion::leerPantalla() {
         else
             frame::ponerUsuario(c, i + 1, usu, pas, cat);
     }
-    for (int i = 0; i < master::kCantPermisos; ++i) c.checks[i] = checks_[i]->isChecked() ? "1" : "0";
+    for (int i = 0; i < master::kCantPermisos; ++i)
+        c.checks[i] = checks_[i]->isChecked() ? "1" : "0";
     std::string* impresoras[] = {&c.impresorarecibos, &c.impresorainformes, &c.impresoracomanda};
     std::string* fuentes[] = {&c.tiporec, &c.tipoinf, &c.tipocom};
     std::string* tamanos[] = {&c.tamrec, &c.taminf, &c.tamcom};
@@ -239,7 +243,8 @@ std::optional<master::Configuracion> PantallaConfiguracion::leerPantalla() {
     c.contitulos = deQt(contitulos_->valor());
     c.cantpers = deQt(cantpers_->valor());
     c.tipodepapel = deQt(autoguardado_->valor());
-    c.concopiativo = common::ConCopiativo{deQt(copiativo_->valor()), deQt(imppesos_->valor())}.texto();
+    c.concopiativo =
+        common::ConCopiativo{deQt(copiativo_->valor()), deQt(imppesos_->valor())}.texto();
     c.desdenrofun = deQt(desde_->text());
     c.hastanrofun = deQt(hasta_->text());
     c.cortehoja = deQt(corte_->text());

@@ -72,7 +72,8 @@ void PantallaIngreso::buscar() {
             password_->setFocus();
             return;
         }
-        sesion_.dialogo->avisar(TipoAviso::Informacion, "Mensaje de advertencia", frame::kIngresoCorrecto);
+        sesion_.dialogo->avisar(TipoAviso::Informacion, "Mensaje de advertencia",
+                                frame::kIngresoCorrecto);
         sesion_.categoria = *categoria;
         emit ingreso(*categoria);
         accept();

@@ -27,8 +27,9 @@ std::string problemaDe(const QWidget* campo) {
         if (n->clase() == ClaseNumero::Entero)
             return "El campo " + nombre + " debe tener un número entero: \"" +
                    n->text().toStdString() + "\" no lo es.";
-        return "El campo " + nombre + " debe tener un número (la coma separa los decimales: " +
-               "1234,50): \"" + n->text().toStdString() + "\" no lo es.";
+        return "El campo " + nombre +
+               " debe tener un número (la coma separa los decimales: " + "1234,50): \"" +
+               n->text().toStdString() + "\" no lo es.";
     }
     if (const auto* f = qobject_cast<const CampoFecha*>(campo)) {
         if (f->isReadOnly() || f->esValida()) return "";
@@ -52,7 +53,8 @@ std::optional<CampoConProblema> primerCampoConProblema(const QWidget* ventana) {
 void mostrarCampo(QWidget* campo) {
     // Las páginas de un QTabWidget son hijas de su QStackedWidget.
     for (QWidget* w = campo; w && w->parentWidget(); w = w->parentWidget())
-        if (auto* pila = qobject_cast<QStackedWidget*>(w->parentWidget())) pila->setCurrentWidget(w);
+        if (auto* pila = qobject_cast<QStackedWidget*>(w->parentWidget()))
+            pila->setCurrentWidget(w);
     campo->setFocus();
     if (auto* linea = qobject_cast<QLineEdit*>(campo)) linea->selectAll();
 }

@@ -14,8 +14,8 @@ VentanaAyuda::VentanaAyuda(QWidget* padre, const QString& pagina) : QTextBrowser
     setOpenExternalLinks(false);
     const auto indice = frame::carpetaDatos() / "ayuda" / "index.html";
     setSearchPaths({QString::fromStdString(indice.parent_path().string())});
-    setSource(QUrl::fromLocalFile(pagina.isEmpty() ? QString::fromStdString(indice.string())
-                                                   : pagina));
+    setSource(
+        QUrl::fromLocalFile(pagina.isEmpty() ? QString::fromStdString(indice.string()) : pagina));
     resize(760, 560);
 }
 

@@ -7,7 +7,7 @@ namespace nomira::ventana {
 
 class VentanaAyuda : public QTextBrowser {
     Q_OBJECT
-public:
+  public:
     // `pagina`: la ruta de una página del manual; vacía, el índice.
     explicit VentanaAyuda(QWidget* padre = nullptr, const QString& pagina = {});
 };

@@ -8,15 +8,15 @@
 #include <QVBoxLayout>
 
 #include "common/texto.h"
-#include "master/catalogos.h"
 #include "frame/ventana/piezas.h"
+#include "master/catalogos.h"
 #include "store/esquema.h"
 
 namespace nomira::pantallas {
 
 using ventana::aQt;
-using ventana::deQt;
 using ventana::botonConTecla;
+using ventana::deQt;
 
 PantallaCatalogo::PantallaCatalogo(frame::Sesion& sesion,
                                    const ConfiguracionCatalogo& configuracion, QWidget* padre)

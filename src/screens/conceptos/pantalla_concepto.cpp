@@ -17,9 +17,12 @@ namespace {
 
 const char* titulo(ModoConcepto modo) {
     switch (modo) {
-        case ModoConcepto::Agregar: return "Agregar Concepto y Fórmula";
-        case ModoConcepto::Modificar: return "Modificar Concepto y Fórmula";
-        case ModoConcepto::Eliminar: return "Eliminar Concepto y Fórmula";
+        case ModoConcepto::Agregar:
+            return "Agregar Concepto y Fórmula";
+        case ModoConcepto::Modificar:
+            return "Modificar Concepto y Fórmula";
+        case ModoConcepto::Eliminar:
+            return "Eliminar Concepto y Fórmula";
     }
     return "";
 }
@@ -39,10 +42,14 @@ PantallaConcepto::PantallaConcepto(frame::Sesion& sesion, long numero, ModoConce
     aguinaldo = GrupoOpciones::siNo("Aguinaldo");
     lic = GrupoOpciones::siNo("Lic/Ipd.");
     ipd = GrupoOpciones::siNo("Irpf.");
-    const std::pair<GrupoOpciones*, const char*> marcos[] = {
-        {especificode, "especificode"}, {tipo, "tipo"},       {unidad, "unidad"},
-        {permanente, "permanente"},     {gravado, "gravado"}, {aguinaldo, "aguinaldo"},
-        {lic, "lic"},                   {ipd, "ipd"}};
+    const std::pair<GrupoOpciones*, const char*> marcos[] = {{especificode, "especificode"},
+                                                             {tipo, "tipo"},
+                                                             {unidad, "unidad"},
+                                                             {permanente, "permanente"},
+                                                             {gravado, "gravado"},
+                                                             {aguinaldo, "aguinaldo"},
+                                                             {lic, "lic"},
+                                                             {ipd, "ipd"}};
     for (const auto& [m, nombre] : marcos) m->setObjectName(nombre);
     codigo->setObjectName("codigo");
     concepto->setObjectName("concepto");
@@ -101,10 +108,16 @@ bool PantallaConcepto::formulaEvaluable() {
 }
 
 master::Concepto PantallaConcepto::leido() const {
-    return {deQt(codigo),          deQt(concepto),          especificode->valor().toStdString(),
-            deQt(formula),         tipo->valor().toStdString(), unidad->valor().toStdString(),
-            permanente->valor().toStdString(), gravado->valor().toStdString(),
-            aguinaldo->valor().toStdString(),  lic->valor().toStdString(),
+    return {deQt(codigo),
+            deQt(concepto),
+            especificode->valor().toStdString(),
+            deQt(formula),
+            tipo->valor().toStdString(),
+            unidad->valor().toStdString(),
+            permanente->valor().toStdString(),
+            gravado->valor().toStdString(),
+            aguinaldo->valor().toStdString(),
+            lic->valor().toStdString(),
             ipd->valor().toStdString()};
 }
 
@@ -112,9 +125,14 @@ void PantallaConcepto::cargar(const master::Concepto& c) {
     concepto->setText(aQt(c.concepto));
     formula->setText(aQt(c.formula));
     const std::pair<ventana::GrupoOpciones*, const std::string*> valores[] = {
-        {especificode, &c.especificode}, {tipo, &c.tipo},       {unidad, &c.unidad},
-        {permanente, &c.permanente},     {gravado, &c.gravado}, {aguinaldo, &c.aguinaldo},
-        {lic, &c.lic},                   {ipd, &c.ipd}};
+        {especificode, &c.especificode},
+        {tipo, &c.tipo},
+        {unidad, &c.unidad},
+        {permanente, &c.permanente},
+        {gravado, &c.gravado},
+        {aguinaldo, &c.aguinaldo},
+        {lic, &c.lic},
+        {ipd, &c.ipd}};
     for (const auto& [marco, valor] : valores) marco->ponerValor(aQt(*valor));
 }
 

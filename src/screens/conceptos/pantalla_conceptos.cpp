@@ -7,8 +7,8 @@
 
 #include "common/numeros.h"
 #include "frame/carpeta.h"
-#include "screens/conceptos/pantalla_concepto.h"
 #include "frame/ventana/texto_qt.h"
+#include "screens/conceptos/pantalla_concepto.h"
 
 namespace nomira::pantallas {
 
@@ -22,8 +22,10 @@ PantallaConceptos::PantallaConceptos(frame::Sesion& sesion, QWidget* padre)
     criterio->setObjectName("criterio");
     for (const auto& c : master::criteriosBusquedaConceptos()) criterio->addItem(c.etiqueta);
     grilla->setObjectName("grilla");
-    connect(grilla, &QAbstractItemView::doubleClicked, this,
+    // Un clic trae el código; doble clic o Enter abre su ficha para modificarla.
+    connect(grilla, &QAbstractItemView::clicked, this,
             [this] { textoCodigo->setText(QString::fromStdString(grilla->elegida(0))); });
+    connect(grilla, &ventana::Grilla::abrir, this, [this] { abrirConcepto(1); });
 
     auto* campos = new QFormLayout;
     campos->addRow("Código", textoCodigo);

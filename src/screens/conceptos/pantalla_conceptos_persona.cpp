@@ -4,10 +4,10 @@
 #include <QVBoxLayout>
 
 #include "common/numeros.h"
+#include "frame/ventana/texto_qt.h"
 #include "master/conceptos.h"
 #include "master/empresas.h"
 #include "master/personal.h"
-#include "frame/ventana/texto_qt.h"
 
 namespace nomira::pantallas {
 
@@ -45,7 +45,8 @@ PantallaConceptosPersona::PantallaConceptosPersona(frame::Sesion& sesion, QWidge
 
     empresa->addItem("");
     intentar("Form_Load", [this] {
-        for (const auto& e : master::nombresDeEmpresas(base())) empresa->addItem(QString::fromStdString(e));
+        for (const auto& e : master::nombresDeEmpresas(base()))
+            empresa->addItem(QString::fromStdString(e));
     });
     alPulsarEnter(empresa, [this] {
         CargarNombredelPersonal();
@@ -88,7 +89,8 @@ void PantallaConceptosPersona::Buscar_Click() {
         const auto c = master::leerConcepto(base(), n);
         if (!c) return advertir(master::kCodigoInexistente);
         concepto->setText(QString::fromStdString(c->concepto));
-        habilitarSegunHallado(master::existeConceptoPersona(base(), deQt(empresa), deQt(nombre), n));
+        habilitarSegunHallado(
+            master::existeConceptoPersona(base(), deQt(empresa), deQt(nombre), n));
     });
 }
 
@@ -104,7 +106,8 @@ void PantallaConceptosPersona::Consultar_Click() {
 void PantallaConceptosPersona::Agregar_Click() {
     intentar("Agregar_Click", [this] {
         const long n = static_cast<long>(common::textoANumero(deQt(codigo)));
-        if (const auto rechazo = master::agregarConceptoPersona(base(), deQt(empresa), deQt(nombre), n))
+        if (const auto rechazo =
+                master::agregarConceptoPersona(base(), deQt(empresa), deQt(nombre), n))
             return advertir(*rechazo);
         Consultar_Click();
         limpiar();

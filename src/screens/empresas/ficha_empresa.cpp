@@ -7,15 +7,15 @@
 #include <QVBoxLayout>
 
 #include "frame/ventana/campo_numero.h"
+#include "frame/ventana/piezas.h"
 #include "master/catalogos.h"
 #include "master/informe_empresas.h"
-#include "frame/ventana/piezas.h"
 
 namespace nomira::pantallas {
 
 using ventana::aQt;
-using ventana::deQt;
 using ventana::botonConTecla;
+using ventana::deQt;
 
 namespace {
 
@@ -301,9 +301,8 @@ void FichaEmpresa::eliminar() {
 }
 
 void FichaEmpresa::imprimir() {
-    intentar("Imprimir_Click", [this] {
-        imprimirInforme(master::lineasFichaEmpresa(leerCampos()), "empresa");
-    });
+    intentar("Imprimir_Click",
+             [this] { imprimirInforme(master::lineasFichaEmpresa(leerCampos()), "empresa"); });
 }
 
 }  // namespace nomira::pantallas

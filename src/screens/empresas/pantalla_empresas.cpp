@@ -9,14 +9,14 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "frame/ventana/piezas.h"
 #include "master/informe_empresas.h"
 #include "screens/empresas/ficha_empresa.h"
-#include "frame/ventana/piezas.h"
 
 namespace nomira::pantallas {
 
-using ventana::deQt;
 using ventana::accionConTecla;
+using ventana::deQt;
 using ventana::llevarListado;
 
 PantallaEmpresas::PantallaEmpresas(frame::Sesion& sesion, QWidget* padre)
@@ -85,6 +85,8 @@ PantallaEmpresas::PantallaEmpresas(frame::Sesion& sesion, QWidget* padre)
     // Elegir una fila de la grilla elige la empresa.
     connect(grilla_, &QAbstractItemView::clicked, this,
             [this] { empresa_->setCurrentText(QString::fromStdString(grilla_->elegida(1))); });
+    // Doble clic o Enter la abre.
+    connect(grilla_, &ventana::Grilla::abrir, this, [this] { buscar(); });
 
     auto* todo = new QVBoxLayout(lienzo());
     todo->addWidget(barra);
@@ -166,9 +168,8 @@ void PantallaEmpresas::eliminar() {
 }
 
 void PantallaEmpresas::imprimir() {
-    intentar("Imprimir_Click", [this] {
-        imprimirInforme(master::lineasListadoEmpresas(mostradas_), "empresas");
-    });
+    intentar("Imprimir_Click",
+             [this] { imprimirInforme(master::lineasListadoEmpresas(mostradas_), "empresas"); });
 }
 
 void PantallaEmpresas::copiar() {

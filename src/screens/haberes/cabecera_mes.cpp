@@ -7,9 +7,9 @@
 
 #include "common/reloj.h"
 #include "engine/mes_en_pantalla.h"
+#include "frame/ventana/texto_qt.h"
 #include "master/empresas.h"
 #include "screens/haberes/textos_haberes.h"
-#include "frame/ventana/texto_qt.h"
 
 namespace nomira::pantallas {
 
@@ -200,8 +200,7 @@ void CabeceraMes::moverPersona(int paso) {
     pantalla_.intentar(paso < 0 ? "Ant_Click" : "Prox_Click", [&] {
         const auto m = mes();
         if (empresa().empty() || !m) return;
-        const auto p =
-            engine::personaVecina(pantalla_.base(), empresa(), deQt(nrofun_), *m, paso);
+        const auto p = engine::personaVecina(pantalla_.base(), empresa(), deQt(nrofun_), *m, paso);
         if (!p) return;
         nombre_->setCurrentText(aQt(p->nombre));
         nrofun_->setText(aQt(p->nrofun));

@@ -77,9 +77,9 @@ PanelGeneraciones::PanelGeneraciones(ventana::Pantalla& pantalla, CabeceraMes& c
 void PanelGeneraciones::HabPerm_Click() {
     pantalla_.intentar("HabPerm_Click", [this] {
         if (!cabecera_.completa()) return;
-        engine::generarHaberesPermanentes(pantalla_.base(), cabecera_.empresa(),
-                                          cabecera_.nombre(), *cabecera_.mes(),
-                                          pantalla_.dialogo(), engine::conArchivoDeHoras());
+        engine::generarHaberesPermanentes(pantalla_.base(), cabecera_.empresa(), cabecera_.nombre(),
+                                          *cabecera_.mes(), pantalla_.dialogo(),
+                                          engine::conArchivoDeHoras());
         emit irpfOlvidado();
         emit mesCambiado();
     });
@@ -105,9 +105,8 @@ void PanelGeneraciones::DescPerm_Click() {
 void PanelGeneraciones::HabPerm2_Click() {
     pantalla_.intentar("HabPerm2_Click", [this] {
         if (!cabecera_.completa()) return;
-        if (engine::eliminarHaberesDelMes(pantalla_.base(), cabecera_.empresa(),
-                                          cabecera_.nombre(), *cabecera_.mes(),
-                                          pantalla_.dialogo()) < 0)
+        if (engine::eliminarHaberesDelMes(pantalla_.base(), cabecera_.empresa(), cabecera_.nombre(),
+                                          *cabecera_.mes(), pantalla_.dialogo()) < 0)
             return;
         emit mesCambiado();
     });

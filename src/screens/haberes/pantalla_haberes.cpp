@@ -148,8 +148,9 @@ QWidget* PantallaHaberes::armarTeclas() {
     }));
     // Los recibos, la copia y la validación llegan con sus pantallas.
     for (const char* pendiente : {"Imp.", "Copiar", "Validar"}) {
-        boton(pendiente)->setEnabled(false);
-        boton(pendiente)->setToolTip("Todavía no disponible");
+        auto* b = teclas->findChild<QPushButton*>(pendiente);
+        b->setEnabled(false);
+        b->setToolTip("Todavía no disponible");
     }
     return teclas;
 }

@@ -6,14 +6,14 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "master/catalogos.h"
 #include "frame/ventana/piezas.h"
+#include "master/catalogos.h"
 
 namespace nomira::pantallas {
 
 using ventana::aQt;
-using ventana::deQt;
 using ventana::botonConTecla;
+using ventana::deQt;
 
 FichaObra::FichaObra(frame::Sesion& sesion, QWidget* padre)
     : Pantalla(sesion, "Form292", "Obra", padre) {

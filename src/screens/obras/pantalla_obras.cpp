@@ -6,15 +6,15 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "frame/ventana/piezas.h"
 #include "master/empresas.h"
 #include "master/obras.h"
-#include "frame/ventana/piezas.h"
 #include "screens/obras/ficha_obra.h"
 
 namespace nomira::pantallas {
 
-using ventana::deQt;
 using ventana::accionConTecla;
+using ventana::deQt;
 using ventana::llevarListado;
 
 PantallaObras::PantallaObras(frame::Sesion& sesion, QWidget* padre)
@@ -68,6 +68,8 @@ PantallaObras::PantallaObras(frame::Sesion& sesion, QWidget* padre)
     });
     connect(grilla_, &QAbstractItemView::clicked, this,
             [this] { nroObra_->setCurrentText(QString::fromStdString(grilla_->elegida(0))); });
+    // Doble clic o Enter la abre.
+    connect(grilla_, &ventana::Grilla::abrir, this, [this] { buscar(); });
 
     auto* todo = new QVBoxLayout(lienzo());
     todo->addWidget(barra);
@@ -191,8 +193,7 @@ void PantallaObras::buscar() {
 void PantallaObras::imprimir() {
     intentar("Imprimir_Click", [this] {
         if (textoEmpresa().empty()) return advertir("Debe completar el campo Empresa.");
-        imprimirInforme(
-                        master::lineasListadoObras(textoEmpresa(),
+        imprimirInforme(master::lineasListadoObras(textoEmpresa(),
                                                    master::obrasDeEmpresa(base(), textoEmpresa())),
                         "obras");
     });

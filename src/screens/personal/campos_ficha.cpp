@@ -15,7 +15,8 @@ QLineEdit* CamposFicha::texto(Columna m, const char* nombre, int ancho) {
     auto* e = new QLineEdit;
     e->setObjectName(nombre);
     if (ancho > 0) e->setMaximumWidth(ancho);
-    enlaces_.push_back({m, [e] { return deQt(e); }, [e](const std::string& v) { e->setText(aQt(v)); }});
+    enlaces_.push_back(
+        {m, [e] { return deQt(e); }, [e](const std::string& v) { e->setText(aQt(v)); }});
     return e;
 }
 
@@ -33,9 +34,9 @@ ventana::CampoNumero* CamposFicha::numero(Columna m, const char* nombre, int anc
 ventana::CampoFecha* CamposFicha::fecha(Columna m, const char* nombre) {
     auto* e = new ventana::CampoFecha;
     e->setObjectName(nombre);
-    enlaces_.push_back({m, [e] { return deQt(e); }, [e](const std::string& v) {
-                            e->setText(aQt(master::fechaParaPantalla(v)));
-                        }});
+    enlaces_.push_back(
+        {m, [e] { return deQt(e); },
+         [e](const std::string& v) { e->setText(aQt(master::fechaParaPantalla(v))); }});
     pantalla_.alPulsarEnter(e, [this, e] { return enterFecha(e); });
     return e;
 }
@@ -48,8 +49,8 @@ QComboBox* CamposFicha::lista(Columna m, const char* nombre, const QStringList& 
     c->setInsertPolicy(QComboBox::NoInsert);
     c->addItem("");
     c->addItems(items);
-    enlaces_.push_back({m, [c] { return deQt(c); },
-                        [c](const std::string& v) { c->setCurrentText(aQt(v)); }});
+    enlaces_.push_back(
+        {m, [c] { return deQt(c); }, [c](const std::string& v) { c->setCurrentText(aQt(v)); }});
     return c;
 }
 
@@ -81,8 +82,8 @@ ventana::ComboCatalogo* CamposFicha::catalogo(Columna m, const char* nombre, con
         sesion_, formulario, [this, t] { return master::textosCatalogo(pantalla_.base(), t); });
     c->setObjectName(nombre);
     c->setMinimumWidth(180);
-    enlaces_.push_back({m, [c] { return deQt(c); },
-                        [c](const std::string& v) { c->setCurrentText(aQt(v)); }});
+    enlaces_.push_back(
+        {m, [c] { return deQt(c); }, [c](const std::string& v) { c->setCurrentText(aQt(v)); }});
     return c;
 }
 
@@ -123,8 +124,9 @@ std::vector<std::string> CamposFicha::sectores() {
 }
 
 std::vector<std::string> CamposFicha::categoriasDe(const QString& sector) {
-    return master::textosCatalogo(pantalla_.base(), "categorias",
-                                  {{"nombre", grupo}, {"nombre2", subgrupo}, {"nombre3", deQt(sector)}});
+    return master::textosCatalogo(
+        pantalla_.base(), "categorias",
+        {{"nombre", grupo}, {"nombre2", subgrupo}, {"nombre3", deQt(sector)}});
 }
 
 void CamposActividad::enlazar(CamposFicha& campos, std::function<std::string()> referencias) {
@@ -142,8 +144,7 @@ void CamposActividad::enlazar(CamposFicha& campos, std::function<std::string()> 
         motivoeg->setCurrentText("");
         motivoeg->recargar();
         const auto inicio = common::inicioDeAntiguedad(deQt(fechaing), referencias());
-        antiguedad->setText(
-            QString::number(common::antiguedadEntre(inicio, deQt(fechaeg)).anios));
+        antiguedad->setText(QString::number(common::antiguedadEntre(inicio, deQt(fechaeg)).anios));
         return true;
     });
 }

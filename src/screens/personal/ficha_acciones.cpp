@@ -58,7 +58,7 @@ void FichaPersonal::modificar() {
         if (!confirmar("Modificar Personal", false)) return;
         const auto opcion = primera_->deshacer->valor() == "1"   ? master::DeshacerCambio::Primero
                             : primera_->deshacer->valor() == "2" ? master::DeshacerCambio::Segundo
-                                                        : master::DeshacerCambio::Ninguno;
+                                                                 : master::DeshacerCambio::Ninguno;
         std::string aviso;
         {
             store::Transaccion t(base());
@@ -101,7 +101,8 @@ void FichaPersonal::imprimir() {
     intentar("Imprimir_Click", [this] {
         const auto destino =
             ventana::destinoDe(master::leerConfiguracion(base()), ventana::UsoImpresora::Otros);
-        ventana::imprimirLineas(master::lineasFichaImpresa(juntar()), destino, "personal", dialogo());
+        ventana::imprimirLineas(master::lineasFichaImpresa(juntar()), destino, "personal",
+                                dialogo());
     });
 }
 

@@ -126,8 +126,8 @@ QWidget* PaginaActividad::marcoCategorias() {
 }
 
 void PaginaActividad::volcar(master::Persona& p) const {
-    p.horario = common::Horario{horario_->text().toStdString(),
-                                banco_->currentText().toStdString(), cuenta_->text().toStdString()}
+    p.horario = common::Horario{horario_->text().toStdString(), banco_->currentText().toStdString(),
+                                cuenta_->text().toStdString()}
                     .texto();
 }
 

@@ -40,7 +40,8 @@ PaginaBeneficiarios::PaginaBeneficiarios(CamposFicha& f) {
         auto n = [&](const char* base) { return std::string(base) + k; };
         g->addWidget(new QLabel(QString("Beneficiario %1").arg(b + 1)), 0, b + 1);
         auto* nombre = f.texto(c.nombre, n("nombreben").c_str());
-        f.pantalla().alPulsarEnter(nombre, [&f, nombre] { return f.enterNombre(nombre, "Beneficiario"); });
+        f.pantalla().alPulsarEnter(nombre,
+                                   [&f, nombre] { return f.enterNombre(nombre, "Beneficiario"); });
         QWidget* campos[] = {
             f.lista(c.tipodedoc, n("tipodedocben").c_str(), {"DO", "PA"}),
             f.catalogo(c.paisdeldoc, n("paisdeldocben").c_str(), "Form32", "paises"),
@@ -50,10 +51,10 @@ PaginaBeneficiarios::PaginaBeneficiarios(CamposFicha& f) {
             f.listaConTextos(c.nacionalidad, n("nacionalidadben").c_str(), kNacionalidades),
             f.listaConTextos(c.sexo, n("sexoben").c_str(), kSexos),
             f.lista(c.causa, n("causaben").c_str(),
-                  {"01-Menor de Edad", "02-Incapacidad", "03-Incapacidad al 4.5%",
-                   "04-Menor de Edad al 4.5%"}),
+                    {"01-Menor de Edad", "02-Incapacidad", "03-Incapacidad al 4.5%",
+                     "04-Menor de Edad al 4.5%"}),
             f.lista(c.relacion, n("relacionfilialben").c_str(),
-                  {"03-Hijo/Hija Natural Rec.Leg.", "09-Tutelado", "11-Curatelado"}),
+                    {"03-Hijo/Hija Natural Rec.Leg.", "09-Tutelado", "11-Curatelado"}),
             f.lista(c.regimen, n("regimenben").c_str(), {"01-Privada", "02-Pública"}),
             f.lista(c.porcentaje, n("porcentajeben").c_str(), {"00-0%", "01-50%", "02-100%"}),
             f.numero(c.monto, n("montoben").c_str(), 60, ventana::ClaseNumero::Entero),

@@ -20,11 +20,11 @@ PaginaConyuge::PaginaConyuge(CamposFicha& campos) {
     r.campo("País del Doc.", c.catalogo(&P::paisdeldoccon, "paisdeldoccon", "Form32", "paises"));
     r.campo("Documento", c.texto(&P::documentocon, "documentocon"));
     auto* nombre = c.texto(&P::nombrecon, "nombrecon");
-    c.pantalla().alPulsarEnter(nombre,
-                               [&c, nombre] { return c.enterNombre(nombre, "Cónyuge"); });
+    c.pantalla().alPulsarEnter(nombre, [&c, nombre] { return c.enterNombre(nombre, "Cónyuge"); });
     r.campo("Nombre", nombre);
     r.campo("Fecha Nac.", c.fecha(&P::fechanaccon, "fechanaccon"));
-    r.campo("Nacionalidad", c.listaConTextos(&P::nacionalidadcon, "nacionalidadcon", kNacionalidades));
+    r.campo("Nacionalidad",
+            c.listaConTextos(&P::nacionalidadcon, "nacionalidadcon", kNacionalidades));
     sexocon_ = c.opciones(nullptr, "sexocon", "Sexo", kSexos);
     r.ancho(sexocon_, 1);
     sns_ = c.opciones(nullptr, "sns", "Ingresa al SNS", {{"No", "No"}, {"Si", "Si"}});

@@ -11,10 +11,10 @@
 #include "frame/carpeta.h"
 #include "frame/ventana/impresion.h"
 #include "frame/ventana/registro_pantallas.h"
+#include "frame/ventana/texto_qt.h"
 #include "frame/ventana/ventana_ayuda.h"
 #include "master/configuracion.h"
 #include "master/empresas.h"
-#include "frame/ventana/texto_qt.h"
 
 namespace nomira::pantallas {
 
@@ -29,7 +29,6 @@ const std::pair<const char*, O> kClaves[] = {
     {"Nombre", O::Nombre},       {"Fecha Nac.", O::FechaNac}, {"Documento", O::Documento},
     {"Fecha Ing.", O::FechaIng}, {"Categoría", O::Categoria}, {"Tipo de Rem.", O::TipoRem},
     {"Fecha Eg.", O::FechaEg},   {"Seg. Salud", O::SegSalud}, {"FSueVig", O::FSueVig}};
-
 
 }  // namespace
 
@@ -64,10 +63,10 @@ PantallaPersonal::PantallaPersonal(frame::Sesion& sesion, QWidget* padre)
     });
     grilla_ = new ventana::Grilla;
     grilla_->setObjectName("grilla");
-    connect(grilla_, &QAbstractItemView::doubleClicked, this, [this] {
-        nombre_->setCurrentText(aQt(grilla_->elegida(1)));
-        buscar();
-    });
+    // Un clic trae el nombre; doble clic o Enter abre la ficha.
+    connect(grilla_, &QAbstractItemView::clicked, this,
+            [this] { nombre_->setCurrentText(aQt(grilla_->elegida(1))); });
+    connect(grilla_, &ventana::Grilla::abrir, this, [this] { buscar(); });
 
     auto* campos = new QGridLayout;
     campos->addWidget(new QLabel("Empresa"), 0, 0);
@@ -106,7 +105,8 @@ void PantallaPersonal::cargarNombres() {
         const auto escrito = nombre_->currentText();
         nombre_->clear();
         nombre_->addItem("");
-        for (const auto& n : master::nombresDelPersonal(base(), empresa())) nombre_->addItem(aQt(n));
+        for (const auto& n : master::nombresDelPersonal(base(), empresa()))
+            nombre_->addItem(aQt(n));
         nombre_->setCurrentText(escrito);
     });
 }
@@ -164,7 +164,8 @@ void PantallaPersonal::imprimir() {
     intentar("Imprimir_Click", [this] {
         const auto destino =
             ventana::destinoDe(master::leerConfiguracion(base()), ventana::UsoImpresora::Informes);
-        ventana::imprimirLineas(master::lineasListado(empresa(), listados_), destino, "personal", dialogo());
+        ventana::imprimirLineas(master::lineasListado(empresa(), listados_), destino, "personal",
+                                dialogo());
     });
 }
 

@@ -43,5 +43,4 @@ class PantallaPersonal : public ventana::Pantalla {
     QPointer<FichaPersonal> ficha_;
 };
 
-
 }  // namespace nomira::pantallas

@@ -9,17 +9,16 @@
 #include "common/numeros.h"
 #include "common/reloj.h"
 #include "common/texto.h"
+#include "frame/ventana/texto_qt.h"
 #include "master/aumentos.h"
 #include "master/catalogos.h"
 #include "master/empresas.h"
-#include "frame/ventana/texto_qt.h"
 
 namespace nomira::pantallas {
 
 using ventana::deQt;
 
 namespace {
-
 
 double porcentajeDe(const ventana::CampoNumero* c) {
     return common::textoANumero(c->valor());
@@ -46,7 +45,8 @@ PantallaAumentos::PantallaAumentos(frame::Sesion& sesion, master::CategoriaLabor
     empresa->setEditable(true);
     empresa->addItem("");
     intentar("Form_Load", [this] {
-        for (const auto& e : master::nombresDeEmpresas(base())) empresa->addItem(QString::fromStdString(e));
+        for (const auto& e : master::nombresDeEmpresas(base()))
+            empresa->addItem(QString::fromStdString(e));
     });
 
     auto* campos = new QFormLayout;
@@ -59,8 +59,8 @@ PantallaAumentos::PantallaAumentos(frame::Sesion& sesion, master::CategoriaLabor
         campos->addRow(etiqueta, campo);
     }
     for (auto* c : {recuperacion, inflacion, porcentaje}) c->setMaximumWidth(120);
-    auto* sectorElegido = new QLabel(QString::fromStdString(sector_.grupo + " / " + sector_.subgrupo +
-                                                             " / " + sector_.sector));
+    auto* sectorElegido = new QLabel(
+        QString::fromStdString(sector_.grupo + " / " + sector_.subgrupo + " / " + sector_.sector));
     sectorElegido->setObjectName("sectorElegido");
     sectorElegido->setVisible(!sector_.grupo.empty());
 
@@ -90,7 +90,8 @@ PantallaAumentos::PantallaAumentos(frame::Sesion& sesion, master::CategoriaLabor
     pedirTamano(480, 360);
     tecla(QKeySequence(Qt::Key_F1), [this] { ayuda(); });
 
-    for (auto* c : {recuperacion, inflacion}) alPulsarEnter(c, [this] { return calcularPorcentaje(); });
+    for (auto* c : {recuperacion, inflacion})
+        alPulsarEnter(c, [this] { return calcularPorcentaje(); });
     recuperacion->setFocus();
 }
 
@@ -100,8 +101,8 @@ bool PantallaAumentos::calcularPorcentaje() {
         if (!campoValido(c)) return false;
     for (auto* c : {recuperacion, inflacion})
         if (deQt(c).empty()) c->setText("0");
-    const double p = master::porcentajeCompuesto(porcentajeDe(recuperacion),
-                                                 porcentajeDe(inflacion));
+    const double p =
+        master::porcentajeCompuesto(porcentajeDe(recuperacion), porcentajeDe(inflacion));
     porcentaje->setText(QString::fromStdString(common::formatear(p, "##,##0.00")));
     return true;
 }

@@ -5,15 +5,14 @@
 
 #include "common/formato.h"
 #include "common/numeros.h"
-#include "master/franjas.h"
 #include "frame/ventana/texto_qt.h"
+#include "master/franjas.h"
 
 namespace nomira::pantallas {
 
 using ventana::deQt;
 
 namespace {
-
 
 // Como la conversión a número de la pantalla: lo que no es número no se guarda.
 double numero(const ventana::CampoNumero* campo) {
@@ -96,8 +95,8 @@ void PantallaFranjas::Agregar_Click() {
     if (!camposValidos()) return;
     intentar("Agregar_Click", [this] {
         if (!confirmar("Agregar registro")) return;
-        master::agregarFranja(base(), {static_cast<long>(numero(franja)), numero(min), numero(max),
-                                       numero(tasa)});
+        master::agregarFranja(
+            base(), {static_cast<long>(numero(franja)), numero(min), numero(max), numero(tasa)});
         Consultar_Click();
         limpiar();
     });

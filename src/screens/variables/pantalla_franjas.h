@@ -11,7 +11,7 @@ namespace nomira::pantallas {
 
 class PantallaFranjas : public ventana::Pantalla {
     Q_OBJECT
-public:
+  public:
     PantallaFranjas(frame::Sesion& sesion, QWidget* padre = nullptr);
 
     ventana::CampoNumero* franja = new ventana::CampoNumero(ventana::ClaseNumero::Entero);
@@ -20,7 +20,7 @@ public:
     ventana::CampoNumero* tasa = new ventana::CampoNumero;
     ventana::Grilla* grilla = new ventana::Grilla;
 
-private:
+  private:
     void Buscar_Click();
     void Consultar_Click();
     void Agregar_Click();

@@ -6,9 +6,9 @@
 #include "common/formato.h"
 #include "common/numeros.h"
 #include "common/texto.h"
+#include "frame/ventana/texto_qt.h"
 #include "master/catalogos.h"
 #include "screens/variables/pantalla_aumentos.h"
-#include "frame/ventana/texto_qt.h"
 
 namespace nomira::pantallas {
 
@@ -16,7 +16,9 @@ using ventana::deQt;
 
 namespace {
 
-std::string texto(const QComboBox* c) { return common::textoDeCatalogo(deQt(c)); }
+std::string texto(const QComboBox* c) {
+    return common::textoDeCatalogo(deQt(c));
+}
 
 const char* const kFaltan[] = {
     "Debe completar el campo Grupo Con. Salarios.",
@@ -30,8 +32,8 @@ const char* const kFaltan[] = {
 PantallaSueldosMinimos::PantallaSueldosMinimos(frame::Sesion& sesion, QWidget* padre)
     : Pantalla(sesion, "Form407", "Sueldos Mínimos por Categoría", padre) {
     // Cada lista se filtra por los textos de las anteriores (Like '*texto').
-    grupo = new ventana::ComboCatalogo(sesion, "Form29",
-                                       [this] { return master::valoresCatalogo(base(), "grupoconsal"); });
+    grupo = new ventana::ComboCatalogo(
+        sesion, "Form29", [this] { return master::valoresCatalogo(base(), "grupoconsal"); });
     subgrupo = new ventana::ComboCatalogo(sesion, "Form290", [this] {
         return master::valoresCatalogo(base(), "subgrupoconsal", {{"nombre", texto(grupo)}});
     });
@@ -45,12 +47,14 @@ PantallaSueldosMinimos::PantallaSueldosMinimos(frame::Sesion& sesion, QWidget* p
             {{"nombre", texto(grupo)}, {"nombre2", texto(subgrupo)}, {"nombre3", texto(sector)}});
     });
     auto* campos = new QFormLayout;
-    const std::pair<const char*, QWidget*> filas[] = {
-        {"Grupo Con. Salarios", grupo}, {"SubGrupo Con. Salarios", subgrupo},
-        {"Sector", sector},             {"Categoría", categoria},
-        {"Fecha Ini.", fechaini},       {"Fecha Fin", fechafin},
-        {"Sueldo", sueldo}};
-    const char* nombres[] = {"grupo", "subgrupo", "sector", "categoria",
+    const std::pair<const char*, QWidget*> filas[] = {{"Grupo Con. Salarios", grupo},
+                                                      {"SubGrupo Con. Salarios", subgrupo},
+                                                      {"Sector", sector},
+                                                      {"Categoría", categoria},
+                                                      {"Fecha Ini.", fechaini},
+                                                      {"Fecha Fin", fechafin},
+                                                      {"Sueldo", sueldo}};
+    const char* nombres[] = {"grupo",    "subgrupo", "sector", "categoria",
                              "fechaini", "fechafin", "sueldo"};
     int i = 0;
     for (const auto& [etiqueta, campo] : filas) {
@@ -87,8 +91,9 @@ PantallaSueldosMinimos::PantallaSueldosMinimos(frame::Sesion& sesion, QWidget* p
         });
     alPulsarEnter(fechaini, [this] {
         if (completos() == 4 && fechaini->formatoValido(false)) return true;
-        advertir("Debe completar los campos Grupo, SubGrupo Con. Salarios, Sector, Categoría y "
-                 "FechaIni debe tener el formato: dd/MM/aa.");
+        advertir(
+            "Debe completar los campos Grupo, SubGrupo Con. Salarios, Sector, Categoría y "
+            "FechaIni debe tener el formato: dd/MM/aa.");
         return false;
     });
     alPulsarEnter(fechafin, [this] {
@@ -96,8 +101,9 @@ PantallaSueldosMinimos::PantallaSueldosMinimos(frame::Sesion& sesion, QWidget* p
             Buscar_Click();
             return false;
         }
-        advertir("Debe completar los campos Grupo, SubGrupo Con. Salarios, Sector, Categoría, "
-                 "FechaIni y FechaFin debe tener el formato: dd/MM/aa.");
+        advertir(
+            "Debe completar los campos Grupo, SubGrupo Con. Salarios, Sector, Categoría, "
+            "FechaIni y FechaFin debe tener el formato: dd/MM/aa.");
         return false;
     });
     limpiar();
@@ -125,8 +131,9 @@ bool PantallaSueldosMinimos::validarHasta(int campos) {
 void PantallaSueldosMinimos::Buscar_Click() {
     intentar("Buscar_Click", [this] {
         if (completos() < 4 || deQt(fechaini).empty() || deQt(fechafin).empty())
-            return advertir("Debe completar los campos Grupo, SubGrupo Con. Salarios, Sector, "
-                            "Categoría, FechaIni y FechaFin.");
+            return advertir(
+                "Debe completar los campos Grupo, SubGrupo Con. Salarios, Sector, "
+                "Categoría, FechaIni y FechaFin.");
         const auto ini = common::Fecha::desdeTexto(deQt(fechaini));
         const auto fin = common::Fecha::desdeTexto(deQt(fechafin));
         if (!ini || !fin) throw common::Fallo(13, "No coinciden los tipos");
@@ -160,7 +167,8 @@ void PantallaSueldosMinimos::Agregar_Click() {
         const auto fin = common::Fecha::desdeTexto(deQt(fechafin));
         if (!ini || !fin || !common::esNumerico(sueldo->valor()))
             throw common::Fallo(13, "No coinciden los tipos");
-        master::agregarSueldoMinimo(base(), {elegida(), *ini, *fin, common::textoANumero(sueldo->valor())});
+        master::agregarSueldoMinimo(base(),
+                                    {elegida(), *ini, *fin, common::textoANumero(sueldo->valor())});
         Consultar_Click();
         limpiar();
     });
@@ -187,7 +195,8 @@ void PantallaSueldosMinimos::Porcaum_Click() {
 
 // Deja la categoría elegida y vacía el período y el sueldo.
 void PantallaSueldosMinimos::limpiar() {
-    for (auto* c : {static_cast<QLineEdit*>(fechaini), static_cast<QLineEdit*>(fechafin), static_cast<QLineEdit*>(sueldo)})
+    for (auto* c : {static_cast<QLineEdit*>(fechaini), static_cast<QLineEdit*>(fechafin),
+                    static_cast<QLineEdit*>(sueldo)})
         c->clear();
     boton("Agregar")->setEnabled(false);
     boton("Eliminar")->setEnabled(false);

@@ -8,8 +8,8 @@
 #include "common/numeros.h"
 #include "common/reloj.h"
 #include "frame/ventana/registro_pantallas.h"
-#include "master/variables.h"
 #include "frame/ventana/texto_qt.h"
+#include "master/variables.h"
 
 namespace nomira::pantallas {
 
@@ -109,13 +109,14 @@ void PantallaVariables::Buscar_Click() {
 
 void PantallaVariables::Consultar_Click() {
     intentar("Consultar_Click", [this] {
-        const auto filas = *instancia_.variable ? master::listarVariable(base(), instancia_.variable)
-                                                : master::listarOtrasVariables(base());
+        const auto filas = *instancia_.variable
+                               ? master::listarVariable(base(), instancia_.variable)
+                               : master::listarOtrasVariables(base());
         std::vector<std::vector<std::string>> celdas;
         int n = 0;
         for (const auto& f : filas)
-            celdas.push_back({std::to_string(++n), f.nombre, f.fecha,
-                              common::formatear(f.valor, "##,##0.00")});
+            celdas.push_back(
+                {std::to_string(++n), f.nombre, f.fecha, common::formatear(f.valor, "##,##0.00")});
         grilla->mostrar({"Nro", "Nombre", "Fecha", "Valor"}, celdas, {0, 3});
     });
 }
@@ -126,7 +127,8 @@ void PantallaVariables::Agregar_Click() {
         if (!confirmar("Agregar registro")) return;
         const auto f = common::Fecha::desdeTexto(deQt(fecha));
         // Valor pasa a moneda: vacío o sin número no es un importe.
-        if (!f || !common::esNumerico(valor->valor())) throw common::Fallo(13, "No coinciden los tipos");
+        if (!f || !common::esNumerico(valor->valor()))
+            throw common::Fallo(13, "No coinciden los tipos");
         master::agregarVariable(base(), deQt(nombre), *f, common::textoANumero(valor->valor()));
         Consultar_Click();
         limpiar();
@@ -146,8 +148,9 @@ void PantallaVariables::Eliminar_Click() {
 
 void PantallaVariables::Imprimir_Click() {
     intentar("Imprimir_Click", [this] {
-        const auto filas = *instancia_.variable ? master::listarVariable(base(), instancia_.variable)
-                                                : master::listarOtrasVariables(base());
+        const auto filas = *instancia_.variable
+                               ? master::listarVariable(base(), instancia_.variable)
+                               : master::listarOtrasVariables(base());
         imprimirInforme(master::lineasListaVariables(filas), "variables");
     });
 }

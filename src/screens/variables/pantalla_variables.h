@@ -22,7 +22,7 @@ const std::vector<InstanciaVariables>& instanciasVariables();
 
 class PantallaVariables : public ventana::Pantalla {
     Q_OBJECT
-public:
+  public:
     PantallaVariables(frame::Sesion& sesion, const InstanciaVariables& instancia,
                       QWidget* padre = nullptr);
 
@@ -31,7 +31,7 @@ public:
     ventana::CampoNumero* valor = new ventana::CampoNumero;
     ventana::Grilla* grilla = new ventana::Grilla;
 
-private:
+  private:
     bool CalculoFecha();
     bool fechaCompleta();
     void Buscar_Click();
@@ -43,6 +43,5 @@ private:
 
     InstanciaVariables instancia_;
 };
-
 
 }  // namespace nomira::pantallas
