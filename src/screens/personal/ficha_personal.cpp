@@ -59,6 +59,7 @@ FichaPersonal::FichaPersonal(frame::Sesion& sesion, QWidget* padre)
     eliminar_ = boton("Eliminar");
     imprimir_ = boton("Imprimir");
     hacerFicha();
+    limpiar();
     ponerModo(false);
 }
 
