@@ -1,19 +1,26 @@
 #include "screens/registro.h"
 
 #include "frame/ventana/registro_pantallas.h"
+#include "screens/catalogos/registro_catalogos.h"
 #include "screens/conceptos/registro_conceptos.h"
 #include "screens/empresas/registro_empresas.h"
-#include "screens/haberes/pantalla_haberes.h"
-#include "screens/personal/pantalla_personal.h"
+#include "screens/haberes/registro_haberes.h"
+#include "screens/obras/registro_obras.h"
+#include "screens/personal/registro_personal.h"
+#include "screens/variables/registro_variables.h"
 
 namespace nomira::pantallas {
 
+// Una línea por carpeta de pantallas: cada una sabe qué formularios son suyos.
 void registrarTodas() {
     ventana::registrarPantallasDelMarco();
+    registrarPantallasCatalogos();
     registrarPantallasConceptos();
     registrarPantallasEmpresas();
-    registrarPantallasPersonal();
     registrarPantallasHaberes();
+    registrarPantallasObras();
+    registrarPantallasPersonal();
+    registrarPantallasVariables();
 }
 
 }  // namespace nomira::pantallas

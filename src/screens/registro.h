@@ -1,6 +1,6 @@
 #pragma once
 // Registra todas las pantallas que abre el menú. main() la llama antes de crear la
-// ventana principal; cada subsistema agrega aquí su propia función de registro.
+// ventana principal; cada carpeta de pantallas tiene su propia función de registro.
 
 namespace nomira::pantallas {
 

@@ -11,16 +11,16 @@
 #include <QTest>
 #include <fstream>
 
-#include "pantallas/apoyo_pantallas.h"
 #include "frame/carpeta.h"
 #include "master/conceptos.h"
+#include "pantallas/apoyo_pantallas.h"
 
 using namespace nomira;
 
 namespace {
 
 class PantallasConceptos : public pruebas::PantallaAbierta {
-protected:
+  protected:
     // La ficha Form41 abierta desde Form4 con la tecla.
     QWidget* ficha(Qt::Key k) {
         auto* codigo = pantalla->findChild<QLineEdit*>("codigo");
@@ -57,8 +57,9 @@ TEST_F(PantallasConceptos, AgregarModificarYEliminarDesdeLasTeclasDeForm4) {
     elegir(f, "tipo", "Desc.");  // con Específico "Sueldo"
     QTest::keyClick(f->findChild<QLineEdit*>("concepto"), Qt::Key_F5);
     EXPECT_EQ(dialogo.preguntas.back(), "Agregar Concepto|¿Desea continuar?");
-    EXPECT_EQ(dialogo.ultimoMensaje(),
-              "Si el Tipo es un Desc. entonces en Específico de debe seleccionar la opción General.");
+    EXPECT_EQ(
+        dialogo.ultimoMensaje(),
+        "Si el Tipo es un Desc. entonces en Específico de debe seleccionar la opción General.");
     EXPECT_FALSE(master::leerConcepto(b, 900));
     elegir(f, "especificode", "General");
     QTest::keyClick(f->findChild<QLineEdit*>("concepto"), Qt::Key_F5);
@@ -70,8 +71,9 @@ TEST_F(PantallasConceptos, AgregarModificarYEliminarDesdeLasTeclasDeForm4) {
     EXPECT_EQ(pantalla->findChild<QWidget*>("Form41"), nullptr);
 
     // Modificar: la ficha trae el concepto y el cambio llega a lo liquidado.
-    b.ejecuta("INSERT INTO habydesc (empresa, nombre, fecha, codigo, concepto, tipo, total) VALUES "
-              "('E', 'P, A', '2026-01-01', 900, 'RETENCION', 'Des', 10)");
+    b.ejecuta(
+        "INSERT INTO habydesc (empresa, nombre, fecha, codigo, concepto, tipo, total) VALUES "
+        "('E', 'P, A', '2026-01-01', 900, 'RETENCION', 'Des', 10)");
     f = ficha(Qt::Key_F6);
     ASSERT_NE(f, nullptr);
     auto* nombre = f->findChild<QLineEdit*>("concepto");
@@ -111,13 +113,15 @@ TEST_F(PantallasConceptos, PermanentesPorPersonaConSusMensajes) {
     auto& b = *sesion.base;
     b.ejecuta("INSERT INTO empresas (empresa) VALUES ('ACME')");
     b.ejecuta("INSERT INTO personal (empresa, nombre) VALUES ('ACME', 'PEREZ, ANA')");
-    master::agregarConcepto(b, {"901", "PRIMA", "G", "100", "Hab", "I", "No", "Si", "Si", "Si", "Si"});
+    master::agregarConcepto(b,
+                            {"901", "PRIMA", "G", "100", "Hab", "I", "No", "Si", "Si", "Si", "Si"});
     abrir("Form40");
     auto* empresa = pantalla->findChild<QComboBox*>("empresa");
     auto* nombre = pantalla->findChild<QComboBox*>("nombre");
     auto* codigo = pantalla->findChild<QLineEdit*>("codigo");
     QTest::keyClick(codigo, Qt::Key_Return);
-    EXPECT_EQ(dialogo.ultimoMensaje(), "Debe completar los campos Empresa, Nombre del Personal y Código.");
+    EXPECT_EQ(dialogo.ultimoMensaje(),
+              "Debe completar los campos Empresa, Nombre del Personal y Código.");
     empresa->setCurrentText("ACME");
     empresa->setFocus();
     QTest::keyClick(empresa, Qt::Key_Return);
@@ -142,7 +146,46 @@ TEST_F(PantallasConceptos, PermanentesPorPersonaConSusMensajes) {
     empresa->setCurrentText("OTRA");
     codigo->setText("901");
     QTest::keyClick(codigo, Qt::Key_Return);
-    EXPECT_EQ(dialogo.ultimoMensaje(), "No existe la Empresa, deberá 1ero ingresarla en la ventana Empresas.");
+    EXPECT_EQ(dialogo.ultimoMensaje(),
+              "No existe la Empresa, deberá 1ero ingresarla en la ventana Empresas.");
 }
 
 }  // namespace
+
+// La ficha no guarda una fórmula que nunca podrá evaluarse: dice el mensaje del
+// evaluador y el carácter, y deja el cursor ahí. Un concepto nuevo nace no permanente.
+TEST_F(PantallasConceptos, LaFichaRechazaLaFormulaQueNoSeEvaluaYNaceNoPermanente) {
+    abrir("Form4");
+    pantalla->findChild<QLineEdit*>("codigo")->setText("901");
+    auto* f = ficha(Qt::Key_F5);
+    ASSERT_NE(f, nullptr);
+    auto* formula = f->findChild<QLineEdit*>("formula");
+    QTest::keyClicks(f->findChild<QLineEdit*>("concepto"), "PRIMA");
+    elegir(f, "especificode", "General");
+    const std::pair<const char*, const char*> malas[] = {
+        {"[SUELDO]*(2", "en el carácter 10."},
+        {"[SUELDO*2", "Falta el corchete de cierre ']', en el carácter 1."},
+        {"[SUELDO]*2)", "en el carácter 11."},
+        {"FOO([SUELDO])", "la función FOO no existe, en el carácter 1."}};
+    for (const auto& [texto, final] : malas) {
+        formula->setText(texto);
+        dialogo.preguntas.clear();
+        QTest::keyClick(formula, Qt::Key_F5);
+        EXPECT_TRUE(dialogo.preguntas.empty()) << texto;  // ni llega a preguntar
+        const auto m = dialogo.ultimoMensaje();
+        EXPECT_TRUE(m.starts_with("La fórmula no se puede evaluar: ")) << m;
+        EXPECT_TRUE(m.ends_with(final)) << texto << " -> " << m;
+        EXPECT_FALSE(master::leerConcepto(*sesion.base, 901)) << texto;
+    }
+    formula->setText("[SUELDO]*(2");
+    QTest::keyClick(formula, Qt::Key_F5);
+    EXPECT_NE(dialogo.ultimoMensaje().find("1006"), std::string::npos) << dialogo.ultimoMensaje();
+    EXPECT_EQ(formula->cursorPosition(), 9);
+
+    formula->setText("Round([SUELDO]*(2+[CANT]), 2)");
+    QTest::keyClick(formula, Qt::Key_F5);
+    cerrada();
+    const auto c = master::leerConcepto(*sesion.base, 901);
+    ASSERT_TRUE(c);
+    EXPECT_EQ(c->permanente, "No");
+}

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
@@ -19,6 +20,7 @@
 #include "engine/calculos/liquido.h"
 #include "engine/mes/mes_persona.h"
 #include "engine/mes/renglon.h"
+#include "frame/ventana/campo_numero.h"
 #include "frame/ventana/ventana_principal.h"
 #include "master/variables.h"
 #include "pantallas/apoyo_pantallas.h"
@@ -135,7 +137,7 @@ TEST_F(PantallaHaberes, UnMesEnteroDesdeElTeclado) {
     EXPECT_FALSE(w<QPushButton>("Modificar")->isEnabled());
     EXPECT_TRUE(w("cant")->hasFocus());
     teclear("cant", "1");
-    EXPECT_EQ(texto("total"), "0");
+    EXPECT_EQ(texto("total"), "0.00");  // con la forma de la grilla
     EXPECT_TRUE(w("total")->hasFocus());
     teclear("total", "1500");
     EXPECT_EQ(texto("codigo"), "");
@@ -146,11 +148,22 @@ TEST_F(PantallaHaberes, UnMesEnteroDesdeElTeclado) {
     // Por el nombre: la fila ya está, así que queda para Modificar con lo guardado.
     teclear("concepto", "transp");
     EXPECT_EQ(texto("codigo"), "58");
-    EXPECT_EQ(texto("total"), "1500");
+    EXPECT_EQ(texto("total"), "1,500.00");
     EXPECT_FALSE(w<QPushButton>("Agregar")->isEnabled());
     EXPECT_TRUE(w<QPushButton>("Modificar")->isEnabled());
     // F6 guarda el total cambiado.
-    w("total")->setText("1400");
+    w("total")->setText("1400,5");  // la coma del liquidador es la decimal
+    tecla(Qt::Key_F6);
+    EXPECT_EQ(columna("haberes", 4).back(), "1,400.50");
+    // Lo que no es número no se guarda: el aviso nombra el campo y el foco vuelve a él.
+    teclear("codigo", "58");
+    w("total")->setText("abc");
+    tecla(Qt::Key_F6);
+    EXPECT_TRUE(dialogo.ultimoMensaje().starts_with("El campo Total debe tener un número"))
+        << dialogo.ultimoMensaje();
+    EXPECT_TRUE(w("total")->hasFocus());
+    EXPECT_EQ(columna("haberes", 4).back(), "1,400.50");
+    w("total")->setText("1,400.00");  // lo mostrado con la forma de la grilla se lee igual
     tecla(Qt::Key_F6);
     EXPECT_EQ(columna("haberes", 4).back(), "1,400.00");
     EXPECT_EQ(texto("codigo"), "");
@@ -257,7 +270,7 @@ TEST_F(PantallaHaberes, LicenciaConSusPreguntasYElPeriodo) {
     dialogo.preguntas.clear();
     teclear("cant", "5");
     EXPECT_EQ(dialogo.preguntas, (std::vector<std::string>{menosDe10, periodo}));
-    EXPECT_EQ(texto("total"), "5000");  // 30000 / 30 x 5
+    EXPECT_EQ(texto("total"), "5,000.00");  // 30000 / 30 x 5
     teclear("total", "5000");
     EXPECT_EQ(filas("codigo = 30 AND cant = 5"), 1);
     EXPECT_EQ(sumaTipo("GOMEZ, ANA", "Hab"), 30000);  // SUELDO 25000 + LICENCIA 5000
@@ -290,7 +303,8 @@ TEST_F(PantallaHaberes, DiciembreMuestraElCierreDelAnio) {
     teclear("cant", "");
     EXPECT_TRUE(detalle->isVisible());
     EXPECT_EQ(texto("inggrav"), "1,440,000.00");  // doce meses de 120000
-    EXPECT_EQ(texto("totalirpfmes"), pesos(w("total")->text().toDouble()));
+    EXPECT_EQ(texto("totalirpfmes"),
+              pesos(std::stod(*ventana::numeroTecleado(w("total")->text().toStdString()))));
     EXPECT_NE(texto("totalirpfmes"), "0.00");  // el año pasa la franja sin impuesto
 
     // Otra persona limpia el recuadro; F2 relee lo que otra PC escribió.
@@ -425,6 +439,9 @@ TEST_F(PantallaHaberes, TodaLaEmpresaConSuAvanceYDetener) {
     EXPECT_TRUE(dialogo.mensajes.empty());  // detenida: no dice finalizada
     EXPECT_TRUE(w<QPushButton>("DescPerm")->isEnabled());
     EXPECT_FALSE(detener->isEnabled());
+    // Terminada la corrida, la línea de avance queda limpia.
+    EXPECT_FALSE(avance->isTextVisible());
+    EXPECT_EQ(w<QLabel>("personaEnCurso")->text(), "");
     QObject::disconnect(c);
 
     // De nuevo, hasta el final: todas con su SUELDO.

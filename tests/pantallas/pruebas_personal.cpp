@@ -11,6 +11,7 @@
 
 #include "apoyo/carpeta_temporal.h"
 #include "apoyo/dialogo_guion.h"
+#include "common/empaquetados.h"
 #include "frame/arranque.h"
 #include "master/empresas.h"
 #include "master/personal.h"
@@ -130,6 +131,26 @@ TEST_F(PantallasPersonal, AltaConElTecladoYLaGrillaLaEncuentra) {
     campo<QLineEdit>(ficha, "fechaeg")->clear();
     campo<QLineEdit>(ficha, "antiguedad")->clear();
 
+    // Lo que no es número ni fecha no se guarda: el aviso nombra el campo, la ficha
+    // muestra su página y el foco queda en él.
+    campo(ficha, "sueldo")->setText("abc");
+    QTest::keyClick(ficha, Qt::Key_F5);
+    EXPECT_TRUE(dialogo.ultimoMensaje().starts_with("El campo Sueldo debe tener un número"))
+        << dialogo.ultimoMensaje();
+    EXPECT_TRUE(campo(ficha, "sueldo")->hasFocus());
+    EXPECT_FALSE(master::leerPersona(*sesion.base, "ACME", "PEREZ, ANA"));
+    campo(ficha, "sueldo")->setText("30000,50");
+    ficha->findChild<QTabWidget*>("paginas")->setCurrentIndex(0);
+    campo(ficha, "fechanac")->setText("32/13/10");
+    QTest::keyClick(ficha, Qt::Key_F5);
+    EXPECT_TRUE(dialogo.ultimoMensaje().starts_with("El campo Fecha Nac. debe tener una fecha"))
+        << dialogo.ultimoMensaje();
+    EXPECT_EQ(ficha->findChild<QTabWidget*>("paginas")->currentIndex(), 0);
+    EXPECT_FALSE(master::leerPersona(*sesion.base, "ACME", "PEREZ, ANA"));
+    campo(ficha, "fechanac")->setText("01/01/90");
+    campo(ficha, "cantbfc")->clear();
+    escribir(ficha, "cantbfc", "1,5");
+
     dialogo.mensajes.clear();
     QTest::keyClick(ficha, Qt::Key_F5);
     ASSERT_FALSE(dialogo.preguntas.empty());
@@ -140,6 +161,14 @@ TEST_F(PantallasPersonal, AltaConElTecladoYLaGrillaLaEncuentra) {
     EXPECT_EQ(p->fechaing, "2024-03-01");
     EXPECT_EQ(p->categoria, "Vendedor");
     EXPECT_EQ(p->horario.size(), 50u);
+    // La coma decimal llega a la base como punto.
+    EXPECT_EQ(p->sueldo, "30000.50");
+    EXPECT_EQ(p->cantbfc, "1.5");
+    // Sin tocarlos, N.Fam., L.19321 y Multi Emp. quedan en No.
+    const auto sm = common::SocMedica::leer(p->socmedica);
+    EXPECT_EQ(sm.nfam, "No");
+    EXPECT_EQ(sm.l19321, "No");
+    EXPECT_EQ(sm.multiemp, "No");
     // Seguro 01 sin hijos: la advertencia después de guardar.
     ASSERT_EQ(dialogo.mensajes.size(), 1u);
     EXPECT_EQ(dialogo.ultimoMensaje(),
@@ -150,6 +179,13 @@ TEST_F(PantallasPersonal, AltaConElTecladoYLaGrillaLaEncuentra) {
     EXPECT_EQ(campo(ficha, "nombre")->text(), "");
     EXPECT_EQ(campo(ficha, "nrofun")->text(), "2");
 
+    // La ficha es modal: la lista responde cuando se cierra.
+    QApplication::setActiveWindow(&personal);
+    QTest::keyClick(&personal, Qt::Key_F3);
+    EXPECT_EQ(personal.findChild<QTableView*>("grilla")->model()->rowCount(), 0);
+    QApplication::setActiveWindow(ficha);
+    QTest::keyClick(ficha, Qt::Key_Escape);  // Esc cierra la ficha
+    EXPECT_FALSE(ficha->isVisible());
     QApplication::setActiveWindow(&personal);
     QTest::keyClick(&personal, Qt::Key_F3);
     auto* grilla = personal.findChild<QTableView*>("grilla");

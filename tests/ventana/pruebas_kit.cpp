@@ -22,9 +22,9 @@ namespace {
 
 // Una pantalla mínima con tres campos, el del medio una fecha que se valida al dar Enter.
 class PantallaDePrueba : public ventana::Pantalla {
-public:
+  public:
     explicit PantallaDePrueba(frame::Sesion& s) : Pantalla(s, "Form99", "Prueba") {
-        auto* capa = new QVBoxLayout(this);
+        auto* capa = new QVBoxLayout(lienzo());
         for (auto* w : {primero, static_cast<QLineEdit*>(fecha), ultimo}) capa->addWidget(w);
         alPulsarEnter(fecha, [this] {
             if (fecha->formatoValido()) return true;
@@ -60,7 +60,8 @@ TEST(Kit, EnterAvanzaYLaFechaMalFormadaDetiene) {
     p.fecha->setFocus();
     QTest::keyClick(p.fecha, Qt::Key_Return);
     EXPECT_TRUE(p.fecha->hasFocus());
-    EXPECT_EQ(dialogo.ultimoMensaje(), "Los campos de tipo fecha deben tener el formato: dd/mm/aa.");
+    EXPECT_EQ(dialogo.ultimoMensaje(),
+              "Los campos de tipo fecha deben tener el formato: dd/mm/aa.");
     EXPECT_EQ(dialogo.mensajes.back().titulo, "Mensaje de advertencia");
 }
 

@@ -2,6 +2,8 @@
 
 #include <QKeyEvent>
 
+#include "common/fechas.h"
+
 namespace nomira::ventana {
 
 CampoFecha::CampoFecha(QWidget* padre, FormaFecha forma) : QLineEdit(padre), forma_(forma) {
@@ -18,7 +20,21 @@ bool CampoFecha::formatoValido(bool vacioValido) const {
     return t.size() == 8 && t[2] == '/' && t[5] == '/';
 }
 
+bool CampoFecha::esValida() const {
+    if (text().isEmpty()) return true;
+    if (!formatoValido()) return false;
+    const auto t = text().toStdString();
+    return forma_ == FormaFecha::Mes ? common::Mes::desdeTexto(t).has_value()
+                                     : common::Fecha::desdeTexto(t).has_value();
+}
+
 void CampoFecha::keyPressEvent(QKeyEvent* e) {
+    // La barra ya puesta por el campo: la que teclea el liquidador sobra.
+    if (e->text() == "/" && !hasSelectedText() && cursorPosition() > 0 &&
+        text()[cursorPosition() - 1] == '/') {
+        e->accept();
+        return;
+    }
     QLineEdit::keyPressEvent(e);
     // Al escribir al final, la barra llega sola tras el día y tras el mes.
     if (!e->text().isEmpty() && e->text()[0].isDigit() && cursorPosition() == text().size() &&

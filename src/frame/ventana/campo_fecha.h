@@ -1,6 +1,7 @@
 #pragma once
 // Un campo de fecha "dd/mm/aa" (o de mes, "MM/aa"): la barra se agrega sola
-// después del segundo y del quinto carácter, y Enter comprueba la forma.
+// después del segundo y del quinto carácter (y la que teclea el liquidador no se
+// duplica), y Enter comprueba la forma.
 #include <QLineEdit>
 
 namespace nomira::ventana {
@@ -17,6 +18,9 @@ class CampoFecha : public QLineEdit {
     // Largo 8 con "/" en el tercer y el sexto carácter (un mes: largo 5 con "/" en
     // el tercero); vacío vale si `vacioValido`.
     bool formatoValido(bool vacioValido = true) const;
+    // Con la forma y además un día (o mes) que existe: "31/02/26" no lo es. Vacío vale.
+    bool esValida() const;
+    FormaFecha forma() const { return forma_; }
 
   protected:
     void keyPressEvent(QKeyEvent* e) override;

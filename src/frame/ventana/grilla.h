@@ -1,6 +1,7 @@
 #pragma once
 // Grillas de las pantallas: encabezados y filas de texto, los importes alineados a
-// la derecha.
+// la derecha. En todas las listas un clic elige la fila y un doble clic o Enter la
+// abre (la señal abrir).
 #include <QStandardItemModel>
 #include <QTableView>
 #include <set>
@@ -11,16 +12,23 @@ namespace nomira::ventana {
 
 class Grilla : public QTableView {
     Q_OBJECT
-public:
+  public:
     explicit Grilla(QWidget* padre = nullptr);
     // `derecha`: índices de las columnas que se alinean a la derecha (importes).
     void mostrar(const std::vector<std::string>& encabezados,
-                 const std::vector<std::vector<std::string>>& filas, const std::set<int>& derecha = {});
+                 const std::vector<std::vector<std::string>>& filas,
+                 const std::set<int>& derecha = {});
     // Texto de la celda de la fila elegida, "" si no hay.
     std::string elegida(int columna) const;
     int filas() const { return modelo_->rowCount(); }
 
-private:
+  signals:
+    void abrir();
+
+  protected:
+    void keyPressEvent(QKeyEvent* e) override;
+
+  private:
     QStandardItemModel* modelo_;
 };
 

@@ -7,12 +7,11 @@
 #include <QPrinterInfo>
 
 #include "frame/carpeta.h"
+#include "frame/ventana/texto_qt.h"
 
 namespace nomira::ventana {
 
 namespace {
-
-QString q(const std::string& s) { return QString::fromStdString(s); }
 
 QFont fuenteDe(const DestinoImpresion& d) {
     QFont f(d.fuente.isEmpty() ? "Courier New" : d.fuente, d.tamano > 0 ? d.tamano : 10);
@@ -22,7 +21,8 @@ QFont fuenteDe(const DestinoImpresion& d) {
     return f;
 }
 
-void pintar(QPrinter& impresora, const std::vector<std::string>& lineas, const DestinoImpresion& d) {
+void pintar(QPrinter& impresora, const std::vector<std::string>& lineas,
+            const DestinoImpresion& d) {
     QPainter p(&impresora);
     p.setFont(fuenteDe(d));
     const QFontMetrics medida(p.font(), &impresora);
@@ -34,7 +34,7 @@ void pintar(QPrinter& impresora, const std::vector<std::string>& lineas, const D
             impresora.newPage();
             y = medida.ascent();
         }
-        p.drawText(0, y, q(linea));
+        p.drawText(0, y, aQt(linea));
         y += alto;
     }
 }
@@ -43,9 +43,12 @@ void pintar(QPrinter& impresora, const std::vector<std::string>& lineas, const D
 
 DestinoImpresion destinoDe(const master::Configuracion& c, UsoImpresora uso) {
     switch (uso) {
-        case UsoImpresora::Recibos: return {q(c.impresorarecibos), q(c.tiporec), q(c.tamrec).toInt()};
-        case UsoImpresora::Informes: return {q(c.impresorainformes), q(c.tipoinf), q(c.taminf).toInt()};
-        case UsoImpresora::Otros: return {q(c.impresoracomanda), q(c.tipocom), q(c.tamcom).toInt()};
+        case UsoImpresora::Recibos:
+            return {aQt(c.impresorarecibos), aQt(c.tiporec), aQt(c.tamrec).toInt()};
+        case UsoImpresora::Informes:
+            return {aQt(c.impresorainformes), aQt(c.tipoinf), aQt(c.taminf).toInt()};
+        case UsoImpresora::Otros:
+            return {aQt(c.impresoracomanda), aQt(c.tipocom), aQt(c.tamcom).toInt()};
     }
     return {};
 }
@@ -54,29 +57,37 @@ void escribirPdf(const std::vector<std::string>& lineas, const DestinoImpresion&
                  const std::filesystem::path& ruta) {
     QPrinter impresora(QPrinter::HighResolution);
     impresora.setOutputFormat(QPrinter::PdfFormat);
-    impresora.setOutputFileName(q(ruta.string()));
+    impresora.setOutputFileName(aQt(ruta.string()));
     pintar(impresora, lineas, destino);
 }
 
 std::optional<std::filesystem::path> imprimirLineas(const std::vector<std::string>& lineas,
                                                     const DestinoImpresion& destino,
-                                                    const std::string& documento) {
+                                                    const std::string& documento,
+                                                    common::Dialogo& dialogo) {
     if (QPrinterInfo::availablePrinterNames().isEmpty()) {
         std::filesystem::create_directories(frame::rutaSoftware());
-        const auto ruta = frame::rutaSoftware(documento + ".pdf");
+        const auto ruta = std::filesystem::absolute(frame::rutaSoftware(documento + ".pdf"));
+        if (std::filesystem::exists(ruta) &&
+            !dialogo.confirmar("Reemplazar archivo",
+                               "Ya existe el archivo " + ruta.string() + ". ¿Desea reemplazarlo?",
+                               false))
+            return std::nullopt;
         escribirPdf(lineas, destino, ruta);
+        dialogo.avisar(common::TipoAviso::Informacion, "Archivo guardado.\n" + ruta.string());
         return ruta;
     }
     QPrinter impresora(QPrinter::HighResolution);
     if (!destino.impresora.isEmpty()) impresora.setPrinterName(destino.impresora);
-    impresora.setDocName(q(documento));
+    impresora.setDocName(aQt(documento));
     pintar(impresora, lineas, destino);
     return std::nullopt;
 }
 
 void imprimirInforme(store::Conexion& base, const std::vector<std::string>& lineas,
-                     const std::string& documento) {
-    imprimirLineas(lineas, destinoDe(master::leerConfiguracion(base), UsoImpresora::Informes), documento);
+                     const std::string& documento, common::Dialogo& dialogo) {
+    imprimirLineas(lineas, destinoDe(master::leerConfiguracion(base), UsoImpresora::Informes),
+                   documento, dialogo);
 }
 
 }  // namespace nomira::ventana

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "common/dialogo.h"
 #include "master/configuracion.h"
 #include "store/conexion.h"
 
@@ -26,13 +27,16 @@ DestinoImpresion destinoDe(const master::Configuracion& c, UsoImpresora uso);
 void escribirPdf(const std::vector<std::string>& lineas, const DestinoImpresion& destino,
                  const std::filesystem::path& ruta);
 
-// Imprime; sin impresoras en el sistema guarda "<raíz>/Software/<documento>.pdf" y devuelve su ruta.
+// Imprime; sin impresoras en el sistema guarda "<raíz>/Software/<documento>.pdf" y
+// devuelve su ruta. Un PDF anterior con ese nombre sólo se reemplaza si se responde
+// Sí; el guardado se avisa con su ruta entera ("Archivo guardado.").
 std::optional<std::filesystem::path> imprimirLineas(const std::vector<std::string>& lineas,
                                                     const DestinoImpresion& destino,
-                                                    const std::string& documento);
+                                                    const std::string& documento,
+                                                    common::Dialogo& dialogo);
 
 // Las líneas a la impresora de informes que dice la configuración de la base.
 void imprimirInforme(store::Conexion& base, const std::vector<std::string>& lineas,
-                     const std::string& documento);
+                     const std::string& documento, common::Dialogo& dialogo);
 
 }  // namespace nomira::ventana

@@ -5,18 +5,31 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QScreen>
 #include <QShortcut>
+#include <QStyle>
+#include <QVBoxLayout>
 
 #include "frame/ventana/impresion.h"
+#include "frame/ventana/revision_campos.h"
 #include "frame/ventana/ventana_ayuda.h"
 
 namespace nomira::ventana {
 
 Pantalla::Pantalla(frame::Sesion& sesion, const QString& formulario, const QString& titulo,
                    QWidget* padre)
-    : QWidget(padre, Qt::Window), sesion_(sesion) {
+    : QWidget(padre, Qt::Window), sesion_(sesion), area_(new QScrollArea), lienzo_(new QWidget) {
     setObjectName(formulario);
     setWindowTitle(titulo);
+    // En un escritorio más chico que la pantalla, barras en lugar de campos cortados.
+    area_->setObjectName("area");
+    area_->setFrameShape(QFrame::NoFrame);
+    area_->setWidgetResizable(true);
+    area_->setWidget(lienzo_);
+    lienzo_->setObjectName("lienzo");
+    auto* capa = new QVBoxLayout(this);
+    capa->setContentsMargins(0, 0, 0, 0);
+    capa->addWidget(area_);
     // Enter en un campo pasa al siguiente, como en todas las pantallas del sistema.
     qApp->installEventFilter(this);
 }
@@ -46,7 +59,9 @@ QHBoxLayout* Pantalla::botonera(const std::vector<AccionTecla>& acciones) {
     return fila;
 }
 
-QPushButton* Pantalla::boton(const QString& nombre) const { return findChild<QPushButton*>(nombre); }
+QPushButton* Pantalla::boton(const QString& nombre) const {
+    return findChild<QPushButton*>(nombre);
+}
 
 void Pantalla::habilitarSegunHallado(bool hallado) {
     if (auto* b = boton("Agregar")) b->setEnabled(!hallado);
@@ -61,13 +76,12 @@ void Pantalla::abrirHija(QWidget* hija, std::function<void()> alCerrar) {
 }
 
 void Pantalla::ayuda() {
-    auto* v = new VentanaAyuda(this);
-    v->setAttribute(Qt::WA_DeleteOnClose);
-    v->show();
+    abrirAyuda(this, objectName());
 }
 
-void Pantalla::imprimirInforme(const std::vector<std::string>& lineas, const std::string& documento) {
-    ventana::imprimirInforme(base(), lineas, documento);
+void Pantalla::imprimirInforme(const std::vector<std::string>& lineas,
+                               const std::string& documento) {
+    ventana::imprimirInforme(base(), lineas, documento, dialogo());
 }
 
 void Pantalla::alPulsarEnter(QWidget* campo, std::function<bool()> validar) {
@@ -81,7 +95,8 @@ bool Pantalla::eventFilter(QObject* objeto, QEvent* evento) {
     auto* campo = qobject_cast<QWidget*>(objeto);
     if (!campo || campo->window() != this) return false;
     // Un combo editable entrega las teclas a su línea de edición.
-    if (auto* linea = qobject_cast<QLineEdit*>(campo); linea && qobject_cast<QComboBox*>(linea->parent()))
+    if (auto* linea = qobject_cast<QLineEdit*>(campo);
+        linea && qobject_cast<QComboBox*>(linea->parent()))
         campo = static_cast<QWidget*>(linea->parent());
     if (qobject_cast<QAbstractButton*>(campo)) return false;
     if (!qobject_cast<QLineEdit*>(campo) && !qobject_cast<QComboBox*>(campo)) return false;
@@ -90,13 +105,75 @@ bool Pantalla::eventFilter(QObject* objeto, QEvent* evento) {
         intentar("KeyPress", [&] { sigue = it->second(); });
         if (!sigue) return true;
     }
+    // Un número o una fecha que no sirven no dejan pasar al campo siguiente.
+    if (!campoValido(campo)) return true;
     focusNextChild();  // relativo al campo con el foco
     return true;
 }
 
-void Pantalla::advertir(const std::string& texto) { dialogo().avisar(common::TipoAviso::Advertencia, texto); }
+bool Pantalla::camposValidos() {
+    const auto problema = primerCampoConProblema(this);
+    if (!problema) return true;
+    advertir(problema->mensaje);
+    mostrarCampo(problema->campo);
+    return false;
+}
 
-void Pantalla::informar(const std::string& texto) { dialogo().avisar(common::TipoAviso::Informacion, texto); }
+bool Pantalla::campoValido(QWidget* campo) {
+    const auto problema = problemaDe(campo);
+    if (problema.empty()) return true;
+    advertir(problema);
+    mostrarCampo(campo);
+    return false;
+}
+
+QSize Pantalla::tamanoDeseado() const {
+    // El contenido entero, más la barra vertical por si el alto se acota.
+    const int barra = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    return (lienzo_->sizeHint() + QSize(barra, 0)).expandedTo(pedido_);
+}
+
+void Pantalla::showEvent(QShowEvent* evento) {
+    if (!ajustada_) {
+        ajustada_ = true;
+        // F1 de toda pantalla, salvo que tenga la suya (un botón "F1 Ayuda").
+        if (!teclas_.count(Qt::Key_F1)) tecla(QKeySequence(Qt::Key_F1), [this] { ayuda(); });
+        ajustarAlEscritorio();
+    }
+    QWidget::showEvent(evento);
+}
+
+// El tamaño deseado acotado al escritorio (sin la barra de tareas), y la ventana
+// corrida para que el título y los botones queden a la vista.
+void Pantalla::ajustarAlEscritorio() {
+    auto* pantalla = screen();
+    if (!pantalla) return;
+    const QRect zona = pantalla->availableGeometry();
+    // Lo que agrega el gestor de ventanas: la barra del título y los bordes.
+    const QSize marco = isWindow() ? QSize(16, 40) : QSize();
+    resize(tamanoDeseado().boundedTo(zona.size() - marco));
+    if (!isWindow()) return;
+    QRect r = frameGeometry();
+    r.setSize(size() + marco);
+    if (r.right() > zona.right()) r.moveRight(zona.right());
+    if (r.bottom() > zona.bottom()) r.moveBottom(zona.bottom());
+    if (r.left() < zona.left()) r.moveLeft(zona.left());
+    if (r.top() < zona.top()) r.moveTop(zona.top());
+    move(r.topLeft());
+}
+
+void Pantalla::hacerFicha() {
+    setWindowModality(Qt::ApplicationModal);
+    if (!teclas_.count(Qt::Key_Escape)) tecla(QKeySequence(Qt::Key_Escape), [this] { close(); });
+}
+
+void Pantalla::advertir(const std::string& texto) {
+    dialogo().avisar(common::TipoAviso::Advertencia, texto);
+}
+
+void Pantalla::informar(const std::string& texto) {
+    dialogo().avisar(common::TipoAviso::Informacion, texto);
+}
 
 bool Pantalla::confirmar(const std::string& titulo, bool porDefectoSi) {
     return dialogo().confirmar(titulo, "¿Desea continuar?", porDefectoSi);
@@ -111,6 +188,7 @@ void Pantalla::intentar(const char* procedimiento, const std::function<void()>& 
 }
 
 void Pantalla::tecla(const QKeySequence& secuencia, std::function<void()> accion) {
+    teclas_.insert(secuencia[0].toCombined());
     auto* atajo = new QShortcut(secuencia, this);
     atajo->setContext(Qt::WindowShortcut);
     connect(atajo, &QShortcut::activated, this, std::move(accion));

@@ -14,13 +14,11 @@
 #include "common/empaquetados.h"
 #include "frame/carpeta.h"
 #include "frame/ingreso.h"
+#include "frame/ventana/texto_qt.h"
 
 namespace nomira::ventana {
 
 namespace {
-
-QString q(const std::string& s) { return QString::fromStdString(s); }
-std::string s(const QString& q) { return q.trimmed().toStdString(); }
 
 QLineEdit* campoNumero(const char* nombre) {
     auto* e = new QLineEdit;
@@ -30,8 +28,8 @@ QLineEdit* campoNumero(const char* nombre) {
     return e;
 }
 
-const char* const kGrupos[] = {"Configuración", "Empresas", "Personal", "Liquidaciones", "Informes",
-                               "Utilidades"};
+const char* const kGrupos[] = {"Configuración", "Empresas", "Personal",
+                               "Liquidaciones", "Informes", "Utilidades"};
 const char* const kCategorias[] = {"Categoría 1 (administrador)", "Categoría 2 (supervisor)",
                                    "Categoría 3 (operador)"};
 
@@ -122,7 +120,8 @@ QWidget* PantallaConfiguracion::paginaImpresion() {
         imp.impresora->addItems(QPrinterInfo::availablePrinterNames());
         imp.fuente = new QFontComboBox;
         imp.fuente->setObjectName(QString("fuente_") + nombres[i]);
-        imp.fuente->setEditable(true);  // guarda el nombre escrito aunque la fuente no esté en esta PC
+        imp.fuente->setEditable(
+            true);  // guarda el nombre escrito aunque la fuente no esté en esta PC
         imp.tamano = new QSpinBox;
         imp.tamano->setObjectName(QString("tamano_") + nombres[i]);
         imp.tamano->setRange(4, 36);
@@ -134,7 +133,8 @@ QWidget* PantallaConfiguracion::paginaImpresion() {
     todo->addWidget(impresoras);
 
     contitulos_ = GrupoOpciones::siNo("Imp.con títulos?");
-    cantpers_ = new GrupoOpciones("Cant.pers.imp.?", {{"todos", "Todos"}, {"uno", "Uno"}, {"algunos", "Algunos"}});
+    cantpers_ = new GrupoOpciones("Cant.pers.imp.?",
+                                  {{"todos", "Todos"}, {"uno", "Uno"}, {"algunos", "Algunos"}});
     autoguardado_ = GrupoOpciones::siNo("Auto-guardado?");
     copiativo_ = GrupoOpciones::siNo("Con copiativo?");
     imppesos_ = GrupoOpciones::siNo("Imp.pesos?");
@@ -176,32 +176,33 @@ void PantallaConfiguracion::cargar() {
     try {
         auto c = master::leerConfiguracion(*sesion_.base);
         for (int i = 0; i < master::kCantUsuarios; ++i) {
-            usuarios_[i].usu->setText(q(c.usuarios[i].usu));
+            usuarios_[i].usu->setText(aQt(c.usuarios[i].usu));
             usuarios_[i].pas->clear();
             usuarios_[i].pas->setPlaceholderText(c.usuarios[i].pas.empty() ? "" : "(sin cambios)");
-            usuarios_[i].cat->setCurrentText(q(c.usuarios[i].cat));
+            usuarios_[i].cat->setCurrentText(aQt(c.usuarios[i].cat));
         }
         for (int i = 0; i < master::kCantPermisos; ++i) checks_[i]->setChecked(c.checks[i] == "1");
         const std::string* fuentes[] = {&c.tiporec, &c.tipoinf, &c.tipocom};
         const std::string* tamanos[] = {&c.tamrec, &c.taminf, &c.tamcom};
-        const std::string* impresoras[] = {&c.impresorarecibos, &c.impresorainformes, &c.impresoracomanda};
+        const std::string* impresoras[] = {&c.impresorarecibos, &c.impresorainformes,
+                                           &c.impresoracomanda};
         for (int i = 0; i < 3; ++i) {
-            impresion_[i].impresora->setCurrentText(q(*impresoras[i]));
-            impresion_[i].fuente->setCurrentText(q(*fuentes[i]));
+            impresion_[i].impresora->setCurrentText(aQt(*impresoras[i]));
+            impresion_[i].fuente->setCurrentText(aQt(*fuentes[i]));
             impresion_[i].tamano->setValue(QString::fromStdString(*tamanos[i]).toInt());
         }
-        contitulos_->ponerValor(q(c.contitulos));
-        cantpers_->ponerValor(q(c.cantpers));
-        autoguardado_->ponerValor(q(c.tipodepapel));
+        contitulos_->ponerValor(aQt(c.contitulos));
+        cantpers_->ponerValor(aQt(c.cantpers));
+        autoguardado_->ponerValor(aQt(c.tipodepapel));
         const auto copiativo = common::ConCopiativo::leer(c.concopiativo);
-        copiativo_->ponerValor(q(copiativo.copiativo));
-        imppesos_->ponerValor(q(copiativo.imprimePesos));
-        desde_->setText(q(c.desdenrofun));
-        hasta_->setText(q(c.hastanrofun));
-        corte_->setText(q(c.cortehoja));
-        arriba_->setText(q(c.cantlineasarr));
-        izquierda_->setText(q(c.cantespizq));
-        nroempges_->setText(q(c.nroempges));
+        copiativo_->ponerValor(aQt(copiativo.copiativo));
+        imppesos_->ponerValor(aQt(copiativo.imprimePesos));
+        desde_->setText(aQt(c.desdenrofun));
+        hasta_->setText(aQt(c.hastanrofun));
+        corte_->setText(aQt(c.cortehoja));
+        arriba_->setText(aQt(c.cantlineasarr));
+        izquierda_->setText(aQt(c.cantespizq));
+        nroempges_->setText(aQt(c.nroempges));
     } catch (const std::exception& e) {
         common::avisarErrorInesperado(*sesion_.dialogo, e, "Form_Load", "Form13");
     }
@@ -211,7 +212,8 @@ std::optional<master::Configuracion> PantallaConfiguracion::leerPantalla() {
     auto c = master::leerConfiguracion(*sesion_.base);
     for (int i = 0; i < master::kCantUsuarios; ++i) {
         const auto& f = usuarios_[i];
-        const auto usu = s(f.usu->text()), pas = f.pas->text().toStdString(), cat = s(f.cat->currentText());
+        const auto usu = deQt(f.usu->text()), pas = f.pas->text().toStdString(),
+                   cat = deQt(f.cat->currentText());
         auto& u = c.usuarios[i];
         if (usu.empty()) {
             u = {};
@@ -228,25 +230,27 @@ std::optional<master::Configuracion> PantallaConfiguracion::leerPantalla() {
         else
             frame::ponerUsuario(c, i + 1, usu, pas, cat);
     }
-    for (int i = 0; i < master::kCantPermisos; ++i) c.checks[i] = checks_[i]->isChecked() ? "1" : "0";
+    for (int i = 0; i < master::kCantPermisos; ++i)
+        c.checks[i] = checks_[i]->isChecked() ? "1" : "0";
     std::string* impresoras[] = {&c.impresorarecibos, &c.impresorainformes, &c.impresoracomanda};
     std::string* fuentes[] = {&c.tiporec, &c.tipoinf, &c.tipocom};
     std::string* tamanos[] = {&c.tamrec, &c.taminf, &c.tamcom};
     for (int i = 0; i < 3; ++i) {
-        *impresoras[i] = s(impresion_[i].impresora->currentText());
-        *fuentes[i] = s(impresion_[i].fuente->currentText());
+        *impresoras[i] = deQt(impresion_[i].impresora->currentText());
+        *fuentes[i] = deQt(impresion_[i].fuente->currentText());
         *tamanos[i] = std::to_string(impresion_[i].tamano->value());
     }
-    c.contitulos = s(contitulos_->valor());
-    c.cantpers = s(cantpers_->valor());
-    c.tipodepapel = s(autoguardado_->valor());
-    c.concopiativo = common::ConCopiativo{s(copiativo_->valor()), s(imppesos_->valor())}.texto();
-    c.desdenrofun = s(desde_->text());
-    c.hastanrofun = s(hasta_->text());
-    c.cortehoja = s(corte_->text());
-    c.cantlineasarr = s(arriba_->text());
-    c.cantespizq = s(izquierda_->text());
-    c.nroempges = s(nroempges_->text());
+    c.contitulos = deQt(contitulos_->valor());
+    c.cantpers = deQt(cantpers_->valor());
+    c.tipodepapel = deQt(autoguardado_->valor());
+    c.concopiativo =
+        common::ConCopiativo{deQt(copiativo_->valor()), deQt(imppesos_->valor())}.texto();
+    c.desdenrofun = deQt(desde_->text());
+    c.hastanrofun = deQt(hasta_->text());
+    c.cortehoja = deQt(corte_->text());
+    c.cantlineasarr = deQt(arriba_->text());
+    c.cantespizq = deQt(izquierda_->text());
+    c.nroempges = deQt(nroempges_->text());
     return c;
 }
 

@@ -2,9 +2,11 @@
 
 #include <QFormLayout>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "frame/ingreso.h"
+#include "frame/ventana/ventana_ayuda.h"
 
 namespace nomira::ventana {
 
@@ -38,6 +40,8 @@ PantallaIngreso::PantallaIngreso(frame::Sesion& sesion, QWidget* padre)
     connect(password_, &QLineEdit::returnPressed, this, &PantallaIngreso::enterEnPassword);
     connect(entrar, &QPushButton::clicked, this, &PantallaIngreso::enterEnPassword);
     connect(cancelar, &QPushButton::clicked, this, &QDialog::reject);
+    auto* f1 = new QShortcut(QKeySequence(Qt::Key_F1), this);
+    connect(f1, &QShortcut::activated, this, [this] { abrirAyuda(this, objectName()); });
 }
 
 void PantallaIngreso::enterEnUsuario() {
@@ -68,7 +72,8 @@ void PantallaIngreso::buscar() {
             password_->setFocus();
             return;
         }
-        sesion_.dialogo->avisar(TipoAviso::Informacion, "Mensaje de advertencia", frame::kIngresoCorrecto);
+        sesion_.dialogo->avisar(TipoAviso::Informacion, "Mensaje de advertencia",
+                                frame::kIngresoCorrecto);
         sesion_.categoria = *categoria;
         emit ingreso(*categoria);
         accept();

@@ -3,6 +3,7 @@
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "frame/ingreso.h"
@@ -10,7 +11,10 @@
 namespace nomira::ventana {
 
 DialogoPrimerUsuario::DialogoPrimerUsuario(common::Dialogo& dialogo, QWidget* padre)
-    : QDialog(padre), dialogo_(dialogo), usuario_(new QLineEdit), password_(new QLineEdit),
+    : QDialog(padre),
+      dialogo_(dialogo),
+      usuario_(new QLineEdit),
+      password_(new QLineEdit),
       repetido_(new QLineEdit) {
     setObjectName("PrimerUsuario");
     setWindowTitle("Primer administrador");
@@ -21,7 +25,8 @@ DialogoPrimerUsuario::DialogoPrimerUsuario(common::Dialogo& dialogo, QWidget* pa
     repetido_->setEchoMode(QLineEdit::Password);
     auto* aviso = new QLabel(
         "Se creó una base de datos nueva. Indique el usuario administrador (categoría 1).\n"
-        "Para poder ingresar, escriba el usuario y el password todo en mayúsculas o todo en minúsculas.");
+        "Para poder ingresar, escriba el usuario y el password todo en mayúsculas o todo en "
+        "minúsculas.");
     aviso->setWordWrap(true);
     auto* campos = new QFormLayout;
     campos->addRow("USUARIO", usuario_);
@@ -33,6 +38,11 @@ DialogoPrimerUsuario::DialogoPrimerUsuario(common::Dialogo& dialogo, QWidget* pa
     todo->addLayout(campos);
     todo->addWidget(botones);
     connect(botones, &QDialogButtonBox::accepted, this, &DialogoPrimerUsuario::aceptar);
+    // Enter pasa al campo siguiente, y en el último acepta.
+    botones->button(QDialogButtonBox::Ok)->setAutoDefault(false);
+    connect(usuario_, &QLineEdit::returnPressed, password_, [this] { password_->setFocus(); });
+    connect(password_, &QLineEdit::returnPressed, repetido_, [this] { repetido_->setFocus(); });
+    connect(repetido_, &QLineEdit::returnPressed, this, &DialogoPrimerUsuario::aceptar);
 }
 
 void DialogoPrimerUsuario::aceptar() {

@@ -11,6 +11,7 @@
 #include "frame/reparacion.h"
 #include "frame/ventana/pantalla_ingreso.h"
 #include "frame/ventana/registro_pantallas.h"
+#include "frame/ventana/texto_qt.h"
 #include "frame/ventana/ventana_ayuda.h"
 
 namespace nomira::ventana {
@@ -18,9 +19,10 @@ namespace nomira::ventana {
 using frame::Accion;
 
 namespace {
-QString q(const std::string& s) { return QString::fromStdString(s); }
 // Estos menús se usan antes de ingresar; los demás esperan al ingreso.
-bool menuSiempreAbierto(const std::string& m) { return m == "Entrar" || m == "Ayuda" || m == "Salir"; }
+bool menuSiempreAbierto(const std::string& m) {
+    return m == "Entrar" || m == "Ayuda" || m == "Salir";
+}
 }  // namespace
 
 VentanaPrincipal::VentanaPrincipal(frame::Sesion& sesion) : sesion_(sesion) {
@@ -35,21 +37,21 @@ VentanaPrincipal::VentanaPrincipal(frame::Sesion& sesion) : sesion_(sesion) {
 
 void VentanaPrincipal::construirMenu() {
     for (const auto& m : frame::menusPrincipales()) {
-        auto* menu = menuBar()->addMenu(q(m.titulo));
-        menu->setObjectName(q(m.nombre));
+        auto* menu = menuBar()->addMenu(aQt(m.titulo));
+        menu->setObjectName(aQt(m.nombre));
         menus_[m.nombre] = menu;
     }
     const auto& registro = registroPantallas();
     for (const auto& e : frame::arbolMenu()) {
         QMenu* dentro = menus_.at(e.padre.empty() ? e.menu : e.padre);
         if (e.accion == Accion::Submenu) {
-            auto* sub = dentro->addMenu(q(e.titulo));
-            sub->setObjectName(q(e.nombre));
+            auto* sub = dentro->addMenu(aQt(e.titulo));
+            sub->setObjectName(aQt(e.nombre));
             menus_[e.nombre] = sub;
             continue;
         }
-        auto* a = dentro->addAction(q(e.titulo));
-        a->setObjectName(q(e.nombre));
+        auto* a = dentro->addAction(aQt(e.titulo));
+        a->setObjectName(aQt(e.nombre));
         // Las pantallas que todavía no existen se ven, pero no se pueden elegir.
         a->setEnabled(e.accion != Accion::Pantalla || registro.count(e.pantalla));
         connect(a, &QAction::triggered, this, [this, n = e.nombre] { ejecutar(n); });
@@ -63,8 +65,8 @@ void VentanaPrincipal::construirBarra() {
     barra->setMovable(false);
     barra->setToolButtonStyle(Qt::ToolButtonTextOnly);
     for (const auto& t : frame::teclasBarra()) {
-        auto* a = barra->addAction(q(t.clave));
-        a->setObjectName(q("tecla_" + t.entrada));
+        auto* a = barra->addAction(aQt(t.clave));
+        a->setObjectName(aQt("tecla_" + t.entrada));
         a->setEnabled(acciones_.at(t.entrada)->isEnabled());
         connect(a, &QAction::triggered, this, [this, n = t.entrada] { ejecutar(n); });
     }
@@ -78,9 +80,12 @@ void VentanaPrincipal::construirAtajos() {
     atajo(QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_Return), "Entraralprograma");
     atajo(QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_Enter), "Entraralprograma");
     const std::pair<Qt::Key, const char*> letras[] = {
-        {Qt::Key_C, "FBasicasConfiguracion"}, {Qt::Key_E, "FBasicasEmpresas"},
-        {Qt::Key_P, "FBasicasPersonal"},      {Qt::Key_H, "HaberesyDescuentos"},
-        {Qt::Key_L, "HistoriaLaboralBPS"},    {Qt::Key_R, "RepararBase"},
+        {Qt::Key_C, "FBasicasConfiguracion"},
+        {Qt::Key_E, "FBasicasEmpresas"},
+        {Qt::Key_P, "FBasicasPersonal"},
+        {Qt::Key_H, "HaberesyDescuentos"},
+        {Qt::Key_L, "HistoriaLaboralBPS"},
+        {Qt::Key_R, "RepararBase"},
         {Qt::Key_A, "Contenido"},
     };
     for (auto [tecla, entrada] : letras) {
@@ -95,7 +100,9 @@ void VentanaPrincipal::abrirMenus(bool abiertos) {
         menus_.at(m.nombre)->menuAction()->setEnabled(abiertos || menuSiempreAbierto(m.nombre));
 }
 
-void VentanaPrincipal::ingresoCorrecto() { abrirMenus(true); }
+void VentanaPrincipal::ingresoCorrecto() {
+    abrirMenus(true);
+}
 
 QAction* VentanaPrincipal::accion(const std::string& entrada) const {
     auto it = acciones_.find(entrada);
@@ -117,16 +124,23 @@ void VentanaPrincipal::ejecutar(const std::string& nombre) {
         // se leen de la base en cada clic, en silencio si no alcanzan.
         if (!libre && (!sesion_.ingresado() || !sesion_.puede(e->grupo))) return;
         switch (e->accion) {
-            case Accion::Pantalla: abrirPantalla(e->pantalla); break;
-            case Accion::Ayuda: mostrarAyuda(); break;
-            case Accion::Salir: close(); break;
+            case Accion::Pantalla:
+                abrirPantalla(e->pantalla);
+                break;
+            case Accion::Ayuda:
+                mostrarAyuda();
+                break;
+            case Accion::Salir:
+                close();
+                break;
             case Accion::Reparar:
                 if (frame::RepararBase(*sesion_.dialogo, sesion_.base)) terminar();
                 break;
             case Accion::Compactar:
                 if (frame::CompactarBase(*sesion_.dialogo, sesion_.base)) terminar();
                 break;
-            case Accion::Submenu: break;
+            case Accion::Submenu:
+                break;
         }
     } catch (const std::exception& ex) {
         common::avisarErrorInesperado(*sesion_.dialogo, ex, nombre + "_Click", "Form1");
@@ -168,7 +182,8 @@ void VentanaPrincipal::terminar() {
 }
 
 void VentanaPrincipal::closeEvent(QCloseEvent* e) {
-    if (terminando_ || sesion_.dialogo->confirmar("Salir del programa", "¿Desea salir del programa?")) {
+    if (terminando_ ||
+        sesion_.dialogo->confirmar("Salir del programa", "¿Desea salir del programa?")) {
         terminando_ = true;
         e->accept();
     } else {

@@ -187,12 +187,4 @@ const ConfiguracionCatalogo* configuracionCatalogo(const std::string& formulario
     return nullptr;
 }
 
-void registrarPantallasCatalogos() {
-    auto& r = ventana::registroPantallas();
-    for (const auto& c : catalogosDelSistema())
-        r[c.formulario] = [&c](frame::Sesion& s, QWidget* p) -> QWidget* {
-            return new PantallaCatalogo(s, c, p);
-        };
-}
-
 }  // namespace nomira::pantallas

@@ -10,7 +10,4 @@ const std::vector<ConfiguracionCatalogo>& catalogosDelSistema();
 // La configuración de un formulario ("Form390"); nullptr si no es un catálogo.
 const ConfiguracionCatalogo* configuracionCatalogo(const std::string& formulario);
 
-// Registra las veinte pantallas por su número de formulario.
-void registrarPantallasCatalogos();
-
 }  // namespace nomira::pantallas

@@ -8,11 +8,15 @@
 #include <QVBoxLayout>
 
 #include "common/texto.h"
+#include "frame/ventana/piezas.h"
 #include "master/catalogos.h"
-#include "screens/empresas/piezas.h"
 #include "store/esquema.h"
 
 namespace nomira::pantallas {
+
+using ventana::aQt;
+using ventana::botonConTecla;
+using ventana::deQt;
 
 PantallaCatalogo::PantallaCatalogo(frame::Sesion& sesion,
                                    const ConfiguracionCatalogo& configuracion, QWidget* padre)
@@ -24,7 +28,7 @@ PantallaCatalogo::PantallaCatalogo(frame::Sesion& sesion,
         if (foco && qobject_cast<QComboBox*>(foco->parentWidget())) foco = foco->parentWidget();
         llamador_ = qobject_cast<QComboBox*>(foco);
     }
-    auto* todo = new QVBoxLayout(this);
+    auto* todo = new QVBoxLayout(lienzo());
     campos_.resize(configuracion_.listas.size());
     for (int i = 0; i < static_cast<int>(configuracion_.listas.size()); ++i)
         todo->addWidget(armarLista(i));

@@ -4,21 +4,28 @@
 #include <QGridLayout>
 #include <QVBoxLayout>
 
+#include "engine/formulas/validar_formula.h"
+#include "frame/ventana/piezas.h"
+#include "frame/ventana/texto_qt.h"
+
 namespace nomira::pantallas {
+
+using ventana::aQt;
+using ventana::deQt;
 
 namespace {
 
 const char* titulo(ModoConcepto modo) {
     switch (modo) {
-        case ModoConcepto::Agregar: return "Agregar Concepto y Fórmula";
-        case ModoConcepto::Modificar: return "Modificar Concepto y Fórmula";
-        case ModoConcepto::Eliminar: return "Eliminar Concepto y Fórmula";
+        case ModoConcepto::Agregar:
+            return "Agregar Concepto y Fórmula";
+        case ModoConcepto::Modificar:
+            return "Modificar Concepto y Fórmula";
+        case ModoConcepto::Eliminar:
+            return "Eliminar Concepto y Fórmula";
     }
     return "";
 }
-
-QString q(const std::string& s) { return QString::fromStdString(s); }
-std::string s(const QLineEdit* c) { return c->text().trimmed().toStdString(); }
 
 }  // namespace
 
@@ -35,10 +42,14 @@ PantallaConcepto::PantallaConcepto(frame::Sesion& sesion, long numero, ModoConce
     aguinaldo = GrupoOpciones::siNo("Aguinaldo");
     lic = GrupoOpciones::siNo("Lic/Ipd.");
     ipd = GrupoOpciones::siNo("Irpf.");
-    const std::pair<GrupoOpciones*, const char*> marcos[] = {
-        {especificode, "especificode"}, {tipo, "tipo"},       {unidad, "unidad"},
-        {permanente, "permanente"},     {gravado, "gravado"}, {aguinaldo, "aguinaldo"},
-        {lic, "lic"},                   {ipd, "ipd"}};
+    const std::pair<GrupoOpciones*, const char*> marcos[] = {{especificode, "especificode"},
+                                                             {tipo, "tipo"},
+                                                             {unidad, "unidad"},
+                                                             {permanente, "permanente"},
+                                                             {gravado, "gravado"},
+                                                             {aguinaldo, "aguinaldo"},
+                                                             {lic, "lic"},
+                                                             {ipd, "ipd"}};
     for (const auto& [m, nombre] : marcos) m->setObjectName(nombre);
     codigo->setObjectName("codigo");
     concepto->setObjectName("concepto");
@@ -60,14 +71,18 @@ PantallaConcepto::PantallaConcepto(frame::Sesion& sesion, long numero, ModoConce
     opciones->addWidget(aguinaldo, 1, 1);
     opciones->addWidget(lic, 1, 2);
     opciones->addWidget(ipd, 1, 3);
-    auto* todo = new QVBoxLayout(this);
+    auto* todo = new QVBoxLayout(lienzo());
     todo->addLayout(campos);
     todo->addLayout(opciones);
-    todo->addLayout(botonera({{Qt::Key_F5, "F5 Agregar", [this] { Agregar_Click(); }},
+    auto* botones = botonera({{Qt::Key_F5, "F5 Agregar", [this] { Agregar_Click(); }},
                               {Qt::Key_F6, "F6 Modificar", [this] { Modificar_Click(); }},
-                              {Qt::Key_F7, "F7 Eliminar", [this] { Eliminar_Click(); }}}));
+                              {Qt::Key_F7, "F7 Eliminar", [this] { Eliminar_Click(); }}});
+    auto* salir = ventana::botonConTecla("Salir");
+    connect(salir, &QPushButton::clicked, this, &QWidget::close);
+    botones->addWidget(salir);
+    todo->addLayout(botones);
     todo->addStretch();
-    resize(760, 280);
+    pedirTamano(760, 280);
 
     boton("Agregar")->setEnabled(modo == ModoConcepto::Agregar);
     boton("Modificar")->setEnabled(modo == ModoConcepto::Modificar);
@@ -76,30 +91,54 @@ PantallaConcepto::PantallaConcepto(frame::Sesion& sesion, long numero, ModoConce
         intentar("Form_Load", [this, numero] {
             if (const auto c = master::leerConcepto(base(), numero)) cargar(*c);
         });
+    // Un concepto nuevo no es permanente salvo que se lo pida: casi ninguno lo es.
+    if (modo == ModoConcepto::Agregar) permanente->ponerValor("No");
+    hacerFicha();
     concepto->setFocus();
 }
 
+bool PantallaConcepto::formulaEvaluable() {
+    const auto r = engine::revisarFormula(deQt(formula));
+    if (r.valida) return true;
+    advertir("La fórmula no se puede evaluar: " + r.mensaje + ", en el carácter " +
+             std::to_string(r.posicion) + ".");
+    formula->setFocus();
+    formula->setCursorPosition(static_cast<int>(r.posicion) - 1);
+    return false;
+}
+
 master::Concepto PantallaConcepto::leido() const {
-    return {s(codigo),          s(concepto),          especificode->valor().toStdString(),
-            s(formula),         tipo->valor().toStdString(), unidad->valor().toStdString(),
-            permanente->valor().toStdString(), gravado->valor().toStdString(),
-            aguinaldo->valor().toStdString(),  lic->valor().toStdString(),
+    return {deQt(codigo),
+            deQt(concepto),
+            especificode->valor().toStdString(),
+            deQt(formula),
+            tipo->valor().toStdString(),
+            unidad->valor().toStdString(),
+            permanente->valor().toStdString(),
+            gravado->valor().toStdString(),
+            aguinaldo->valor().toStdString(),
+            lic->valor().toStdString(),
             ipd->valor().toStdString()};
 }
 
 void PantallaConcepto::cargar(const master::Concepto& c) {
-    concepto->setText(q(c.concepto));
-    formula->setText(q(c.formula));
+    concepto->setText(aQt(c.concepto));
+    formula->setText(aQt(c.formula));
     const std::pair<ventana::GrupoOpciones*, const std::string*> valores[] = {
-        {especificode, &c.especificode}, {tipo, &c.tipo},       {unidad, &c.unidad},
-        {permanente, &c.permanente},     {gravado, &c.gravado}, {aguinaldo, &c.aguinaldo},
-        {lic, &c.lic},                   {ipd, &c.ipd}};
-    for (const auto& [marco, valor] : valores) marco->ponerValor(q(*valor));
+        {especificode, &c.especificode},
+        {tipo, &c.tipo},
+        {unidad, &c.unidad},
+        {permanente, &c.permanente},
+        {gravado, &c.gravado},
+        {aguinaldo, &c.aguinaldo},
+        {lic, &c.lic},
+        {ipd, &c.ipd}};
+    for (const auto& [marco, valor] : valores) marco->ponerValor(aQt(*valor));
 }
 
 void PantallaConcepto::Agregar_Click() {
     intentar("Agregar_Click", [this] {
-        if (!confirmar("Agregar Concepto")) return;
+        if (!formulaEvaluable() || !confirmar("Agregar Concepto")) return;
         auto c = leido();
         if (const auto rechazo = master::prepararConcepto(c)) return advertir(*rechazo);
         master::agregarConcepto(base(), c);
@@ -109,7 +148,7 @@ void PantallaConcepto::Agregar_Click() {
 
 void PantallaConcepto::Modificar_Click() {
     intentar("Modificar_Click", [this] {
-        if (!confirmar("Modificar Concepto")) return;
+        if (!formulaEvaluable() || !confirmar("Modificar Concepto")) return;
         auto c = leido();
         if (const auto rechazo = master::prepararConcepto(c)) return advertir(*rechazo);
         master::modificarConcepto(base(), c);
@@ -119,8 +158,8 @@ void PantallaConcepto::Modificar_Click() {
 
 void PantallaConcepto::Eliminar_Click() {
     intentar("Eliminar_Click", [this] {
-        if (!confirmar("Eliminar Concepto")) return;
-        master::eliminarConcepto(base(), std::stol(s(codigo)));
+        if (!confirmar("Eliminar Concepto", false)) return;
+        master::eliminarConcepto(base(), std::stol(deQt(codigo)));
         close();
     });
 }

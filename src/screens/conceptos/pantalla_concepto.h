@@ -4,8 +4,8 @@
 #include <QLineEdit>
 
 #include "frame/ventana/grupo_opciones.h"
-#include "master/conceptos.h"
 #include "frame/ventana/pantalla.h"
+#include "master/conceptos.h"
 
 namespace nomira::pantallas {
 
@@ -13,7 +13,7 @@ enum class ModoConcepto { Agregar, Modificar, Eliminar };
 
 class PantallaConcepto : public ventana::Pantalla {
     Q_OBJECT
-public:
+  public:
     PantallaConcepto(frame::Sesion& sesion, long codigo, ModoConcepto modo,
                      QWidget* padre = nullptr);
 
@@ -29,9 +29,11 @@ public:
     ventana::GrupoOpciones* lic;
     ventana::GrupoOpciones* ipd;
 
-private:
+  private:
     master::Concepto leido() const;
     void cargar(const master::Concepto& c);
+    // La fórmula se puede evaluar; si no, avisa con el mensaje y el lugar del error.
+    bool formulaEvaluable();
     void Agregar_Click();
     void Modificar_Click();
     void Eliminar_Click();

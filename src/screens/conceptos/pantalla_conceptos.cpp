@@ -7,15 +7,12 @@
 
 #include "common/numeros.h"
 #include "frame/carpeta.h"
+#include "frame/ventana/texto_qt.h"
 #include "screens/conceptos/pantalla_concepto.h"
 
 namespace nomira::pantallas {
 
-namespace {
-
-std::string s(const QLineEdit* c) { return c->text().trimmed().toStdString(); }
-
-}  // namespace
+using ventana::deQt;
 
 PantallaConceptos::PantallaConceptos(frame::Sesion& sesion, QWidget* padre)
     : Pantalla(sesion, "Form4", "Conceptos y Fórmulas", padre) {
@@ -25,8 +22,10 @@ PantallaConceptos::PantallaConceptos(frame::Sesion& sesion, QWidget* padre)
     criterio->setObjectName("criterio");
     for (const auto& c : master::criteriosBusquedaConceptos()) criterio->addItem(c.etiqueta);
     grilla->setObjectName("grilla");
-    connect(grilla, &QAbstractItemView::doubleClicked, this,
+    // Un clic trae el código; doble clic o Enter abre su ficha para modificarla.
+    connect(grilla, &QAbstractItemView::clicked, this,
             [this] { textoCodigo->setText(QString::fromStdString(grilla->elegida(0))); });
+    connect(grilla, &ventana::Grilla::abrir, this, [this] { abrirConcepto(1); });
 
     auto* campos = new QFormLayout;
     campos->addRow("Código", textoCodigo);
@@ -34,7 +33,7 @@ PantallaConceptos::PantallaConceptos(frame::Sesion& sesion, QWidget* padre)
     busca->addWidget(criterio);
     busca->addWidget(buscarPor, 1);
     campos->addRow("Buscar por", busca);
-    auto* todo = new QVBoxLayout(this);
+    auto* todo = new QVBoxLayout(lienzo());
     todo->addLayout(campos);
     todo->addLayout(botonera({{Qt::Key_F1, "F1 Ayuda", [this] { ayuda(); }},
                               {Qt::Key_F2, "F2 Buscar", [this] { Buscar_Click(); }},
@@ -45,11 +44,11 @@ PantallaConceptos::PantallaConceptos(frame::Sesion& sesion, QWidget* padre)
                               {Qt::Key_F8, "F8 Imprimir", [this] { Imprimir_Click(); }},
                               {Qt::Key_F9, "F9 Copiar", [this] { GuardarOficial(); }}}));
     todo->addWidget(grilla, 1);
-    resize(980, 560);
+    pedirTamano(980, 560);
 
     // Enter en el código muestra ese concepto.
     alPulsarEnter(textoCodigo, [this] {
-        if (s(textoCodigo).empty()) {
+        if (deQt(textoCodigo).empty()) {
             advertir("Debe completar el campo Código.");
             return false;
         }
@@ -68,14 +67,14 @@ PantallaConceptos::PantallaConceptos(frame::Sesion& sesion, QWidget* padre)
 }
 
 long PantallaConceptos::codigo() const {
-    return static_cast<long>(common::textoANumero(s(textoCodigo)));
+    return static_cast<long>(common::textoANumero(deQt(textoCodigo)));
 }
 
 void PantallaConceptos::Buscar_Click() {
     intentar("Buscar_Click", [this] {
-        if (s(buscarPor).empty()) return advertir("Debe completar el campo Buscar por.");
+        if (deQt(buscarPor).empty()) return advertir("Debe completar el campo Buscar por.");
         const auto& c = master::criteriosBusquedaConceptos().at(criterio->currentIndex());
-        Desplegar(master::buscarConceptos(base(), c.columna, s(buscarPor)));
+        Desplegar(master::buscarConceptos(base(), c.columna, deQt(buscarPor)));
     });
 }
 
@@ -97,7 +96,7 @@ void PantallaConceptos::Desplegar(const std::vector<master::Concepto>& conceptos
 void PantallaConceptos::abrirConcepto(int modo) {
     const char* procedimientos[] = {"Agregar_Click", "Modificar_Click", "Eliminar_Click"};
     intentar(procedimientos[modo], [this, modo] {
-        if (s(textoCodigo).empty()) return advertir("Debe completar el campo Código.");
+        if (deQt(textoCodigo).empty()) return advertir("Debe completar el campo Código.");
         abrirHija(new PantallaConcepto(sesion_, codigo(), static_cast<ModoConcepto>(modo), this),
                   [this] { Consultar_Click(); });
     });

@@ -4,18 +4,14 @@
 #include <QVBoxLayout>
 
 #include "common/numeros.h"
+#include "frame/ventana/texto_qt.h"
 #include "master/conceptos.h"
 #include "master/empresas.h"
 #include "master/personal.h"
 
 namespace nomira::pantallas {
 
-namespace {
-
-std::string s(const QComboBox* c) { return c->currentText().trimmed().toStdString(); }
-std::string s(const QLineEdit* c) { return c->text().trimmed().toStdString(); }
-
-}  // namespace
+using ventana::deQt;
 
 PantallaConceptosPersona::PantallaConceptosPersona(frame::Sesion& sesion, QWidget* padre)
     : Pantalla(sesion, "Form40", "Conceptos Permanentes x Personal", padre) {
@@ -37,7 +33,7 @@ PantallaConceptosPersona::PantallaConceptosPersona(frame::Sesion& sesion, QWidge
     filaCodigo->addWidget(codigo);
     filaCodigo->addWidget(concepto, 1);
     campos->addRow("Código", filaCodigo);
-    auto* todo = new QVBoxLayout(this);
+    auto* todo = new QVBoxLayout(lienzo());
     todo->addLayout(campos);
     todo->addLayout(botonera({{Qt::Key_F1, "F1 Ayuda", [this] { ayuda(); }},
                               {Qt::Key_F2, "F2 Buscar", [this] { Buscar_Click(); }},
@@ -45,11 +41,12 @@ PantallaConceptosPersona::PantallaConceptosPersona(frame::Sesion& sesion, QWidge
                               {Qt::Key_F5, "F5 Agregar", [this] { Agregar_Click(); }},
                               {Qt::Key_F7, "F7 Eliminar", [this] { Eliminar_Click(); }}}));
     todo->addWidget(grilla, 1);
-    resize(640, 460);
+    pedirTamano(640, 460);
 
     empresa->addItem("");
     intentar("Form_Load", [this] {
-        for (const auto& e : master::nombresDeEmpresas(base())) empresa->addItem(QString::fromStdString(e));
+        for (const auto& e : master::nombresDeEmpresas(base()))
+            empresa->addItem(QString::fromStdString(e));
     });
     alPulsarEnter(empresa, [this] {
         CargarNombredelPersonal();
@@ -72,7 +69,7 @@ void PantallaConceptosPersona::CargarNombredelPersonal() {
         const auto escrito = nombre->currentText();
         nombre->clear();
         nombre->addItem("");
-        for (const auto& n : master::nombresDelPersonal(base(), s(empresa)))
+        for (const auto& n : master::nombresDelPersonal(base(), deQt(empresa)))
             nombre->addItem(QString::fromStdString(n));
         nombre->setCurrentText(escrito);
     });
@@ -80,26 +77,27 @@ void PantallaConceptosPersona::CargarNombredelPersonal() {
 
 void PantallaConceptosPersona::Buscar_Click() {
     intentar("Buscar_Click", [this] {
-        if (s(empresa).empty() || s(nombre).empty() || s(codigo).empty())
+        if (deQt(empresa).empty() || deQt(nombre).empty() || deQt(codigo).empty())
             return advertir("Debe completar los campos Empresa, Nombre del Personal y Código.");
-        if (!master::leerEmpresa(base(), s(empresa)))
+        if (!master::leerEmpresa(base(), deQt(empresa)))
             return advertir("No existe la Empresa, deberá 1ero ingresarla en la ventana Empresas.");
-        if (!master::leerPersona(base(), s(empresa), s(nombre)))
+        if (!master::leerPersona(base(), deQt(empresa), deQt(nombre)))
             return advertir(
                 "El Nombre del Personal no existe en esta Empresa, deberá 1ero ingresarlo en la "
                 "ventana Personal.");
-        const long n = static_cast<long>(common::textoANumero(s(codigo)));
+        const long n = static_cast<long>(common::textoANumero(deQt(codigo)));
         const auto c = master::leerConcepto(base(), n);
         if (!c) return advertir(master::kCodigoInexistente);
         concepto->setText(QString::fromStdString(c->concepto));
-        habilitarSegunHallado(master::existeConceptoPersona(base(), s(empresa), s(nombre), n));
+        habilitarSegunHallado(
+            master::existeConceptoPersona(base(), deQt(empresa), deQt(nombre), n));
     });
 }
 
 void PantallaConceptosPersona::Consultar_Click() {
     intentar("Consultar_Click", [this] {
         std::vector<std::vector<std::string>> filas;
-        for (const auto& c : master::listarConceptosPersona(base(), s(empresa), s(nombre)))
+        for (const auto& c : master::listarConceptosPersona(base(), deQt(empresa), deQt(nombre)))
             filas.push_back({c.codigo, c.concepto, c.tipo});
         grilla->mostrar({"Código", "Concepto", "Tipo"}, filas, {0});
     });
@@ -107,8 +105,9 @@ void PantallaConceptosPersona::Consultar_Click() {
 
 void PantallaConceptosPersona::Agregar_Click() {
     intentar("Agregar_Click", [this] {
-        const long n = static_cast<long>(common::textoANumero(s(codigo)));
-        if (const auto rechazo = master::agregarConceptoPersona(base(), s(empresa), s(nombre), n))
+        const long n = static_cast<long>(common::textoANumero(deQt(codigo)));
+        if (const auto rechazo =
+                master::agregarConceptoPersona(base(), deQt(empresa), deQt(nombre), n))
             return advertir(*rechazo);
         Consultar_Click();
         limpiar();
@@ -118,8 +117,8 @@ void PantallaConceptosPersona::Agregar_Click() {
 void PantallaConceptosPersona::Eliminar_Click() {
     intentar("Eliminar_Click", [this] {
         if (!confirmar("Eliminar registro")) return;
-        master::eliminarConceptoPersona(base(), s(empresa), s(nombre),
-                                        static_cast<long>(common::textoANumero(s(codigo))));
+        master::eliminarConceptoPersona(base(), deQt(empresa), deQt(nombre),
+                                        static_cast<long>(common::textoANumero(deQt(codigo))));
         Consultar_Click();
         limpiar();
     });

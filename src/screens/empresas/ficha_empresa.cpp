@@ -6,11 +6,16 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "frame/ventana/campo_numero.h"
+#include "frame/ventana/piezas.h"
 #include "master/catalogos.h"
 #include "master/informe_empresas.h"
-#include "screens/empresas/piezas.h"
 
 namespace nomira::pantallas {
+
+using ventana::aQt;
+using ventana::botonConTecla;
+using ventana::deQt;
 
 namespace {
 
@@ -66,6 +71,12 @@ void FichaEmpresa::armar() {
         campos_[columna] = e;
         return e;
     };
+    auto entero = [this](const char* columna) {
+        auto* e = new ventana::CampoNumero(ventana::ClaseNumero::Entero);
+        e->setMinimumWidth(200);
+        campos_[columna] = e;
+        return e;
+    };
     auto fecha = [this](const char* columna) {
         auto* f = new ventana::CampoFecha;
         campos_[columna] = f;
@@ -86,7 +97,7 @@ void FichaEmpresa::armar() {
     // Los campos se crean en el orden del registro: así avanza Enter.
     auto [datos, d] = grupo("Empresa");
     d->addRow("Empresa", texto("empresa"));
-    d->addRow("NroEmp", texto("nroemp"));
+    d->addRow("NroEmp", entero("nroemp"));
     d->addRow("Dirección", texto("direccion"));
     d->addRow("Teléfono", texto("telefono"));
     d->addRow("Fax", texto("fax"));
@@ -182,9 +193,10 @@ void FichaEmpresa::armar() {
     grilla->setColumnStretch(0, 1);
     grilla->setColumnStretch(1, 1);
     grilla->setColumnStretch(2, 1);
-    auto* todo = new QVBoxLayout(this);
+    auto* todo = new QVBoxLayout(lienzo());
     todo->addLayout(grilla);
     todo->addLayout(botones);
+    hacerFicha();
 }
 
 QWidget* FichaEmpresa::campo(const std::string& columna) const {
@@ -264,7 +276,7 @@ void FichaEmpresa::agregar() {
     intentar("Agregar_Click", [this] {
         const auto e = leerCampos();
         if (e.empresa.empty()) return advertir("Debe completar el campo Empresa.");
-        if (!fechasValidas() || !confirmar("Agregar Empresa")) return;
+        if (!fechasValidas() || !camposValidos() || !confirmar("Agregar Empresa")) return;
         master::agregarEmpresa(base(), e);
         cargar(e, true, true);
         emit guardada();
@@ -273,7 +285,7 @@ void FichaEmpresa::agregar() {
 
 void FichaEmpresa::modificar() {
     intentar("Modificar_Click", [this] {
-        if (!fechasValidas() || !confirmar("Modificar Empresa")) return;
+        if (!fechasValidas() || !camposValidos() || !confirmar("Modificar Empresa")) return;
         master::modificarEmpresa(base(), leerCampos());
         emit guardada();
     });
@@ -289,9 +301,8 @@ void FichaEmpresa::eliminar() {
 }
 
 void FichaEmpresa::imprimir() {
-    intentar("Imprimir_Click", [this] {
-        imprimirInforme(master::lineasFichaEmpresa(leerCampos()), "empresa");
-    });
+    intentar("Imprimir_Click",
+             [this] { imprimirInforme(master::lineasFichaEmpresa(leerCampos()), "empresa"); });
 }
 
 }  // namespace nomira::pantallas

@@ -9,11 +9,15 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "frame/ventana/piezas.h"
 #include "master/informe_empresas.h"
 #include "screens/empresas/ficha_empresa.h"
-#include "screens/empresas/piezas.h"
 
 namespace nomira::pantallas {
+
+using ventana::accionConTecla;
+using ventana::deQt;
+using ventana::llevarListado;
 
 PantallaEmpresas::PantallaEmpresas(frame::Sesion& sesion, QWidget* padre)
     : Pantalla(sesion, "Form2", "Empresas", padre) {
@@ -81,13 +85,15 @@ PantallaEmpresas::PantallaEmpresas(frame::Sesion& sesion, QWidget* padre)
     // Elegir una fila de la grilla elige la empresa.
     connect(grilla_, &QAbstractItemView::clicked, this,
             [this] { empresa_->setCurrentText(QString::fromStdString(grilla_->elegida(1))); });
+    // Doble clic o Enter la abre.
+    connect(grilla_, &ventana::Grilla::abrir, this, [this] { buscar(); });
 
-    auto* todo = new QVBoxLayout(this);
+    auto* todo = new QVBoxLayout(lienzo());
     todo->addWidget(barra);
     todo->addLayout(arriba);
     todo->addWidget(claves);
     todo->addWidget(grilla_, 1);
-    resize(1000, 560);
+    pedirTamano(1000, 560);
     intentar("Form_Load", [this] { desplegar(master::consultarEmpresas(base())); });
 }
 
@@ -162,9 +168,8 @@ void PantallaEmpresas::eliminar() {
 }
 
 void PantallaEmpresas::imprimir() {
-    intentar("Imprimir_Click", [this] {
-        imprimirInforme(master::lineasListadoEmpresas(mostradas_), "empresas");
-    });
+    intentar("Imprimir_Click",
+             [this] { imprimirInforme(master::lineasListadoEmpresas(mostradas_), "empresas"); });
 }
 
 void PantallaEmpresas::copiar() {

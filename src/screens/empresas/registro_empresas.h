@@ -1,5 +1,5 @@
 #pragma once
-// Registra Empresas y su ficha, Obras y su ficha, y las pantallas de catálogos.
+// Empresas (Form2) y la ficha de una empresa (Form21).
 
 namespace nomira::pantallas {
 

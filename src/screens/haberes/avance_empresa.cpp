@@ -42,6 +42,12 @@ void AvanceEmpresa::terminar() {
     detener_->setEnabled(false);
 }
 
+void AvanceEmpresa::limpiar() {
+    barra_->reset();
+    barra_->setTextVisible(false);
+    persona_->clear();
+}
+
 engine::ProgresoEmpresa AvanceEmpresa::progreso() {
     return [this](std::size_t i, std::size_t n, const std::string& nombre) {
         barra_->setRange(0, static_cast<int>(n));

@@ -17,6 +17,8 @@ class AvanceEmpresa : public QWidget {
     // Prepara una corrida nueva: sin pedido de detenerse, el botón habilitado.
     void empezar();
     void terminar();
+    // Sin barra ni persona: la corrida terminó y lo que muestra la pantalla es otra cosa.
+    void limpiar();
     // Para el motor: muestra la persona y atiende los clics pendientes.
     engine::ProgresoEmpresa progreso();
     engine::CancelarEmpresa cancelar();

@@ -1,193 +1,106 @@
 #include "screens/haberes/pantalla_haberes.h"
 
-#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
 #include <QVBoxLayout>
 
-#include "common/reloj.h"
+#include "common/formato.h"
+#include "common/numeros.h"
 #include "frame/ventana/registro_pantallas.h"
-#include "master/empresas.h"
+#include "frame/ventana/texto_qt.h"
 
 namespace nomira::pantallas {
 
 namespace {
 
-QLineEdit* campo(const char* nombre, int caracteres) {
-    auto* c = new QLineEdit;
-    c->setObjectName(nombre);
-    c->setMaximumWidth(c->fontMetrics().horizontalAdvance(QString(caracteres, '0')) + 14);
-    return c;
+std::string pesos(common::Dinero d) {
+    return common::formatear(d.aDouble(), "##,##0.00");
 }
 
-QComboBox* combo(const char* nombre) {
-    auto* c = new QComboBox;
-    c->setObjectName(nombre);
-    c->setEditable(true);
-    c->setInsertPolicy(QComboBox::NoInsert);
-    c->setMinimumContentsLength(28);
-    return c;
-}
-
-QPushButton* botonSuelto(const char* nombre, const QString& texto) {
-    auto* b = new QPushButton(texto);
-    b->setObjectName(nombre);
-    b->setAutoDefault(false);
-    return b;
+void desplegar(ventana::Grilla* grilla, const std::vector<engine::FilaGuardada>& filas,
+               const char* tipo) {
+    std::vector<std::vector<std::string>> celdas;
+    for (const auto& f : filas)
+        if (f.tipo == tipo)
+            celdas.push_back({std::to_string(f.codigo), f.concepto, f.unidad,
+                              common::numeroATexto(f.cant), pesos(f.total)});
+    grilla->mostrar({"Código", "Concepto", "Unid.", "Cant.", "Total"}, celdas, {0, 3, 4});
+    grilla->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
 }
 
 }  // namespace
 
 PantallaHaberes::PantallaHaberes(frame::Sesion& sesion, QWidget* padre)
-    : Pantalla(sesion, "Form42", "Haberes y Descuentos", padre) {
-    mesanterior_ = common::CalculaMesAnterior(common::hoy());
-    armar();
-    intentar("Form_Load", [this] {
-        empresa_->addItem("");
-        for (const auto& e : master::nombresDeEmpresas(base()))
-            empresa_->addItem(QString::fromStdString(e));
-        empresa_->setCurrentText("");
+    : Pantalla(sesion, "Form42", "Haberes y Descuentos", padre), mes_(base(), dialogo()) {
+    cabecera_ = new CabeceraMes(*this, mes_);
+    renglon_ = new RenglonEnMano(*this, *cabecera_, mes_);
+    generaciones_ = new PanelGeneraciones(*this, *cabecera_);
+    irpf_ = new CuadroIRPF;
+
+    auto* todo = new QVBoxLayout(lienzo());
+    todo->addWidget(cabecera_);
+    todo->addWidget(renglon_);
+    todo->addWidget(armarGrillas(), 1);
+    todo->addLayout(armarCifras());
+    auto* abajo = new QHBoxLayout;
+    abajo->addWidget(generaciones_, 3);
+    abajo->addWidget(irpf_, 2);
+    todo->addLayout(abajo);
+    todo->addWidget(armarTeclas());
+
+    connect(cabecera_, &CabeceraMes::mesOlvidado, this, [this] { olvidarMes(); });
+    connect(cabecera_, &CabeceraMes::mesTecleado, irpf_, &CuadroIRPF::limpiar);
+    connect(cabecera_, &CabeceraMes::mesAbierto, this, [this] { Consultar_Click(); });
+    connect(cabecera_, &CabeceraMes::pasarALaFila, this,
+            [this] { renglon_->campoCodigo()->setFocus(); });
+    connect(renglon_, &RenglonEnMano::hallada, this,
+            [this](bool existe) { habilitarSegunHallado(existe); });
+    connect(renglon_, &RenglonEnMano::vaciada, this, [this] {
+        habilitarSegunHallado(false);
+        boton("Agregar")->setEnabled(false);
     });
-    habilitarSegunHallado(false);
-    boton("Agregar")->setEnabled(false);
-    empresa_->setFocus();
+    connect(renglon_, &RenglonEnMano::mesCambiado, this, [this] { Consultar_Click(); });
+    connect(renglon_, &RenglonEnMano::impuesto, this, &PantallaHaberes::mostrarIRPF);
+    connect(generaciones_, &PanelGeneraciones::mesCambiado, this, [this] { releer(); });
+    connect(generaciones_, &PanelGeneraciones::irpfOlvidado, irpf_, &CuadroIRPF::limpiar);
+    connect(generaciones_, &PanelGeneraciones::impuesto, this, &PantallaHaberes::mostrarIRPF);
+    connect(generaciones_, &PanelGeneraciones::comoSeCalculo, this,
+            [this] { renglon_->comoSeCalculo(ultimaGrilla_); });
+    // Después de toda la empresa, las grillas son de la persona en pantalla.
+    connect(generaciones_, &PanelGeneraciones::empresaCorrida, this, [this] { releer(); });
+
+    setTabOrder(cabecera_->campoEmpresa(), cabecera_->campoMes());
+    setTabOrder(cabecera_->campoMes(), cabecera_->campoNombre());
+    setTabOrder(cabecera_->campoNombre(), cabecera_->campoNrofun());
+    setTabOrder(cabecera_->campoNrofun(), renglon_->campoCodigo());
+
+    intentar("Form_Load", [this] { cabecera_->cargarEmpresas(); });
+    renglon_->limpiar();
+    cabecera_->campoEmpresa()->setFocus();
 }
 
-void PantallaHaberes::armar() {
-    auto* todo = new QVBoxLayout(this);
-    todo->addLayout(armarCabecera());
-    todo->addLayout(armarRenglon());
-
+QWidget* PantallaHaberes::armarGrillas() {
     haberes_ = new ventana::Grilla;
     haberes_->setObjectName("haberes");
     descuentos_ = new ventana::Grilla;
     descuentos_->setObjectName("descuentos");
-    auto* grillas = new QHBoxLayout;
+    auto* grillas = new QWidget;
+    auto* capa = new QHBoxLayout(grillas);
+    capa->setContentsMargins(0, 0, 0, 0);
     for (auto [grilla, titulo] : {std::pair{haberes_, "Haberes"}, {descuentos_, "Descuentos"}}) {
         auto* marco = new QGroupBox(titulo);
         (new QVBoxLayout(marco))->addWidget(grilla);
-        grillas->addWidget(marco, 1);
+        capa->addWidget(marco, 1);
         grilla->setFocusPolicy(Qt::ClickFocus);
         // Elegir una fila la trae a la fila en mano.
         connect(grilla, &QAbstractItemView::clicked, this, [this, grilla = grilla] {
             ultimaGrilla_ = grilla;
-            codigo_->setText(QString::fromStdString(grilla->elegida(0)));
-            Buscar_Click();
+            renglon_->traer(grilla->elegida(0));
         });
     }
-    todo->addLayout(grillas, 1);
-    todo->addLayout(armarCifras());
-    todo->addLayout(armarGeneraciones());
-
-    auto* teclas = new QGroupBox("Teclas Funciones");
-    teclas->setObjectName("TeclasFunciones");
-    teclas->setLayout(botonera({
-        {Qt::Key_F1, "F1 Ayuda", [this] { ayuda(); }},
-        {Qt::Key_F2, "F2 Refresh", [this] { Refrescar(); }},
-        {Qt::Key_F3, "F3 Consultar", [this] { Consultar_Click(); }},
-        {Qt::Key_F5, "F5 Agregar", [this] { Agregar_Click(); }},
-        {Qt::Key_F6, "F6 Modificar", [this] { Modificar_Click(); }},
-        {Qt::Key_F7, "F7 Eliminar", [this] { Eliminar_Click(); }},
-        {Qt::Key_F8, "F8 Imp.", [] {}},
-        {Qt::Key_F9, "F9 Copiar", [] {}},
-        {Qt::Key_F10, "F10 Concep.",
-         [this] {
-             intentar("Form_KeyDown", [this] {
-                 abrirHija(ventana::registroPantallas().at("Form4")(sesion_, this), [] {});
-             });
-         }},
-        {Qt::Key_F12, "F12 Validar", [] {}},
-    }));
-    todo->addWidget(teclas);
-    // Los recibos, la copia y la validación llegan con sus pantallas.
-    for (const char* pendiente : {"Imp.", "Copiar", "Validar"}) {
-        boton(pendiente)->setEnabled(false);
-        boton(pendiente)->setToolTip("Todavía no disponible");
-    }
-
-    setTabOrder(empresa_, mes_);
-    setTabOrder(mes_, nombre_);
-    setTabOrder(nombre_, nrofun_);
-    setTabOrder(nrofun_, codigo_);
-    setTabOrder(codigo_, concepto_);
-    setTabOrder(concepto_, cant_);
-    setTabOrder(cant_, total_);
-    resize(1120, 760);
-}
-
-QLayout* PantallaHaberes::armarCabecera() {
-    empresa_ = combo("empresa");
-    nombre_ = combo("nombre");
-    mes_ = new ventana::CampoFecha(nullptr, ventana::FormaFecha::Mes);
-    mes_->setObjectName("mes");
-    nrofun_ = campo("nrofun", 6);
-    auto* ant = botonSuelto("Ant", "< &Ant");
-    auto* prox = botonSuelto("Prox", "&Prox >");
-    auto* reliq = botonSuelto("Reliq", "Reliq por retro.");
-    reliq->setEnabled(false);  // su pantalla todavía no está
-    reliq->setToolTip("Todavía no disponible");
-
-    connect(empresa_, &QComboBox::currentTextChanged, this, [this] {
-        olvidarMes();
-        CargarNombredelPersonal();
-    });
-    connect(nombre_, &QComboBox::activated, this, [this] { elegirPersona(); });
-    alPulsarEnter(nombre_, [this] {
-        elegirPersona();
-        codigo_->setFocus();
-        return false;
-    });
-    alPulsarEnter(mes_, [this] { return mesEnter(); });
-    alPulsarEnter(nrofun_, [this] { return nrofunEnter(); });
-    connect(ant, &QPushButton::clicked, this, [this] { moverPersona(-1); });
-    connect(prox, &QPushButton::clicked, this, [this] { moverPersona(+1); });
-
-    auto* capa = new QGridLayout;
-    capa->addWidget(new QLabel("Empresa"), 0, 0);
-    capa->addWidget(empresa_, 0, 1);
-    capa->addWidget(new QLabel("FMesCargo"), 0, 2, Qt::AlignRight);
-    capa->addWidget(mes_, 0, 3);
-    capa->addWidget(reliq, 0, 5);
-    capa->addWidget(new QLabel("Nombre del Personal"), 1, 0);
-    capa->addWidget(nombre_, 1, 1);
-    capa->addWidget(new QLabel("Nro Fun."), 1, 2, Qt::AlignRight);
-    capa->addWidget(nrofun_, 1, 3);
-    auto* mover = new QHBoxLayout;
-    mover->addWidget(ant);
-    mover->addWidget(prox);
-    capa->addLayout(mover, 1, 5);
-    capa->setColumnStretch(1, 1);
-    capa->setColumnStretch(4, 1);
-    return capa;
-}
-
-QLayout* PantallaHaberes::armarRenglon() {
-    codigo_ = campo("codigo", 6);
-    concepto_ = new QLineEdit;
-    concepto_->setObjectName("concepto");
-    unidad_ = campo("unidad", 3);
-    unidad_->setReadOnly(true);
-    unidad_->setFocusPolicy(Qt::NoFocus);
-    cant_ = campo("cant", 10);
-    total_ = campo("total", 14);
-    for (auto* c : {cant_, total_}) c->setAlignment(Qt::AlignRight);
-    alPulsarEnter(codigo_, [this] { return Buscar_Click(); });
-    alPulsarEnter(concepto_, [this] { return Descripcion_Click(); });
-    alPulsarEnter(cant_, [this] { return cantEnter(); });
-    alPulsarEnter(total_, [this] { return totalEnter(); });
-
-    auto* capa = new QGridLayout;
-    int columna = 0;
-    for (auto [rotulo, c] : {std::pair<const char*, QLineEdit*>{"Código", codigo_},
-                             {"Concepto", concepto_},
-                             {"Unid.", unidad_},
-                             {"Cant.", cant_},
-                             {"Total", total_}}) {
-        capa->addWidget(new QLabel(rotulo), 0, columna);
-        capa->addWidget(c, 1, columna++);
-    }
-    capa->setColumnStretch(1, 1);
-    return capa;
+    return grillas;
 }
 
 QLayout* PantallaHaberes::armarCifras() {
@@ -198,7 +111,9 @@ QLayout* PantallaHaberes::armarCifras() {
                                   {"liquidoacobrar", "Líquido a Cobrar"},
                                   {"montoirpf", "M.Irpf"},
                                   {"montodedu", "M.Dedu."}}) {
-        auto* c = campo(nombre, 12);
+        auto* c = new QLineEdit;
+        c->setObjectName(nombre);
+        c->setMaximumWidth(c->fontMetrics().horizontalAdvance(QString(12, '0')) + 14);
         c->setReadOnly(true);
         c->setFocusPolicy(Qt::NoFocus);
         c->setAlignment(Qt::AlignRight);
@@ -211,45 +126,88 @@ QLayout* PantallaHaberes::armarCifras() {
     return capa;
 }
 
-QLayout* PantallaHaberes::armarGeneraciones() {
-    auto* marco = new QGroupBox("Haberes y descuentos permanentes");
-    auto* botones = new QGridLayout(marco);
-    const std::tuple<const char*, const char*, void (PantallaHaberes::*)()> kBotones[] = {
-        {"HabPerm", "&Hab. Perm.", &PantallaHaberes::HabPerm_Click},
-        {"HabPerm2", "E&lim. Hab. Perm.", &PantallaHaberes::HabPerm2_Click},
-        {"DescPerm", "&Desc. Perm.", &PantallaHaberes::DescPerm_Click},
-        {"DescPerm2", "Eli&m. Desc. Perm.", &PantallaHaberes::DescPerm2_Click},
-        {"ActHabPermxEmpresa", "Act. Hab. Perm. x &Empresa",
-         &PantallaHaberes::ActHamPermxEmpresa_Click},
-        {"ActDesPermxEmpresa", "Act. Des. Perm. x Empre&sa",
-         &PantallaHaberes::ActDesPermxEmpresa_Click},
-        {"ComoSeCalculo", "¿&Cómo se calculó?", &PantallaHaberes::ComoSeCalculo},
-    };
-    int i = 0;
-    for (const auto& [nombre, texto, accion] : kBotones) {
-        auto* b = botonSuelto(nombre, texto);
-        connect(b, &QPushButton::clicked, this, [this, accion = accion] { (this->*accion)(); });
-        botones->addWidget(b, i / 4, i % 4);
-        ++i;
+QWidget* PantallaHaberes::armarTeclas() {
+    auto* teclas = new QGroupBox("Teclas Funciones");
+    teclas->setObjectName("TeclasFunciones");
+    teclas->setLayout(botonera({
+        {Qt::Key_F1, "F1 Ayuda", [this] { ayuda(); }},
+        {Qt::Key_F2, "F2 Refresh", [this] { Refrescar(); }},
+        {Qt::Key_F3, "F3 Consultar", [this] { Consultar_Click(); }},
+        {Qt::Key_F5, "F5 Agregar", [this] { renglon_->agregar(); }},
+        {Qt::Key_F6, "F6 Modificar", [this] { renglon_->modificar(); }},
+        {Qt::Key_F7, "F7 Eliminar", [this] { renglon_->eliminar(); }},
+        {Qt::Key_F8, "F8 Imp.", [] {}},
+        {Qt::Key_F9, "F9 Copiar", [] {}},
+        {Qt::Key_F10, "F10 Concep.",
+         [this] {
+             intentar("Form_KeyDown", [this] {
+                 abrirHija(ventana::registroPantallas().at("Form4")(sesion_, this), [] {});
+             });
+         }},
+        {Qt::Key_F12, "F12 Validar", [] {}},
+    }));
+    // Los recibos, la copia y la validación llegan con sus pantallas.
+    for (const char* pendiente : {"Imp.", "Copiar", "Validar"}) {
+        auto* b = teclas->findChild<QPushButton*>(pendiente);
+        b->setEnabled(false);
+        b->setToolTip("Todavía no disponible");
     }
-    botones->setRowStretch(2, 1);
-    // Fuera del marco: sigue habilitado mientras corre toda la empresa.
-    avance_ = new AvanceEmpresa;
-    auto* izquierda = new QVBoxLayout;
-    izquierda->addWidget(marco, 1);
-    izquierda->addWidget(avance_);
-
-    irpf_ = new CuadroIRPF;
-    auto* capa = new QHBoxLayout;
-    capa->addLayout(izquierda, 3);
-    capa->addWidget(irpf_, 2);
-    return capa;
+    return teclas;
 }
 
-void registrarPantallasHaberes() {
-    ventana::registroPantallas()["Form42"] = [](frame::Sesion& s, QWidget* p) -> QWidget* {
-        return new PantallaHaberes(s, p);
-    };
+void PantallaHaberes::olvidarMes() {
+    mes_.cerrar();
+    renglon_->limpiar();
+    irpf_->limpiar();
+    desplegar(haberes_, {}, "Hab");
+    desplegar(descuentos_, {}, "Des");
+    for (auto& [nombre, c] : cifras_) c->clear();
+}
+
+void PantallaHaberes::Consultar_Click() {
+    intentar("Consultar_Click", [this] {
+        if (!mes_.abierto()) return;
+        const auto v = mes_.consultar();
+        desplegar(haberes_, v.filas, "Hab");
+        desplegar(descuentos_, v.filas, "Des");
+        const auto& c = v.cifras;
+        for (auto [nombre, importe] : {std::pair{"totalhab", c.totalhab},
+                                       {"totaldes", c.totaldes},
+                                       {"liquidoneto", c.liquidoneto},
+                                       {"liquidoacobrar", c.aCobrar},
+                                       {"montoirpf", c.montoirpf},
+                                       {"montodedu", c.montodedu}})
+            cifras_.at(nombre)->setText(ventana::aQt(pesos(importe)));
+    });
+}
+
+void PantallaHaberes::Refrescar() {
+    intentar("Form_KeyDown", [this] {
+        if (cabecera_->releer()) Consultar_Click();
+        renglon_->campoCodigo()->setFocus();
+    });
+}
+
+void PantallaHaberes::releer() {
+    renglon_->limpiar();
+    if (cabecera_->releer())
+        Consultar_Click();
+    else
+        olvidarMes();
+    renglon_->campoCodigo()->setFocus();
+}
+
+void PantallaHaberes::mostrarIRPF(const engine::ImporteImpuesto& imp) {
+    if (!mes_.abierto()) return;
+    const auto& mp = mes_.mes();
+    if (imp.irpfDiciembre)
+        irpf_->mostrarDiciembre(*imp.irpfDiciembre);
+    else if (imp.irpfMes)
+        irpf_->mostrarMes(*imp.irpfMes, mp.desglose.montoirpf, mp.desglose.montonominal);
+}
+
+void PantallaHaberes::prepararCaptura() {
+    cabecera_->elegirUnMesConFilas();
 }
 
 }  // namespace nomira::pantallas

@@ -6,10 +6,14 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "frame/ventana/piezas.h"
 #include "master/catalogos.h"
-#include "screens/empresas/piezas.h"
 
 namespace nomira::pantallas {
+
+using ventana::aQt;
+using ventana::botonConTecla;
+using ventana::deQt;
 
 FichaObra::FichaObra(frame::Sesion& sesion, QWidget* padre)
     : Pantalla(sesion, "Form292", "Obra", padre) {
@@ -72,9 +76,10 @@ FichaObra::FichaObra(frame::Sesion& sesion, QWidget* padre)
     auto* medio = new QHBoxLayout;
     medio->addLayout(datos, 1);
     medio->addWidget(marco, 0, Qt::AlignTop);
-    auto* todo = new QVBoxLayout(this);
+    auto* todo = new QVBoxLayout(lienzo());
     todo->addLayout(medio);
     todo->addLayout(botones);
+    hacerFicha();
     preparar(OperacionObra::Agregar, {});
 }
 
@@ -117,6 +122,7 @@ void FichaObra::ponerCampos(const master::Obra& o) {
 }
 
 void FichaObra::agregar() {
+    if (!camposValidos()) return;
     intentar("Agregar_Click", [this] {
         const auto o = leerCampos();
         if (o.nroobra.empty()) return advertir("Debe seleccionar el campo NroObra.");
@@ -132,6 +138,7 @@ void FichaObra::agregar() {
 }
 
 void FichaObra::modificar() {
+    if (!camposValidos()) return;
     intentar("Modificar_Click", [this] {
         if (!confirmar("Modificar Obra")) return;
         master::modificarObra(base(), leerCampos());

@@ -6,12 +6,16 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "frame/ventana/piezas.h"
 #include "master/empresas.h"
 #include "master/obras.h"
-#include "screens/empresas/piezas.h"
 #include "screens/obras/ficha_obra.h"
 
 namespace nomira::pantallas {
+
+using ventana::accionConTecla;
+using ventana::deQt;
+using ventana::llevarListado;
 
 PantallaObras::PantallaObras(frame::Sesion& sesion, QWidget* padre)
     : Pantalla(sesion, "Form291", "Obras", padre) {
@@ -64,12 +68,14 @@ PantallaObras::PantallaObras(frame::Sesion& sesion, QWidget* padre)
     });
     connect(grilla_, &QAbstractItemView::clicked, this,
             [this] { nroObra_->setCurrentText(QString::fromStdString(grilla_->elegida(0))); });
+    // Doble clic o Enter la abre.
+    connect(grilla_, &ventana::Grilla::abrir, this, [this] { buscar(); });
 
-    auto* todo = new QVBoxLayout(this);
+    auto* todo = new QVBoxLayout(lienzo());
     todo->addWidget(barra);
     todo->addLayout(arriba);
     todo->addWidget(grilla_, 1);
-    resize(760, 420);
+    pedirTamano(760, 420);
 }
 
 std::string PantallaObras::textoEmpresa() const {
@@ -187,8 +193,7 @@ void PantallaObras::buscar() {
 void PantallaObras::imprimir() {
     intentar("Imprimir_Click", [this] {
         if (textoEmpresa().empty()) return advertir("Debe completar el campo Empresa.");
-        imprimirInforme(
-                        master::lineasListadoObras(textoEmpresa(),
+        imprimirInforme(master::lineasListadoObras(textoEmpresa(),
                                                    master::obrasDeEmpresa(base(), textoEmpresa())),
                         "obras");
     });

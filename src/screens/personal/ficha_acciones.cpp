@@ -7,6 +7,8 @@
 #include "master/listado_personal.h"
 #include "master/validacion_personal.h"
 #include "screens/personal/ficha_personal.h"
+#include "screens/personal/pagina_actividad.h"
+#include "screens/personal/pagina_personales.h"
 #include "store/conexion.h"
 
 namespace nomira::pantallas {
@@ -29,6 +31,7 @@ void FichaPersonal::preguntarGafi(const master::Persona& p) {
 }
 
 void FichaPersonal::agregar() {
+    if (!camposValidos()) return;
     intentar("Agregar_Click", [this] {
         const auto p = juntar();
         if (const auto m = master::comprobarAlAgregar(p); !m.empty()) return advertir(m);
@@ -43,18 +46,19 @@ void FichaPersonal::agregar() {
         master::ValidarSeguroSalud(base(), p, dialogo());
         if (alCambiarNombres) alCambiarNombres(p.nombre, true);
         nueva(p.empresa, "");
-        nrofun_->setFocus();
+        personales_->nrofun->setFocus();
     });
 }
 
 void FichaPersonal::modificar() {
+    if (!camposValidos()) return;
     intentar("Modificar_Click", [this] {
         const auto p = juntar();
         if (const auto m = master::comprobarAlModificar(p); !m.empty()) return advertir(m);
         if (!confirmar("Modificar Personal", false)) return;
-        const auto opcion = deshacer_->valor() == "1"   ? master::DeshacerCambio::Primero
-                            : deshacer_->valor() == "2" ? master::DeshacerCambio::Segundo
-                                                        : master::DeshacerCambio::Ninguno;
+        const auto opcion = primera_->deshacer->valor() == "1"   ? master::DeshacerCambio::Primero
+                            : primera_->deshacer->valor() == "2" ? master::DeshacerCambio::Segundo
+                                                                 : master::DeshacerCambio::Ninguno;
         std::string aviso;
         {
             store::Transaccion t(base());
@@ -97,7 +101,8 @@ void FichaPersonal::imprimir() {
     intentar("Imprimir_Click", [this] {
         const auto destino =
             ventana::destinoDe(master::leerConfiguracion(base()), ventana::UsoImpresora::Otros);
-        ventana::imprimirLineas(master::lineasFichaImpresa(juntar()), destino, "personal");
+        ventana::imprimirLineas(master::lineasFichaImpresa(juntar()), destino, "personal",
+                                dialogo());
     });
 }
 

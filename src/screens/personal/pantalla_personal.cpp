@@ -11,11 +11,14 @@
 #include "frame/carpeta.h"
 #include "frame/ventana/impresion.h"
 #include "frame/ventana/registro_pantallas.h"
+#include "frame/ventana/texto_qt.h"
 #include "frame/ventana/ventana_ayuda.h"
 #include "master/configuracion.h"
 #include "master/empresas.h"
 
 namespace nomira::pantallas {
+
+using ventana::aQt;
 
 namespace {
 
@@ -27,10 +30,6 @@ const std::pair<const char*, O> kClaves[] = {
     {"Fecha Ing.", O::FechaIng}, {"Categoría", O::Categoria}, {"Tipo de Rem.", O::TipoRem},
     {"Fecha Eg.", O::FechaEg},   {"Seg. Salud", O::SegSalud}, {"FSueVig", O::FSueVig}};
 
-QString q(const std::string& s) {
-    return QString::fromStdString(s);
-}
-
 }  // namespace
 
 PantallaPersonal::PantallaPersonal(frame::Sesion& sesion, QWidget* padre)
@@ -41,7 +40,7 @@ PantallaPersonal::PantallaPersonal(frame::Sesion& sesion, QWidget* padre)
     empresa_->setInsertPolicy(QComboBox::NoInsert);
     empresa_->addItem("");
     intentar("Form_Load", [this] {
-        for (const auto& e : master::nombresDeEmpresas(base())) empresa_->addItem(q(e));
+        for (const auto& e : master::nombresDeEmpresas(base())) empresa_->addItem(aQt(e));
     });
     empresa_->setCurrentText("");
     nombre_ = new QComboBox;
@@ -64,10 +63,10 @@ PantallaPersonal::PantallaPersonal(frame::Sesion& sesion, QWidget* padre)
     });
     grilla_ = new ventana::Grilla;
     grilla_->setObjectName("grilla");
-    connect(grilla_, &QAbstractItemView::doubleClicked, this, [this] {
-        nombre_->setCurrentText(q(grilla_->elegida(1)));
-        buscar();
-    });
+    // Un clic trae el nombre; doble clic o Enter abre la ficha.
+    connect(grilla_, &QAbstractItemView::clicked, this,
+            [this] { nombre_->setCurrentText(aQt(grilla_->elegida(1))); });
+    connect(grilla_, &ventana::Grilla::abrir, this, [this] { buscar(); });
 
     auto* campos = new QGridLayout;
     campos->addWidget(new QLabel("Empresa"), 0, 0);
@@ -90,11 +89,11 @@ PantallaPersonal::PantallaPersonal(frame::Sesion& sesion, QWidget* padre)
                               {Qt::Key_F7, "F7 Eliminar", [this] { buscar(); }},
                               {Qt::Key_F8, "F8 Imprimir", [this] { imprimir(); }},
                               {Qt::Key_F9, "F9 Copiar", [this] { guardarOficial(); }}});
-    auto* todo = new QVBoxLayout(this);
+    auto* todo = new QVBoxLayout(lienzo());
     todo->addLayout(campos);
     todo->addLayout(botones);
     todo->addWidget(grilla_, 1);
-    resize(980, 600);
+    pedirTamano(980, 600);
 }
 
 std::string PantallaPersonal::empresa() const {
@@ -106,7 +105,8 @@ void PantallaPersonal::cargarNombres() {
         const auto escrito = nombre_->currentText();
         nombre_->clear();
         nombre_->addItem("");
-        for (const auto& n : master::nombresDelPersonal(base(), empresa())) nombre_->addItem(q(n));
+        for (const auto& n : master::nombresDelPersonal(base(), empresa()))
+            nombre_->addItem(aQt(n));
         nombre_->setCurrentText(escrito);
     });
 }
@@ -164,7 +164,8 @@ void PantallaPersonal::imprimir() {
     intentar("Imprimir_Click", [this] {
         const auto destino =
             ventana::destinoDe(master::leerConfiguracion(base()), ventana::UsoImpresora::Informes);
-        ventana::imprimirLineas(master::lineasListado(empresa(), listados_), destino, "personal");
+        ventana::imprimirLineas(master::lineasListado(empresa(), listados_), destino, "personal",
+                                dialogo());
     });
 }
 
@@ -176,14 +177,6 @@ void PantallaPersonal::guardarOficial() {
         for (const auto& linea : master::lineasListado(empresa(), listados_)) f << linea << "\n";
         if (!f) throw common::Fallo(75, "Error de acceso a la ruta o el archivo: " + ruta.string());
     });
-}
-
-void registrarPantallasPersonal() {
-    auto& r = ventana::registroPantallas();
-    r["Form3"] = [](frame::Sesion& s, QWidget* p) -> QWidget* {
-        return new PantallaPersonal(s, p);
-    };
-    r["Form31"] = [](frame::Sesion& s, QWidget* p) -> QWidget* { return new FichaPersonal(s, p); };
 }
 
 }  // namespace nomira::pantallas

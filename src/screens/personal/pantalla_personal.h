@@ -43,6 +43,4 @@ class PantallaPersonal : public ventana::Pantalla {
     QPointer<FichaPersonal> ficha_;
 };
 
-void registrarPantallasPersonal();
-
 }  // namespace nomira::pantallas

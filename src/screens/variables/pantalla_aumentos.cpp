@@ -9,22 +9,19 @@
 #include "common/numeros.h"
 #include "common/reloj.h"
 #include "common/texto.h"
+#include "frame/ventana/texto_qt.h"
 #include "master/aumentos.h"
 #include "master/catalogos.h"
 #include "master/empresas.h"
 
 namespace nomira::pantallas {
 
+using ventana::deQt;
+
 namespace {
 
-std::string s(const QLineEdit* c) { return c->text().trimmed().toStdString(); }
-std::string s(const QComboBox* c) { return c->currentText().trimmed().toStdString(); }
-
-// El porcentaje se muestra con miles agrupados: la coma no es decimal.
-double porcentajeDe(const QLineEdit* c) {
-    auto texto = s(c);
-    std::erase(texto, ',');
-    return common::textoANumero(texto);
+double porcentajeDe(const ventana::CampoNumero* c) {
+    return common::textoANumero(c->valor());
 }
 
 QPushButton* nuevoBoton(const char* texto, const char* nombre) {
@@ -48,7 +45,8 @@ PantallaAumentos::PantallaAumentos(frame::Sesion& sesion, master::CategoriaLabor
     empresa->setEditable(true);
     empresa->addItem("");
     intentar("Form_Load", [this] {
-        for (const auto& e : master::nombresDeEmpresas(base())) empresa->addItem(QString::fromStdString(e));
+        for (const auto& e : master::nombresDeEmpresas(base()))
+            empresa->addItem(QString::fromStdString(e));
     });
 
     auto* campos = new QFormLayout;
@@ -61,8 +59,8 @@ PantallaAumentos::PantallaAumentos(frame::Sesion& sesion, master::CategoriaLabor
         campos->addRow(etiqueta, campo);
     }
     for (auto* c : {recuperacion, inflacion, porcentaje}) c->setMaximumWidth(120);
-    auto* sectorElegido = new QLabel(QString::fromStdString(sector_.grupo + " / " + sector_.subgrupo +
-                                                             " / " + sector_.sector));
+    auto* sectorElegido = new QLabel(
+        QString::fromStdString(sector_.grupo + " / " + sector_.subgrupo + " / " + sector_.sector));
     sectorElegido->setObjectName("sectorElegido");
     sectorElegido->setVisible(!sector_.grupo.empty());
 
@@ -83,25 +81,28 @@ PantallaAumentos::PantallaAumentos(frame::Sesion& sesion, master::CategoriaLabor
     connect(aumEmp, &QPushButton::clicked, this, [this] { AumentarSueldosEmpresa_Click(false); });
     connect(bajar, &QPushButton::clicked, this, [this] { AumentarSueldosEmpresa_Click(true); });
 
-    auto* todo = new QVBoxLayout(this);
+    auto* todo = new QVBoxLayout(lienzo());
     todo->addWidget(sectorElegido);
     todo->addLayout(campos);
     todo->addWidget(cat);
     todo->addWidget(emp);
     todo->addStretch();
-    resize(480, 360);
+    pedirTamano(480, 360);
     tecla(QKeySequence(Qt::Key_F1), [this] { ayuda(); });
 
-    for (auto* c : {recuperacion, inflacion}) alPulsarEnter(c, [this] { return calcularPorcentaje(); });
+    for (auto* c : {recuperacion, inflacion})
+        alPulsarEnter(c, [this] { return calcularPorcentaje(); });
     recuperacion->setFocus();
 }
 
 // Recuperación e inflación se componen; la vacía vale 0.
 bool PantallaAumentos::calcularPorcentaje() {
     for (auto* c : {recuperacion, inflacion})
-        if (s(c).empty()) c->setText("0");
-    const double p = master::porcentajeCompuesto(common::textoANumero(s(recuperacion)),
-                                                 common::textoANumero(s(inflacion)));
+        if (!campoValido(c)) return false;
+    for (auto* c : {recuperacion, inflacion})
+        if (deQt(c).empty()) c->setText("0");
+    const double p =
+        master::porcentajeCompuesto(porcentajeDe(recuperacion), porcentajeDe(inflacion));
     porcentaje->setText(QString::fromStdString(common::formatear(p, "##,##0.00")));
     return true;
 }
@@ -111,8 +112,9 @@ void PantallaAumentos::finalizado(const char* texto) {
 }
 
 void PantallaAumentos::AumentarSueldosCategorias_Click() {
+    if (!camposValidos()) return;
     intentar("AumentarSueldosCategorias_Click", [this] {
-        if (s(porcentaje).empty()) return advertir("Debe completar el campo Porcentaje.");
+        if (deQt(porcentaje).empty()) return advertir("Debe completar el campo Porcentaje.");
         master::aumentarSueldosMinimos(base(), sector_.grupo, sector_.subgrupo, sector_.sector,
                                        porcentajeDe(porcentaje));
         finalizado("Aumento de Sueldos Mínimos x Categorías finalizado.");
@@ -127,13 +129,14 @@ void PantallaAumentos::Eliminar_Click() {
 }
 
 void PantallaAumentos::AumentarSueldosEmpresa_Click(bool bajar) {
+    if (!camposValidos()) return;
     intentar(bajar ? "Bajar_Click" : "AumentarSueldosEmpresa_Click", [this, bajar] {
-        if (s(porcentaje).empty() || s(empresa).empty() || s(fsuevig).empty())
+        if (deQt(porcentaje).empty() || deQt(empresa).empty() || deQt(fsuevig).empty())
             return advertir("Debe completar los campos Porcentaje, Empresa y FSueVig.");
-        const auto fecha = common::Fecha::desdeTexto(s(fsuevig));
+        const auto fecha = common::Fecha::desdeTexto(deQt(fsuevig));
         if (!fecha) throw common::Fallo(13, "No coinciden los tipos");
-        master::PedidoAumento pedido{s(empresa), porcentajeDe(porcentaje), *fecha,
-                                     common::textoDeCatalogo(s(categoria)), bajar};
+        master::PedidoAumento pedido{deQt(empresa), porcentajeDe(porcentaje), *fecha,
+                                     common::textoDeCatalogo(deQt(categoria)), bajar};
         master::aumentarSueldosEmpresa(base(), pedido, common::hoy());
         finalizado(bajar ? "Decremento de Sueldos x Empresas finalizado."
                          : "Aumento de Sueldos x Empresas finalizado.");

@@ -6,27 +6,28 @@
 #include <QLineEdit>
 
 #include "frame/ventana/campo_fecha.h"
+#include "frame/ventana/campo_numero.h"
 #include "frame/ventana/combo_catalogo.h"
-#include "master/sueldos_minimos.h"
 #include "frame/ventana/pantalla.h"
+#include "master/sueldos_minimos.h"
 
 namespace nomira::pantallas {
 
 class PantallaAumentos : public ventana::Pantalla {
     Q_OBJECT
-public:
+  public:
     // `sector`: grupo, subgrupo y sector elegidos en Form407 (la categoría no cuenta).
     PantallaAumentos(frame::Sesion& sesion, master::CategoriaLaboral sector,
                      QWidget* padre = nullptr);
 
-    QLineEdit* recuperacion = new QLineEdit;
-    QLineEdit* inflacion = new QLineEdit;
-    QLineEdit* porcentaje = new QLineEdit;
+    ventana::CampoNumero* recuperacion = new ventana::CampoNumero;
+    ventana::CampoNumero* inflacion = new ventana::CampoNumero;
+    ventana::CampoNumero* porcentaje = new ventana::CampoNumero;
     QComboBox* empresa = new QComboBox;
     ventana::ComboCatalogo* categoria;
     ventana::CampoFecha* fsuevig = new ventana::CampoFecha;
 
-private:
+  private:
     bool calcularPorcentaje();
     void AumentarSueldosCategorias_Click();
     void Eliminar_Click();

@@ -5,18 +5,19 @@
 
 #include "common/formato.h"
 #include "common/numeros.h"
+#include "frame/ventana/texto_qt.h"
 #include "master/franjas.h"
 
 namespace nomira::pantallas {
 
+using ventana::deQt;
+
 namespace {
 
-std::string s(const QLineEdit* campo) { return campo->text().trimmed().toStdString(); }
-
 // Como la conversión a número de la pantalla: lo que no es número no se guarda.
-double numero(const QLineEdit* campo) {
-    if (!common::esNumerico(s(campo))) throw common::Fallo(13, "No coinciden los tipos");
-    return common::textoANumero(s(campo));
+double numero(const ventana::CampoNumero* campo) {
+    if (!common::esNumerico(campo->valor())) throw common::Fallo(13, "No coinciden los tipos");
+    return common::textoANumero(campo->valor());
 }
 
 }  // namespace
@@ -32,7 +33,7 @@ PantallaFranjas::PantallaFranjas(frame::Sesion& sesion, QWidget* padre)
         campos->addRow(etiqueta, campo);
     }
     grilla->setObjectName("grilla");
-    auto* todo = new QVBoxLayout(this);
+    auto* todo = new QVBoxLayout(lienzo());
     todo->addLayout(campos);
     todo->addLayout(botonera({{Qt::Key_F1, "F1 Ayuda", [this] { ayuda(); }},
                               {Qt::Key_F2, "F2 Buscar", [this] { Buscar_Click(); }},
@@ -41,10 +42,10 @@ PantallaFranjas::PantallaFranjas(frame::Sesion& sesion, QWidget* padre)
                               {Qt::Key_F7, "F7 Eliminar", [this] { Eliminar_Click(); }},
                               {Qt::Key_F8, "F8 Imprimir", [this] { Imprimir_Click(); }}}));
     todo->addWidget(grilla, 1);
-    resize(560, 480);
+    pedirTamano(560, 480);
 
     alPulsarEnter(franja, [this] {
-        if (s(franja).empty()) {
+        if (deQt(franja).empty()) {
             advertir("Debe completar el campo Franja.");
             return false;
         }
@@ -54,7 +55,7 @@ PantallaFranjas::PantallaFranjas(frame::Sesion& sesion, QWidget* padre)
     for (const auto& [campo, mensaje] : {std::pair{min, "Debe completar el campo Min."},
                                          std::pair{max, "Debe completar el campo Max."}})
         alPulsarEnter(campo, [this, campo, mensaje] {
-            if (!s(campo).empty()) return true;
+            if (!deQt(campo).empty()) return true;
             advertir(mensaje);
             return false;
         });
@@ -64,7 +65,7 @@ PantallaFranjas::PantallaFranjas(frame::Sesion& sesion, QWidget* padre)
 
 void PantallaFranjas::Buscar_Click() {
     intentar("Buscar_Click", [this] {
-        if (s(franja).empty()) return advertir("Debe completar el campo Franja.");
+        if (deQt(franja).empty()) return advertir("Debe completar el campo Franja.");
         const auto hallada = master::buscarFranja(base(), static_cast<long>(numero(franja)));
         habilitarSegunHallado(hallada.has_value());
         if (hallada) {
@@ -91,10 +92,11 @@ void PantallaFranjas::Consultar_Click() {
 }
 
 void PantallaFranjas::Agregar_Click() {
+    if (!camposValidos()) return;
     intentar("Agregar_Click", [this] {
         if (!confirmar("Agregar registro")) return;
-        master::agregarFranja(base(), {static_cast<long>(numero(franja)), numero(min), numero(max),
-                                       numero(tasa)});
+        master::agregarFranja(
+            base(), {static_cast<long>(numero(franja)), numero(min), numero(max), numero(tasa)});
         Consultar_Click();
         limpiar();
     });

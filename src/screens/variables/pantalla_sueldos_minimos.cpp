@@ -6,16 +6,19 @@
 #include "common/formato.h"
 #include "common/numeros.h"
 #include "common/texto.h"
+#include "frame/ventana/texto_qt.h"
 #include "master/catalogos.h"
 #include "screens/variables/pantalla_aumentos.h"
 
 namespace nomira::pantallas {
 
+using ventana::deQt;
+
 namespace {
 
-std::string s(const QComboBox* c) { return c->currentText().trimmed().toStdString(); }
-std::string s(const QLineEdit* c) { return c->text().trimmed().toStdString(); }
-std::string texto(const QComboBox* c) { return common::textoDeCatalogo(s(c)); }
+std::string texto(const QComboBox* c) {
+    return common::textoDeCatalogo(deQt(c));
+}
 
 const char* const kFaltan[] = {
     "Debe completar el campo Grupo Con. Salarios.",
@@ -29,8 +32,8 @@ const char* const kFaltan[] = {
 PantallaSueldosMinimos::PantallaSueldosMinimos(frame::Sesion& sesion, QWidget* padre)
     : Pantalla(sesion, "Form407", "Sueldos Mínimos por Categoría", padre) {
     // Cada lista se filtra por los textos de las anteriores (Like '*texto').
-    grupo = new ventana::ComboCatalogo(sesion, "Form29",
-                                       [this] { return master::valoresCatalogo(base(), "grupoconsal"); });
+    grupo = new ventana::ComboCatalogo(
+        sesion, "Form29", [this] { return master::valoresCatalogo(base(), "grupoconsal"); });
     subgrupo = new ventana::ComboCatalogo(sesion, "Form290", [this] {
         return master::valoresCatalogo(base(), "subgrupoconsal", {{"nombre", texto(grupo)}});
     });
@@ -44,12 +47,14 @@ PantallaSueldosMinimos::PantallaSueldosMinimos(frame::Sesion& sesion, QWidget* p
             {{"nombre", texto(grupo)}, {"nombre2", texto(subgrupo)}, {"nombre3", texto(sector)}});
     });
     auto* campos = new QFormLayout;
-    const std::pair<const char*, QWidget*> filas[] = {
-        {"Grupo Con. Salarios", grupo}, {"SubGrupo Con. Salarios", subgrupo},
-        {"Sector", sector},             {"Categoría", categoria},
-        {"Fecha Ini.", fechaini},       {"Fecha Fin", fechafin},
-        {"Sueldo", sueldo}};
-    const char* nombres[] = {"grupo", "subgrupo", "sector", "categoria",
+    const std::pair<const char*, QWidget*> filas[] = {{"Grupo Con. Salarios", grupo},
+                                                      {"SubGrupo Con. Salarios", subgrupo},
+                                                      {"Sector", sector},
+                                                      {"Categoría", categoria},
+                                                      {"Fecha Ini.", fechaini},
+                                                      {"Fecha Fin", fechafin},
+                                                      {"Sueldo", sueldo}};
+    const char* nombres[] = {"grupo",    "subgrupo", "sector", "categoria",
                              "fechaini", "fechafin", "sueldo"};
     int i = 0;
     for (const auto& [etiqueta, campo] : filas) {
@@ -58,7 +63,7 @@ PantallaSueldosMinimos::PantallaSueldosMinimos(frame::Sesion& sesion, QWidget* p
     }
     sueldo->setMaximumWidth(160);
     grilla->setObjectName("grilla");
-    auto* todo = new QVBoxLayout(this);
+    auto* todo = new QVBoxLayout(lienzo());
     todo->addLayout(campos);
     auto* botones = botonera({{Qt::Key_F1, "F1 Ayuda", [this] { ayuda(); }},
                               {Qt::Key_F2, "F2 Buscar", [this] { Buscar_Click(); }},
@@ -72,7 +77,7 @@ PantallaSueldosMinimos::PantallaSueldosMinimos(frame::Sesion& sesion, QWidget* p
     botones->addWidget(porcaum);
     todo->addLayout(botones);
     todo->addWidget(grilla, 1);
-    resize(640, 560);
+    pedirTamano(640, 560);
 
     // Enter en cada combo pide los anteriores y carga el siguiente.
     ventana::ComboCatalogo* siguientes[] = {subgrupo, sector, categoria, nullptr};
@@ -86,8 +91,9 @@ PantallaSueldosMinimos::PantallaSueldosMinimos(frame::Sesion& sesion, QWidget* p
         });
     alPulsarEnter(fechaini, [this] {
         if (completos() == 4 && fechaini->formatoValido(false)) return true;
-        advertir("Debe completar los campos Grupo, SubGrupo Con. Salarios, Sector, Categoría y "
-                 "FechaIni debe tener el formato: dd/MM/aa.");
+        advertir(
+            "Debe completar los campos Grupo, SubGrupo Con. Salarios, Sector, Categoría y "
+            "FechaIni debe tener el formato: dd/MM/aa.");
         return false;
     });
     alPulsarEnter(fechafin, [this] {
@@ -95,8 +101,9 @@ PantallaSueldosMinimos::PantallaSueldosMinimos(frame::Sesion& sesion, QWidget* p
             Buscar_Click();
             return false;
         }
-        advertir("Debe completar los campos Grupo, SubGrupo Con. Salarios, Sector, Categoría, "
-                 "FechaIni y FechaFin debe tener el formato: dd/MM/aa.");
+        advertir(
+            "Debe completar los campos Grupo, SubGrupo Con. Salarios, Sector, Categoría, "
+            "FechaIni y FechaFin debe tener el formato: dd/MM/aa.");
         return false;
     });
     limpiar();
@@ -109,7 +116,7 @@ master::CategoriaLaboral PantallaSueldosMinimos::elegida() const {
 int PantallaSueldosMinimos::completos() const {
     int n = 0;
     for (const auto* c : {grupo, subgrupo, sector, categoria}) {
-        if (s(c).empty()) break;
+        if (deQt(c).empty()) break;
         ++n;
     }
     return n;
@@ -123,11 +130,12 @@ bool PantallaSueldosMinimos::validarHasta(int campos) {
 
 void PantallaSueldosMinimos::Buscar_Click() {
     intentar("Buscar_Click", [this] {
-        if (completos() < 4 || s(fechaini).empty() || s(fechafin).empty())
-            return advertir("Debe completar los campos Grupo, SubGrupo Con. Salarios, Sector, "
-                            "Categoría, FechaIni y FechaFin.");
-        const auto ini = common::Fecha::desdeTexto(s(fechaini));
-        const auto fin = common::Fecha::desdeTexto(s(fechafin));
+        if (completos() < 4 || deQt(fechaini).empty() || deQt(fechafin).empty())
+            return advertir(
+                "Debe completar los campos Grupo, SubGrupo Con. Salarios, Sector, "
+                "Categoría, FechaIni y FechaFin.");
+        const auto ini = common::Fecha::desdeTexto(deQt(fechaini));
+        const auto fin = common::Fecha::desdeTexto(deQt(fechafin));
         if (!ini || !fin) throw common::Fallo(13, "No coinciden los tipos");
         const auto hallado = master::buscarSueldoMinimo(base(), elegida(), *ini, *fin);
         habilitarSegunHallado(hallado.has_value());
@@ -152,13 +160,15 @@ void PantallaSueldosMinimos::Consultar_Click() {
 }
 
 void PantallaSueldosMinimos::Agregar_Click() {
+    if (!camposValidos()) return;
     intentar("Agregar_Click", [this] {
         if (!confirmar("Agregar registro")) return;
-        const auto ini = common::Fecha::desdeTexto(s(fechaini));
-        const auto fin = common::Fecha::desdeTexto(s(fechafin));
-        if (!ini || !fin || !common::esNumerico(s(sueldo)))
+        const auto ini = common::Fecha::desdeTexto(deQt(fechaini));
+        const auto fin = common::Fecha::desdeTexto(deQt(fechafin));
+        if (!ini || !fin || !common::esNumerico(sueldo->valor()))
             throw common::Fallo(13, "No coinciden los tipos");
-        master::agregarSueldoMinimo(base(), {elegida(), *ini, *fin, common::textoANumero(s(sueldo))});
+        master::agregarSueldoMinimo(base(),
+                                    {elegida(), *ini, *fin, common::textoANumero(sueldo->valor())});
         Consultar_Click();
         limpiar();
     });
@@ -167,8 +177,8 @@ void PantallaSueldosMinimos::Agregar_Click() {
 void PantallaSueldosMinimos::Eliminar_Click() {
     intentar("Eliminar_Click", [this] {
         if (!confirmar("Eliminar registro")) return;
-        const auto ini = common::Fecha::desdeTexto(s(fechaini));
-        const auto fin = common::Fecha::desdeTexto(s(fechafin));
+        const auto ini = common::Fecha::desdeTexto(deQt(fechaini));
+        const auto fin = common::Fecha::desdeTexto(deQt(fechafin));
         if (!ini || !fin) throw common::Fallo(13, "No coinciden los tipos");
         master::eliminarSueldoMinimo(base(), elegida(), *ini, *fin);
         Consultar_Click();
@@ -185,7 +195,8 @@ void PantallaSueldosMinimos::Porcaum_Click() {
 
 // Deja la categoría elegida y vacía el período y el sueldo.
 void PantallaSueldosMinimos::limpiar() {
-    for (auto* c : {static_cast<QLineEdit*>(fechaini), static_cast<QLineEdit*>(fechafin), sueldo})
+    for (auto* c : {static_cast<QLineEdit*>(fechaini), static_cast<QLineEdit*>(fechafin),
+                    static_cast<QLineEdit*>(sueldo)})
         c->clear();
     boton("Agregar")->setEnabled(false);
     boton("Eliminar")->setEnabled(false);

@@ -4,16 +4,17 @@
 #include <QLineEdit>
 
 #include "frame/ventana/campo_fecha.h"
+#include "frame/ventana/campo_numero.h"
 #include "frame/ventana/combo_catalogo.h"
 #include "frame/ventana/grilla.h"
-#include "master/sueldos_minimos.h"
 #include "frame/ventana/pantalla.h"
+#include "master/sueldos_minimos.h"
 
 namespace nomira::pantallas {
 
 class PantallaSueldosMinimos : public ventana::Pantalla {
     Q_OBJECT
-public:
+  public:
     PantallaSueldosMinimos(frame::Sesion& sesion, QWidget* padre = nullptr);
 
     ventana::ComboCatalogo* grupo;
@@ -22,10 +23,10 @@ public:
     ventana::ComboCatalogo* categoria;
     ventana::CampoFecha* fechaini = new ventana::CampoFecha;
     ventana::CampoFecha* fechafin = new ventana::CampoFecha;
-    QLineEdit* sueldo = new QLineEdit;
+    ventana::CampoNumero* sueldo = new ventana::CampoNumero;
     ventana::Grilla* grilla = new ventana::Grilla;
 
-private:
+  private:
     // Los textos elegidos, sin el código del catálogo: lo que guarda la tabla.
     master::CategoriaLaboral elegida() const;
     // Cuántos de los cuatro combos, en orden, tienen texto.

@@ -8,16 +8,13 @@
 #include "common/numeros.h"
 #include "common/reloj.h"
 #include "frame/ventana/registro_pantallas.h"
+#include "frame/ventana/texto_qt.h"
 #include "master/variables.h"
 
 namespace nomira::pantallas {
 
-namespace {
-
-QString q(const std::string& s) { return QString::fromStdString(s); }
-std::string s(const QLineEdit* campo) { return campo->text().trimmed().toStdString(); }
-
-}  // namespace
+using ventana::aQt;
+using ventana::deQt;
 
 const std::vector<InstanciaVariables>& instanciasVariables() {
     static const std::vector<InstanciaVariables> tabla = {
@@ -46,7 +43,7 @@ PantallaVariables::PantallaVariables(frame::Sesion& sesion, const InstanciaVaria
     campos->addRow("Valor", valor);
     valor->setMaximumWidth(160);
 
-    auto* todo = new QVBoxLayout(this);
+    auto* todo = new QVBoxLayout(lienzo());
     todo->addLayout(campos);
     todo->addLayout(botonera({{Qt::Key_F1, "F1 Ayuda", [this] { ayuda(); }},
                               {Qt::Key_F2, "F2 Buscar", [this] { Buscar_Click(); }},
@@ -55,7 +52,7 @@ PantallaVariables::PantallaVariables(frame::Sesion& sesion, const InstanciaVaria
                               {Qt::Key_F7, "F7 Eliminar", [this] { Eliminar_Click(); }},
                               {Qt::Key_F8, "F8 Imprimir", [this] { Imprimir_Click(); }}}));
     todo->addWidget(grilla, 1);
-    resize(560, 480);
+    pedirTamano(560, 480);
 
     alPulsarEnter(nombre, [this] { return CalculoFecha(); });
     alPulsarEnter(fecha, [this] {
@@ -73,36 +70,36 @@ PantallaVariables::PantallaVariables(frame::Sesion& sesion, const InstanciaVaria
     if (*instancia_.variable) {
         nombre->setText(instancia_.variable);
         nombre->setReadOnly(true);
-        fecha->setText(q(common::CalculaFecha(common::hoy())));
+        fecha->setText(aQt(common::CalculaFecha(common::hoy())));
     }
     limpiar();
     Consultar_Click();
 }
 
 bool PantallaVariables::CalculoFecha() {
-    if (s(nombre).empty()) {
+    if (deQt(nombre).empty()) {
         advertir("Debe completar el campo Nombre.");
         return false;
     }
-    fecha->setText(q(common::CalculaFecha(common::hoy())));
+    fecha->setText(aQt(common::CalculaFecha(common::hoy())));
     fecha->setFocus();
     return false;
 }
 
 bool PantallaVariables::fechaCompleta() {
-    return !s(nombre).empty() && fecha->formatoValido(false);
+    return !deQt(nombre).empty() && fecha->formatoValido(false);
 }
 
 void PantallaVariables::Buscar_Click() {
     intentar("Buscar_Click", [this] {
-        if (s(nombre).empty() || s(fecha).empty())
+        if (deQt(nombre).empty() || deQt(fecha).empty())
             return advertir("Debe completar los campos Nombre y Fecha.");
-        const auto f = common::Fecha::desdeTexto(s(fecha));
+        const auto f = common::Fecha::desdeTexto(deQt(fecha));
         if (!f) throw common::Fallo(13, "No coinciden los tipos");
-        const auto hallado = master::buscarVariable(base(), s(nombre), *f);
+        const auto hallado = master::buscarVariable(base(), deQt(nombre), *f);
         habilitarSegunHallado(hallado.has_value());
         if (hallado) {
-            valor->setText(q(common::numeroATexto(*hallado)));
+            valor->setText(aQt(common::numeroATexto(*hallado)));
         } else {
             valor->clear();
             valor->setFocus();
@@ -112,24 +109,27 @@ void PantallaVariables::Buscar_Click() {
 
 void PantallaVariables::Consultar_Click() {
     intentar("Consultar_Click", [this] {
-        const auto filas = *instancia_.variable ? master::listarVariable(base(), instancia_.variable)
-                                                : master::listarOtrasVariables(base());
+        const auto filas = *instancia_.variable
+                               ? master::listarVariable(base(), instancia_.variable)
+                               : master::listarOtrasVariables(base());
         std::vector<std::vector<std::string>> celdas;
         int n = 0;
         for (const auto& f : filas)
-            celdas.push_back({std::to_string(++n), f.nombre, f.fecha,
-                              common::formatear(f.valor, "##,##0.00")});
+            celdas.push_back(
+                {std::to_string(++n), f.nombre, f.fecha, common::formatear(f.valor, "##,##0.00")});
         grilla->mostrar({"Nro", "Nombre", "Fecha", "Valor"}, celdas, {0, 3});
     });
 }
 
 void PantallaVariables::Agregar_Click() {
+    if (!camposValidos()) return;
     intentar("Agregar_Click", [this] {
         if (!confirmar("Agregar registro")) return;
-        const auto f = common::Fecha::desdeTexto(s(fecha));
+        const auto f = common::Fecha::desdeTexto(deQt(fecha));
         // Valor pasa a moneda: vacío o sin número no es un importe.
-        if (!f || !common::esNumerico(s(valor))) throw common::Fallo(13, "No coinciden los tipos");
-        master::agregarVariable(base(), s(nombre), *f, common::textoANumero(s(valor)));
+        if (!f || !common::esNumerico(valor->valor()))
+            throw common::Fallo(13, "No coinciden los tipos");
+        master::agregarVariable(base(), deQt(nombre), *f, common::textoANumero(valor->valor()));
         Consultar_Click();
         limpiar();
     });
@@ -138,9 +138,9 @@ void PantallaVariables::Agregar_Click() {
 void PantallaVariables::Eliminar_Click() {
     intentar("Eliminar_Click", [this] {
         if (!confirmar("Eliminar registro")) return;
-        const auto f = common::Fecha::desdeTexto(s(fecha));
+        const auto f = common::Fecha::desdeTexto(deQt(fecha));
         if (!f) throw common::Fallo(13, "No coinciden los tipos");
-        master::eliminarVariable(base(), s(nombre), *f);
+        master::eliminarVariable(base(), deQt(nombre), *f);
         Consultar_Click();
         limpiar();
     });
@@ -148,8 +148,9 @@ void PantallaVariables::Eliminar_Click() {
 
 void PantallaVariables::Imprimir_Click() {
     intentar("Imprimir_Click", [this] {
-        const auto filas = *instancia_.variable ? master::listarVariable(base(), instancia_.variable)
-                                                : master::listarOtrasVariables(base());
+        const auto filas = *instancia_.variable
+                               ? master::listarVariable(base(), instancia_.variable)
+                               : master::listarOtrasVariables(base());
         imprimirInforme(master::lineasListaVariables(filas), "variables");
     });
 }
@@ -164,13 +165,6 @@ void PantallaVariables::limpiar() {
     boton("Agregar")->setEnabled(false);
     boton("Eliminar")->setEnabled(false);
     (*instancia_.variable ? static_cast<QWidget*>(fecha) : nombre)->setFocus();
-}
-
-void registrarPantallasVariables() {
-    for (const auto& i : instanciasVariables())
-        ventana::registroPantallas()[i.formulario] = [&i](frame::Sesion& s, QWidget* padre) {
-            return new PantallaVariables(s, i, padre);
-        };
 }
 
 }  // namespace nomira::pantallas

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "frame/ventana/campo_fecha.h"
+#include "frame/ventana/campo_numero.h"
 #include "frame/ventana/grilla.h"
 #include "frame/ventana/pantalla.h"
 
@@ -21,16 +22,16 @@ const std::vector<InstanciaVariables>& instanciasVariables();
 
 class PantallaVariables : public ventana::Pantalla {
     Q_OBJECT
-public:
+  public:
     PantallaVariables(frame::Sesion& sesion, const InstanciaVariables& instancia,
                       QWidget* padre = nullptr);
 
     QLineEdit* nombre = new QLineEdit;
     ventana::CampoFecha* fecha = new ventana::CampoFecha;
-    QLineEdit* valor = new QLineEdit;
+    ventana::CampoNumero* valor = new ventana::CampoNumero;
     ventana::Grilla* grilla = new ventana::Grilla;
 
-private:
+  private:
     bool CalculoFecha();
     bool fechaCompleta();
     void Buscar_Click();
@@ -42,7 +43,5 @@ private:
 
     InstanciaVariables instancia_;
 };
-
-void registrarPantallasVariables();
 
 }  // namespace nomira::pantallas

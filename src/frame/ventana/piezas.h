@@ -1,6 +1,6 @@
 #pragma once
-// Piezas que comparten las pantallas de empresas, obras y catálogos: textos
-// entre Qt y la base, botones con su tecla, impresión y copia de listados.
+// Piezas que comparten las pantallas: botones con su tecla y la copia de
+// listados a una carpeta.
 #include <QAction>
 #include <QPushButton>
 #include <QString>
@@ -9,17 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "store/conexion.h"
+#include "frame/ventana/texto_qt.h"
 
-namespace nomira::pantallas {
-
-inline QString aQt(const std::string& s) {
-    return QString::fromStdString(s);
-}
-// Lo escrito en un campo, sin los blancos de los extremos.
-inline std::string deQt(const QString& q) {
-    return q.trimmed().toStdString();
-}
+namespace nomira::ventana {
 
 // "F5 Agregar", con objectName "Agregar"; sin tecla, sólo el nombre.
 QPushButton* botonConTecla(const QString& nombre, Qt::Key tecla = Qt::Key_unknown);
@@ -30,4 +22,4 @@ QAction* accionConTecla(QToolBar* barra, const QString& nombre, Qt::Key tecla);
 void llevarListado(const std::vector<std::string>& lineas, const std::string& archivo,
                    const std::function<QString()>& elegirCarpeta);
 
-}  // namespace nomira::pantallas
+}  // namespace nomira::ventana

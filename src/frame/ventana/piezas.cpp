@@ -1,20 +1,20 @@
-#include "screens/empresas/piezas.h"
+#include "frame/ventana/piezas.h"
 
 #include "frame/carpeta.h"
 #include "frame/ventana/pantalla.h"
 #include "master/archivo_texto.h"
 
-namespace nomira::pantallas {
+namespace nomira::ventana {
 
 QPushButton* botonConTecla(const QString& nombre, Qt::Key tecla) {
-    auto* b = new QPushButton(ventana::rotuloTecla(nombre, tecla));
+    auto* b = new QPushButton(rotuloTecla(nombre, tecla));
     b->setObjectName(nombre);
     b->setAutoDefault(false);
     return b;
 }
 
 QAction* accionConTecla(QToolBar* barra, const QString& nombre, Qt::Key tecla) {
-    auto* a = barra->addAction(ventana::rotuloTecla(nombre, tecla));
+    auto* a = barra->addAction(rotuloTecla(nombre, tecla));
     a->setObjectName(nombre);
     return a;
 }
@@ -31,4 +31,4 @@ void llevarListado(const std::vector<std::string>& lineas, const std::string& ar
     master::llevarACarpeta(ruta, carpeta.toStdString());
 }
 
-}  // namespace nomira::pantallas
+}  // namespace nomira::ventana
