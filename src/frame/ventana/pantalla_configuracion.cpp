@@ -14,6 +14,7 @@
 #include "common/empaquetados.h"
 #include "frame/carpeta.h"
 #include "frame/ingreso.h"
+#include "frame/usuarios.h"
 
 namespace nomira::ventana {
 
@@ -221,6 +222,11 @@ std::optional<master::Configuracion> PantallaConfiguracion::leerPantalla() {
             sesion_.dialogo->avisar(common::TipoAviso::Advertencia,
                                     "El usuario " + usu + " debe tener PASSWORD y categoría.");
             f.usu->setFocus();
+            return std::nullopt;
+        }
+        if (const auto rechazo = frame::rechazoUsuario(usu, pas)) {
+            sesion_.dialogo->avisar(common::TipoAviso::Advertencia, *rechazo);
+            (*rechazo == frame::kUsuarioMezclado ? f.usu : f.pas)->setFocus();
             return std::nullopt;
         }
         if (pas.empty())
