@@ -29,7 +29,8 @@ std::string unir(const std::vector<std::string>& partes, const char* separador) 
     return r;
 }
 
-bool esPositional(const std::string& nombre) {
+// Un valor sin nombre de opción, como TEXTO de evaluar.
+bool esValor(const std::string& nombre) {
     return !nombre.starts_with("-");
 }
 
@@ -51,7 +52,7 @@ std::string faltan(const CLI::App& app, const std::string& ingles) {
         nombres.push_back(m[1]);
     }
     if (nombres.size() == 1)
-        return (esPositional(nombres[0]) ? "Falta el valor " : "Falta la opción ") + nombres[0] +
+        return (esValor(nombres[0]) ? "Falta el valor " : "Falta la opción ") + nombres[0] +
                ".";
     return "Faltan " + unir(nombres, ", ") + ".";
 }
