@@ -7,6 +7,8 @@
 int main(int argc, char** argv) {
     using namespace nomira;
     CLI::App app{"Nomira: liquidación de sueldos desde la línea de órdenes"};
+    // Antes de las órdenes: cada una copia la opción de ayuda de la aplicación.
+    app.set_help_flag("-h,--help", "Muestra esta ayuda y termina");
     app.require_subcommand(1);
     cli::Contexto ctx;
     app.add_option("--base", ctx.base, "Archivo SQLite o cadena de conexión PostgreSQL");
@@ -21,11 +23,16 @@ int main(int argc, char** argv) {
     cli::registrarOrdenesDescuentos(app, ctx);
     cli::registrarOrdenesLiquidacion(app, ctx);
     cli::registrarOrdenesDemo(app, ctx);
+    cli::registrarOrdenesUsuario(app, ctx);
+    cli::enCastellano(app);
 
     try {
         app.parse(argc, argv);
+    } catch (const CLI::Success& e) {
+        return app.exit(e);  // --help
     } catch (const CLI::ParseError& e) {
-        return app.exit(e) == 0 ? 0 : 2;
+        std::cerr << cli::mensajeDeUso(e, app) << '\n';
+        return 1;
     }
     if (si) ctx.respuesta = true;
     if (no) ctx.respuesta = false;

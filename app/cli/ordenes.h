@@ -22,7 +22,19 @@ struct Contexto {
     frame::DialogoConsola dialogo() const;
 };
 
+// Los mensajes en castellano: etiquetas de la ayuda y errores de la línea de órdenes.
+void enCastellano(CLI::App& app);
+std::string mensajeDeUso(const CLI::ParseError& e, const CLI::App& app);
+
+// Comprobaciones comunes; las que fallan ya dijeron por qué en stderr.
+bool empresaAceptada(store::Conexion& base, const std::string& empresa);
+// --nombre "" se rechaza: sin la opción, la orden va sobre toda la empresa.
+bool nombreAceptado(const std::optional<std::string>& nombre);
+// Un número finito escrito con ".", o nada.
+std::optional<double> leerNumero(const std::string& texto);
+
 void registrarOrdenesBase(CLI::App& app, Contexto& ctx);
+void registrarOrdenesUsuario(CLI::App& app, Contexto& ctx);
 void registrarOrdenesFormula(CLI::App& app, Contexto& ctx);
 void registrarOrdenesMantenimiento(CLI::App& app, Contexto& ctx);
 void registrarOrdenesDatos(CLI::App& app, Contexto& ctx);

@@ -4,6 +4,7 @@
 #include "cli/ordenes.h"
 #include "frame/arranque.h"
 #include "frame/carpeta.h"
+#include "frame/usuarios.h"
 
 namespace nomira::cli {
 
@@ -46,6 +47,10 @@ void registrarOrdenesBase(CLI::App& app, Contexto& ctx) {
         ctx.accion = [&ctx] {
             if (usuario.empty() != password.empty()) {
                 std::cerr << "Debe completar los campos USUARIO y PASSWORD.\n";
+                return 1;
+            }
+            if (const auto rechazo = frame::rechazoUsuario(usuario, password)) {
+                std::cerr << *rechazo << '\n';
                 return 1;
             }
             const auto destino = ctx.destino();

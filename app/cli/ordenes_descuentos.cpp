@@ -14,10 +14,12 @@ namespace nomira::cli {
 namespace {
 
 struct OpcionesMes {
-    std::string empresa, nombre, mes;
+    std::string empresa, mes;
+    std::optional<std::string> nombre;  // sin --nombre, descuentos va sobre toda la empresa
 };
 
-struct OpcionesRenglon : OpcionesMes {
+struct OpcionesRenglon {
+    std::string empresa, nombre, mes;
     long codigo = 0;
     std::optional<std::string> cant, total, periodo;
 };
@@ -35,13 +37,14 @@ void mostrar(const engine::FilaLiquidada& f) {
 
 int descuentos(const Contexto& ctx, const OpcionesMes& o) {
     const auto mes = leerMes(o.mes);
-    if (!mes) return 1;
+    if (!mes || !nombreAceptado(o.nombre)) return 1;
     auto base = ctx.abrir();
+    if (!empresaAceptada(*base, o.empresa)) return 1;
     auto dialogo = ctx.dialogo();
-    const char* procedimiento = o.nombre.empty() ? "ActDesPermxEmpresa_Click" : "DescPerm_Click";
+    const char* procedimiento = o.nombre ? "DescPerm_Click" : "ActDesPermxEmpresa_Click";
     try {
-        if (!o.nombre.empty()) {
-            const auto r = engine::DescPerm(*base, o.empresa, o.nombre, *mes, dialogo);
+        if (o.nombre) {
+            const auto r = engine::DescPerm(*base, o.empresa, *o.nombre, *mes, dialogo);
             for (const auto& f : r.filas) mostrar(f);
             return r.hecho ? 0 : 1;
         }
@@ -67,6 +70,7 @@ int renglon(const Contexto& ctx, const OpcionesRenglon& o) {
     const auto mes = leerMes(o.mes);
     if (!mes) return 1;
     auto base = ctx.abrir();
+    if (!empresaAceptada(*base, o.empresa)) return 1;
     auto dialogo = ctx.dialogo();
     if (o.periodo) dialogo.responderTexto(*o.periodo);
     engine::ContextoFormula c;

@@ -98,6 +98,7 @@ int formula(const Contexto& ctx, const OpcionesOrden& o) {
     }
 
     auto base = ctx.abrir();
+    if (!empresaAceptada(*base, o.empresa)) return 1;
     master::LectorVariables variables(*base);
     ContextoFormula c;
     c.variables = &variables;
@@ -132,7 +133,10 @@ int formula(const Contexto& ctx, const OpcionesOrden& o) {
 void registrarOrdenesFormula(CLI::App& app, Contexto& ctx) {
     auto* ev = app.add_subcommand("evaluar", "Evalúa una expresión sin corchetes");
     static std::string expresion;
-    ev->add_option("TEXTO", expresion, "La expresión")->required();
+    ev->add_option("TEXTO", expresion,
+                   "La expresión. Si empieza con un signo menos, escriba -- antes: "
+                   "nomira-cli evaluar -- -1+2")
+        ->required();
     ev->callback([&ctx] {
         ctx.accion = [] {
             std::cout << common::numeroATexto(engine::evaluarExpresion(expresion)) << '\n';

@@ -19,7 +19,8 @@ namespace nomira::cli {
 namespace {
 
 struct OpcionesLiquidacion {
-    std::string empresa, nombre, mes;
+    std::string empresa, mes;
+    std::optional<std::string> nombre;  // sin --nombre, haberes va sobre toda la empresa
     bool explicar = false;
     long codigo = 0;
     bool haberes = false, descuentos = false;
@@ -41,13 +42,14 @@ void mostrar(const engine::FilaLiquidada& f, bool explicar) {
 
 int haberes(const Contexto& ctx, const OpcionesLiquidacion& o) {
     const auto mes = mesDe(o.mes);
-    if (!mes) return 1;
+    if (!mes || !nombreAceptado(o.nombre)) return 1;
     auto base = ctx.abrir();
+    if (!empresaAceptada(*base, o.empresa)) return 1;
     auto dialogo = ctx.dialogo();
-    const char* procedimiento = o.nombre.empty() ? "ActHamPermxEmpresa_Click" : "HabPerm_Click";
+    const char* procedimiento = o.nombre ? "HabPerm_Click" : "ActHamPermxEmpresa_Click";
     try {
-        if (!o.nombre.empty()) {
-            const auto r = engine::generarHaberesPermanentes(*base, o.empresa, o.nombre, *mes,
+        if (o.nombre) {
+            const auto r = engine::generarHaberesPermanentes(*base, o.empresa, *o.nombre, *mes,
                                                              dialogo, engine::conArchivoDeHoras());
             for (const auto& f : r.filas) mostrar(f, o.explicar);
             return r.hecho ? 0 : 1;
@@ -76,12 +78,14 @@ int liquidacion(const Contexto& ctx, const OpcionesLiquidacion& o) {
     const auto mes = mesDe(o.mes);
     if (!mes) return 1;
     auto base = ctx.abrir();
+    if (!empresaAceptada(*base, o.empresa)) return 1;
     auto dialogo = ctx.dialogo();
     engine::ContextoFormula c;
-    const auto mp = engine::BuscarVerif(*base, o.empresa, o.nombre, *mes, c, dialogo);
+    const auto& nombre = o.nombre.value();
+    const auto mp = engine::BuscarVerif(*base, o.empresa, nombre, *mes, c, dialogo);
     if (!mp) return 1;
     // Los haberes primero, como las dos grillas.
-    auto filas = engine::filasParaGrillas(*base, o.empresa, o.nombre, *mes);
+    auto filas = engine::filasParaGrillas(*base, o.empresa, nombre, *mes);
     std::stable_partition(filas.begin(), filas.end(),
                           [](const auto& f) { return f.tipo == "Hab"; });
     for (const auto& f : filas) {
@@ -89,7 +93,7 @@ int liquidacion(const Contexto& ctx, const OpcionesLiquidacion& o) {
                   << common::numeroATexto(f.cant) << " | " << engine::pesos(f.total) << '\n';
         if (!o.explicar) continue;
         const auto texto = engine::leerExplicacion(*base, engine::TablaLiquidacion::Habydesc,
-                                                   o.empresa, o.nombre, *mes, f.codigo);
+                                                   o.empresa, nombre, *mes, f.codigo);
         if (!texto.empty()) std::cout << "    " << texto << '\n';
     }
     const auto& d = mp->desglose;
@@ -108,7 +112,8 @@ int liquidacion(const Contexto& ctx, const OpcionesLiquidacion& o) {
 int borrar(const Contexto& ctx, const OpcionesLiquidacion& o) {
     const auto mes = mesDe(o.mes);
     if (!mes) return 1;
-    if (o.empresa.empty() || o.nombre.empty() || o.mes.empty()) {
+    const auto& nombre = o.nombre.value();
+    if (o.empresa.empty() || nombre.empty() || o.mes.empty()) {
         std::cerr << engine::kFaltanCamposMes << '\n';
         return 1;
     }
@@ -117,18 +122,19 @@ int borrar(const Contexto& ctx, const OpcionesLiquidacion& o) {
         return 1;
     }
     auto base = ctx.abrir();
+    if (!empresaAceptada(*base, o.empresa)) return 1;
     auto dialogo = ctx.dialogo();
     try {
         if (o.haberes || o.descuentos) {
             const long n =
                 o.haberes
-                    ? engine::eliminarHaberesDelMes(*base, o.empresa, o.nombre, *mes, dialogo)
-                    : engine::eliminarDescuentosDelMes(*base, o.empresa, o.nombre, *mes, dialogo);
+                    ? engine::eliminarHaberesDelMes(*base, o.empresa, nombre, *mes, dialogo)
+                    : engine::eliminarDescuentosDelMes(*base, o.empresa, nombre, *mes, dialogo);
             if (n >= 0) std::cout << "filas borradas: " << n << '\n';
             return 0;
         }
         engine::ContextoFormula c;
-        auto mp = engine::BuscarVerif(*base, o.empresa, o.nombre, *mes, c, dialogo);
+        auto mp = engine::BuscarVerif(*base, o.empresa, nombre, *mes, c, dialogo);
         if (!mp) return 1;
         const auto buscado = engine::buscarRenglon(*mp, c, o.codigo, dialogo);
         if (!buscado) return 1;

@@ -14,15 +14,10 @@ namespace nomira::cli {
 
 namespace {
 
-std::optional<double> numero(const std::string& texto) {
-    if (!common::esNumerico(texto)) return std::nullopt;
-    return common::textoANumero(texto);
-}
-
 int variable(const Contexto& ctx, const std::string& nombre, const std::string& fecha,
              const std::string& valor) {
     const auto f = common::Fecha::desdeTexto(fecha);
-    const auto v = numero(valor);
+    const auto v = leerNumero(valor);
     if (nombre.empty() || !f || fecha.size() != 8) {
         std::cerr << "Debe completar el campo Nombre y los campos de tipo fecha deben tener el "
                      "formato: dd/MM/aa.\n";
@@ -50,12 +45,16 @@ int franja(const Contexto& ctx, const std::vector<std::string>& a) {
                               "Debe completar el campo Max.", "Debe completar el campo Tasa."};
     double v[4];
     for (int i = 0; i < 4; ++i) {
-        const auto n = numero(a.at(i));
+        const auto n = leerNumero(a.at(i));
         if (!n) {
             std::cerr << mensajes[i] << '\n';
             return 1;
         }
         v[i] = *n;
+    }
+    if (const auto rechazo = master::rechazoFranja(v[0], v[1], v[2], v[3])) {
+        std::cerr << *rechazo << '\n';
+        return 1;
     }
     master::reemplazarFranja(*ctx.abrir(), {static_cast<long>(v[0]), v[1], v[2], v[3]});
     return 0;
@@ -74,14 +73,22 @@ struct OpcionesAumento {
 };
 
 int aumentar(const Contexto& ctx, const OpcionesAumento& o) {
-    const auto p = numero(o.porcentaje);
+    const auto p = leerNumero(o.porcentaje);
     const auto f = common::Fecha::desdeTexto(o.fsuevig);
     if (o.empresa.empty() || !p || !f) {
         std::cerr << "Debe completar los campos Porcentaje, Empresa y FSueVig.\n";
         return 1;
     }
-    const int n = master::aumentarSueldosEmpresa(
-        *ctx.abrir(), {o.empresa, *p, *f, o.categoria, o.bajar}, common::hoy());
+    if (const auto rechazo = master::rechazoPorcentaje(*p)) {
+        std::cerr << *rechazo << '\n';
+        return 1;
+    }
+    auto base = ctx.abrir();
+    if (!empresaAceptada(*base, o.empresa)) return 1;
+    auto dialogo = ctx.dialogo();
+    if (!master::confirmarPorcentaje(dialogo, *p, o.bajar)) return 1;
+    const int n = master::aumentarSueldosEmpresa(*base, {o.empresa, *p, *f, o.categoria, o.bajar},
+                                                 common::hoy());
     std::cerr << (o.bajar ? "Decremento de Sueldos x Empresas finalizado."
                           : "Aumento de Sueldos x Empresas finalizado.")
               << '\n';
@@ -119,6 +126,7 @@ void registrarOrdenesVariables(CLI::App& app, Contexto& ctx) {
     au->add_option("--fsuevig", o.fsuevig, "Fecha de vigencia del sueldo, dd/mm/aa")->required();
     au->add_option("--categoria", o.categoria, "Sólo las personas de esta categoría");
     au->add_flag("--bajar", o.bajar, "Baja los sueldos en vez de aumentarlos");
+    au->fallthrough();  // --si y --no también después de la orden
     au->callback([&ctx] { ctx.accion = [&ctx] { return aumentar(ctx, o); }; });
 }
 

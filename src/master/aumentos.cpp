@@ -100,6 +100,21 @@ double sueldoBajado(double sueldo, double porcentaje, const std::string& tiposue
         textoDeSueldo(aDosDecimales(sueldo / (1 + porcentaje / 100)), tiposueldo));
 }
 
+std::optional<std::string> rechazoPorcentaje(double porcentaje) {
+    if (!(porcentaje > -100 && porcentaje <= kMaxPorcentaje))
+        return "El Porcentaje debe ser mayor que -100 y no pasar de 10000.";
+    return std::nullopt;
+}
+
+bool confirmarPorcentaje(common::Dialogo& dialogo, double porcentaje, bool bajar) {
+    if (porcentaje >= 0) return true;
+    return dialogo.confirmar(
+        bajar ? "Decremento de Sueldos x Empresas" : "Aumento de Sueldos x Empresas",
+        std::string("El Porcentaje es negativo: los sueldos van a ") + (bajar ? "subir" : "bajar") +
+            ". ¿Desea continuar?",
+        false);
+}
+
 int aumentarSueldosEmpresa(store::Conexion& base, const PedidoAumento& pedido,
                            const common::Fecha& hoy) {
     std::string sql =

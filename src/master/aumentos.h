@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "common/dialogo.h"
 #include "common/fechas.h"
 #include "master/sueldos_minimos.h"
 #include "store/conexion.h"
@@ -32,6 +33,15 @@ int eliminarUltimoAumento(store::Conexion& base, const std::string& grupo,
 // mensual ("S"); jornales y horas conservan los centavos.
 double sueldoAumentado(double sueldo, double porcentaje, const std::string& tiposueldo);
 double sueldoBajado(double sueldo, double porcentaje, const std::string& tiposueldo);
+
+// El porcentaje de un aumento o una baja: -100 o menos deja sueldos en cero o
+// negativos (y al bajar divide por cero); más de kMaxPorcentaje, o un número
+// que no es finito, es un error de tipeo. Devuelve el mensaje que lo rechaza.
+inline constexpr double kMaxPorcentaje = 10000;
+std::optional<std::string> rechazoPorcentaje(double porcentaje);
+// Un porcentaje negativo hace lo contrario de lo pedido: se pregunta antes, y
+// la respuesta por defecto es No. Sin pregunta para uno positivo o cero.
+bool confirmarPorcentaje(common::Dialogo& dialogo, double porcentaje, bool bajar);
 
 struct PedidoAumento {
     std::string empresa;

@@ -67,6 +67,13 @@ std::optional<Empresa> leerEmpresa(store::Conexion& base, const std::string& emp
     return e;
 }
 
+std::optional<std::string> rechazoEmpresa(store::Conexion& base, const std::string& empresa) {
+    if (empresa.find_first_not_of(' ') == std::string::npos) return kFaltaEmpresa;
+    if (base.consulta("SELECT 1 AS hay FROM empresas WHERE empresa = ?", {empresa}).vacio())
+        return kNoExisteEmpresa;
+    return std::nullopt;
+}
+
 std::string tipoaporteDe(store::Conexion& base, const Empresa& empresa) {
     return codigoEnCatalogo(base, "tipoaport", empresa.tipoaport);
 }

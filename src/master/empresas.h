@@ -27,6 +27,14 @@ const Campos<Empresa>& camposEmpresa();
 
 std::optional<Empresa> leerEmpresa(store::Conexion& base, const std::string& empresa);
 
+inline constexpr const char* kFaltaEmpresa = "Debe completar el campo Empresa.";
+inline constexpr const char* kNoExisteEmpresa =
+    "No existe la Empresa, deberá 1ero ingresarla en la ventana Empresas.";
+// Lo que impide trabajar sobre esa empresa (nombre vacío o empresa que no está
+// en la base), o nada si existe. Una orden sobre una empresa que no existe no
+// haría nada y parecería terminar bien.
+std::optional<std::string> rechazoEmpresa(store::Conexion& base, const std::string& empresa);
+
 // El código de aportación de la empresa: las dos cifras de su fila de
 // `tipoaport` ("04" apaga el montepío y baja el SNIS); "" si no hay fila.
 std::string tipoaporteDe(store::Conexion& base, const Empresa& empresa);

@@ -1,5 +1,7 @@
 #include "master/franjas.h"
 
+#include <cmath>
+
 #include "common/dinero.h"
 #include "common/formato.h"
 
@@ -12,6 +14,17 @@ Franja leer(const store::Fila& f) {
 }
 
 }  // namespace
+
+std::optional<std::string> rechazoFranja(double numero, double min, double max, double tasa) {
+    // Las comparaciones están escritas para que un NaN también falle.
+    if (!(numero >= 1 && numero <= kMaxNumeroFranja && numero == std::trunc(numero)))
+        return "La Franja debe ser un número entero entre 1 y 999999.";
+    if (!(min >= 0 && min <= kMaxLimiteFranja && max >= 0 && max <= kMaxLimiteFranja))
+        return "Min y Max deben ser números entre 0 y 9999999 (BPC).";
+    if (min > max) return "Min no puede ser mayor que Max.";
+    if (!(tasa >= 0 && tasa <= 100)) return "La Tasa debe ser un número entre 0 y 100.";
+    return std::nullopt;
+}
 
 void agregarFranja(store::Conexion& base, const Franja& f) {
     base.ejecuta("INSERT INTO franjasirp (franja, min, max, tasa) VALUES (?, ?, ?, ?)",

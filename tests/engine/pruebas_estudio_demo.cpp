@@ -72,7 +72,6 @@ class EstudioDemo : public pruebas::BaseEstudioDemo {
     void liquidar(const std::string& empresa) {
         const auto h = ActHamPermxEmpresa(c(), empresa, kMes, dialogo, conArchivoDeHoras());
         ASSERT_FALSE(h.fallo) << h.personaFallida;
-        master::LectorVariables variables(c());
         const auto d = ActDesPermxEmpresa(c(), empresa, kMes, dialogo);
         ASSERT_FALSE(d.fallo) << d.personaFallida;
     }

@@ -1,8 +1,10 @@
 // El evaluador de fórmulas frente a lo que da VBScript. Cada texto se evalúa
 // de las dos maneras (de una vez y analizado para repetir) y deben coincidir.
 #include <gtest/gtest.h>
+#include <pthread.h>
 
 #include <cmath>
+#include <functional>
 #include <string>
 
 #include "common/fallo.h"
@@ -115,6 +117,16 @@ TEST(Evaluador, ComparacionesYOperadoresLogicos) {
     EXPECT_EQ(valor("0 Imp 0"), -1);
     EXPECT_EQ(valor("True And Not False"), -1);
     EXPECT_EQ(valor("(2 > 1) And (3 > 4)"), 0);
+    // Las otras grafías que acepta VBScript, con la misma precedencia.
+    EXPECT_EQ(valor("2=>2"), -1);
+    EXPECT_EQ(valor("3=>4"), 0);
+    EXPECT_EQ(valor("1=<1"), -1);
+    EXPECT_EQ(valor("2=<1"), 0);
+    EXPECT_EQ(valor("2><2"), 0);
+    EXPECT_EQ(valor("2><3"), -1);
+    EXPECT_EQ(valor("1+1=>2*1"), -1);
+    EXPECT_EQ(valor("(5=<4)*3 + (5><4)"), -1);
+    EXPECT_EQ(numeroDeError("2=><3"), 1002);
 }
 
 TEST(Evaluador, RedondeosYConversiones) {
@@ -188,6 +200,17 @@ TEST(Evaluador, FormasDeLosNumeros) {
     EXPECT_EQ(valor("&HFF"), 255);
     EXPECT_EQ(valor("&h10&"), 16);
     EXPECT_EQ(valor("&HFFFFFFFF"), -1);
+    // Sin & y con hasta cuatro cifras, un Integer de 16 bits.
+    EXPECT_EQ(valor("&hffff"), -1);
+    EXPECT_EQ(valor("&hfffe"), -2);
+    EXPECT_EQ(valor("&h7fff"), 32767);
+    EXPECT_EQ(valor("&h8000"), -32768);
+    EXPECT_EQ(valor("&hffff + 1"), 0);
+    EXPECT_EQ(valor("&hffff&"), 65535);
+    EXPECT_EQ(valor("&h0ffff"), 65535);
+    EXPECT_EQ(valor("&h10000"), 65536);
+    EXPECT_EQ(valor("&h8000&"), 32768);
+    EXPECT_EQ(valor("&h80000000"), -2147483648.0);
     EXPECT_EQ(valor("&O17"), 15);
     EXPECT_EQ(numeroDeError("1E400"), 6);
     EXPECT_EQ(numeroDeError("1E"), 1002);
@@ -300,6 +323,56 @@ TEST(Evaluador, ExpresionAnalizadaUnaVez) {
     hondo += "1";
     for (int i = 0; i < 50; ++i) hondo += ")";
     EXPECT_EQ(valor(hondo), 51);
+}
+
+// Corre f en un hilo con una pila de 1 MB, la de un hilo de Windows o de un
+// ulimit corto: si el análisis no tuviera tope, la prueba moriría aquí.
+void conPilaDeUnMega(const std::function<void()>& f) {
+    pthread_attr_t atributos;
+    pthread_attr_init(&atributos);
+    pthread_attr_setstacksize(&atributos, 1 << 20);
+    pthread_t hilo;
+    auto correr = [](void* p) -> void* {
+        (*static_cast<const std::function<void()>*>(p))();
+        return nullptr;
+    };
+    ASSERT_EQ(pthread_create(&hilo, &atributos, correr, const_cast<std::function<void()>*>(&f)), 0);
+    pthread_join(hilo, nullptr);
+    pthread_attr_destroy(&atributos);
+}
+
+std::string repetir(std::string_view pieza, int veces) {
+    std::string s;
+    for (int i = 0; i < veces; ++i) s += pieza;
+    return s;
+}
+
+TEST(Evaluador, AnidamientoConTope) {
+    conPilaDeUnMega([] {
+        const int tope = kMaxAnidamiento;
+        // Hasta el tope se calcula, de las dos maneras.
+        EXPECT_EQ(valor(repetir("(", tope) + "7" + repetir(")", tope)), 7);
+        EXPECT_EQ(valor(repetir("Abs(", tope) + "-7" + repetir(")", tope)), 7);
+        EXPECT_EQ(valor(repetir("1+(", tope) + "1" + repetir(")", tope)), tope + 1);
+
+        const Error uno = error(repetir("(", tope + 1) + "7" + repetir(")", tope + 1));
+        EXPECT_EQ(uno.numero, kErrorAnidamiento);
+        EXPECT_EQ(uno.descripcion, "Fórmula demasiado anidada");
+        // Lo que antes agotaba la pila: catorce mil paréntesis, abiertos y sin cerrar.
+        EXPECT_EQ(numeroDeError(repetir("(", 14000) + "1" + repetir(")", 14000)),
+                  kErrorAnidamiento);
+        EXPECT_EQ(numeroDeError(repetir("(", 14000)), kErrorAnidamiento);
+        EXPECT_EQ(numeroDeError(repetir("Round(1,", 14000)), kErrorAnidamiento);
+        // El tope cuenta la profundidad, no cuántos paréntesis hay en total.
+        EXPECT_EQ(valor(repetir("(1)+", 5000) + "1"), 5001);
+        // Signos y Not seguidos no anidan llamadas: no tienen tope.
+        EXPECT_EQ(valor(repetir("-", 100001) + "2"), -2);
+        EXPECT_EQ(valor(repetir("- +", 50000) + "2"), 2);
+        EXPECT_EQ(valor(repetir("Not ", 100001) + "0"), -1);
+        // Un fallo de cálculo no tapa el de anidamiento, que es de análisis.
+        EXPECT_EQ(numeroDeError("1/0 + " + repetir("(", tope + 1) + "1" + repetir(")", tope + 1)),
+                  kErrorAnidamiento);
+    });
 }
 
 }  // namespace

@@ -28,6 +28,7 @@ TEST(OrdenesVariables, VariableFranjaYAumentoDeUnaEmpresa) {
 
     {
         auto c = store::abrir(tmp.archivo("c.db"));
+        c->ejecuta("INSERT INTO empresas (empresa, nroemp) VALUES ('ACME', 1)");
         c->ejecuta("INSERT INTO personal (empresa, nombre, sueldo, tiposueldo) VALUES "
                    "('ACME', 'A, B', '10000', 'S'), ('ACME', 'C, D', '500', 'J')");
     }

@@ -13,6 +13,7 @@
 #include "apoyo/dialogo_guion.h"
 #include "frame/arranque.h"
 #include "frame/ingreso.h"
+#include "frame/usuarios.h"
 #include "frame/ventana/registro_pantallas.h"
 #include "frame/ventana/ventana_principal.h"
 
@@ -152,6 +153,31 @@ TEST_F(Ventana, ConfiguracionGuardaLaFilaTrasConfirmar) {
     EXPECT_EQ(frame::verificarIngreso(c, "nuevo", "NUEVA"), 2);
     // El administrador, que no se tocó, conserva su password.
     EXPECT_EQ(frame::verificarIngreso(c, "ADMIN", "clave"), 1);
+}
+
+TEST_F(Ventana, ConfiguracionRechazaUnUsuarioQueNoPodriaEntrar) {
+    ingresar("ADMIN", "CLAVE");
+    auto* config = principal->abrirPantalla("Form13");
+    auto* usu3 = config->findChild<QLineEdit*>("usu3");
+    auto* pas3 = config->findChild<QLineEdit*>("pas3");
+    ASSERT_TRUE(usu3 && pas3);
+    config->findChild<QComboBox*>("cat3")->setCurrentText("2");
+    auto modificar = [&](const char* usuario, const char* password) {
+        usu3->clear();
+        pas3->clear();
+        QTest::keyClicks(usu3, usuario);
+        QTest::keyClicks(pas3, password);
+        QTest::mouseClick(config->findChild<QPushButton*>("Modificar"), Qt::LeftButton);
+        return master::leerConfiguracion(*sesion.base).usuarios[2].usu;
+    };
+
+    EXPECT_EQ(modificar("Nuevo", "nueva"), "");
+    EXPECT_EQ(dialogo.ultimoMensaje(), frame::kUsuarioMezclado);
+    EXPECT_EQ(modificar("NUEVO", "Nueva"), "");
+    EXPECT_EQ(dialogo.ultimoMensaje(), frame::kPasswordMezclado);
+    EXPECT_EQ(modificar("nuevo", "nueva"), "nuevo");
+    EXPECT_EQ(frame::verificarIngreso(master::leerConfiguracion(*sesion.base), "NUEVO", "NUEVA"),
+              2);
 }
 
 TEST_F(Ventana, EscPreguntaAntesDeSalir) {

@@ -22,6 +22,8 @@ const char* descripcion(int numero) {
             return "Desbordamiento";
         case 11:
             return "División por cero";
+        case kErrorAnidamiento:
+            return "Fórmula demasiado anidada";
         case 13:
             return "No coinciden los tipos";
         case 94:
@@ -267,15 +269,19 @@ void Lexico::avanzar() {
         case '^':
             pieza = Pieza::Circunflejo;
             return;
+        // VBScript también acepta =>, =< y >< por >=, <= y <>, y hay fórmulas
+        // escritas así.
         case '=':
-            pieza = Pieza::Igual;
+            pieza =
+                sig == '>' ? Pieza::MayorIgual : (sig == '<' ? Pieza::MenorIgual : Pieza::Igual);
+            if (pieza != Pieza::Igual) ++pos_;
             return;
         case '<':
             pieza = sig == '>' ? Pieza::Distinto : (sig == '=' ? Pieza::MenorIgual : Pieza::Menor);
             if (pieza != Pieza::Menor) ++pos_;
             return;
         case '>':
-            pieza = sig == '=' ? Pieza::MayorIgual : Pieza::Mayor;
+            pieza = sig == '=' ? Pieza::MayorIgual : (sig == '<' ? Pieza::Distinto : Pieza::Mayor);
             if (pieza != Pieza::Mayor) ++pos_;
             return;
         case '&':
@@ -336,11 +342,17 @@ void Lexico::leerHexOctal(int base) {
         ++pos_;
     }
     if (pos_ == inicio) fallar(1002);
-    if (pos_ < texto_.size() && texto_[pos_] == '&') ++pos_;  // sufijo de Long
-    // Se leen como Long de 32 bits: &HFFFFFFFF es -1.
+    const std::size_t cifras = pos_ - inicio;
+    const bool sufijoLong = pos_ < texto_.size() && texto_[pos_] == '&';
+    if (sufijoLong) ++pos_;
     pieza = Pieza::Numero;
     desborde = false;
-    numero = static_cast<std::int32_t>(static_cast<std::uint32_t>(valor));
+    // Hasta cuatro cifras hexadecimales sin & son un Integer de 16 bits
+    // (&HFFFF es -1); con & o con más cifras, un Long de 32 (&HFFFFFFFF es -1).
+    if (base == 16 && !sufijoLong && cifras <= 4)
+        numero = static_cast<std::int16_t>(static_cast<std::uint16_t>(valor));
+    else
+        numero = static_cast<std::int32_t>(static_cast<std::uint32_t>(valor));
 }
 
 void Lexico::leerNombre() {

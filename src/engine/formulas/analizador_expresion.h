@@ -3,8 +3,11 @@
 // léxico y un analizador descendente con su precedencia. El analizador es una
 // plantilla sobre qué hacer con cada operación: calcularla en el acto (una
 // fórmula que se evalúa una vez) o emitir código para repetirla.
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
+
+#include "engine/formulas/evaluador.h"
 
 namespace nomira::engine::detalle {
 
@@ -142,10 +145,13 @@ class Analizador {
     Valor or_() { return izquierda<&Analizador::and_>(Pieza::Or, Operador::O); }
     Valor and_() { return izquierda<&Analizador::not_>(Pieza::And, Operador::Y); }
 
+    // Una fila de Not no anida llamadas: se cuentan y se aplican al final.
     Valor not_() {
-        if (lex_.pieza != Pieza::Not) return comparacion();
-        lex_.avanzar();
-        return c_.no(not_());
+        std::size_t cuantos = 0;
+        for (; lex_.pieza == Pieza::Not; lex_.avanzar()) ++cuantos;
+        Valor v = comparacion();
+        for (std::size_t i = 0; i < cuantos; ++i) v = c_.no(v);
+        return v;
     }
 
     Valor comparacion() {
@@ -215,16 +221,18 @@ class Analizador {
         return izquierda<&Analizador::signo>(Pieza::Circunflejo, Operador::Potencia);
     }
 
+    // Igual que Not: los signos seguidos se cuentan, sin recursión.
     Valor signo() {
-        if (lex_.pieza == Pieza::Menos) {
-            lex_.avanzar();
-            return c_.negar(signo());
+        std::size_t menos = 0;
+        for (;; lex_.avanzar()) {
+            if (lex_.pieza == Pieza::Menos)
+                ++menos;
+            else if (lex_.pieza != Pieza::Mas)
+                break;
         }
-        if (lex_.pieza == Pieza::Mas) {
-            lex_.avanzar();
-            return signo();
-        }
-        return primario();
+        Valor v = primario();
+        for (std::size_t i = 0; i < menos; ++i) v = c_.negar(v);
+        return v;
     }
 
     Valor primario() {
@@ -240,7 +248,7 @@ class Analizador {
                 return c_.fallo(94);
             case Pieza::Abre: {
                 lex_.avanzar();
-                Valor v = imp();
+                Valor v = anidada();
                 cerrar();
                 return v;
             }
@@ -264,7 +272,7 @@ class Analizador {
         int cuantos = 0;
         if (lex_.pieza != Pieza::Cierra) {
             for (;;) {
-                Valor v = imp();
+                Valor v = anidada();
                 if (cuantos < 2) args[cuantos] = v;
                 ++cuantos;
                 if (lex_.pieza != Pieza::Coma) break;
@@ -273,6 +281,16 @@ class Analizador {
         }
         cerrar();
         return c_.llamada(f, args, cuantos);
+    }
+
+    // Un paréntesis o un argumento es un nivel más de recursión. Con un tope,
+    // un texto hostil da un error en vez de agotar la pila del proceso.
+    Valor anidada() {
+        if (anidamiento_ == kMaxAnidamiento) fallar(kErrorAnidamiento);
+        ++anidamiento_;
+        Valor v = imp();
+        --anidamiento_;
+        return v;
     }
 
     void cerrar() {
@@ -296,6 +314,7 @@ class Analizador {
 
     Lexico lex_;
     C& c_;
+    int anidamiento_ = 0;
 };
 
 }  // namespace nomira::engine::detalle

@@ -7,13 +7,19 @@
 // 5 argumento no válido, 6 desbordamiento, 11 división por cero, 13 tipos que no
 // coinciden, 94 uso de Null, 450 número de argumentos, y los de análisis 1002
 // (sintaxis), 1006 (falta ")"), 1025 (sobra texto al final), 1032 (carácter no
-// válido). Un error de análisis gana siempre a uno de cálculo, porque VBScript
-// compila el texto entero antes de evaluarlo.
+// válido) y 28 (demasiados paréntesis o llamadas uno dentro de otro). Un error
+// de análisis gana siempre a uno de cálculo, porque VBScript compila el texto
+// entero antes de evaluarlo.
 #include <cstdint>
 #include <string_view>
 #include <vector>
 
 namespace nomira::engine {
+
+// Paréntesis y llamadas que pueden ir uno dentro de otro. Una fórmula de
+// concepto usa pocos; el tope cuida la pila, holgado aun con 1 MB.
+inline constexpr int kMaxAnidamiento = 200;
+inline constexpr int kErrorAnidamiento = 28;
 
 // Evalúa una expresión aritmética ya sin corchetes, como lo hace VBScript.
 // Un texto vacío o sólo de blancos vale 0 (Eval devuelve Empty).

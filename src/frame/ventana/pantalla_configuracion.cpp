@@ -15,6 +15,7 @@
 #include "frame/carpeta.h"
 #include "frame/ingreso.h"
 #include "frame/ventana/texto_qt.h"
+#include "frame/usuarios.h"
 
 namespace nomira::ventana {
 
@@ -223,6 +224,11 @@ std::optional<master::Configuracion> PantallaConfiguracion::leerPantalla() {
             sesion_.dialogo->avisar(common::TipoAviso::Advertencia,
                                     "El usuario " + usu + " debe tener PASSWORD y categoría.");
             f.usu->setFocus();
+            return std::nullopt;
+        }
+        if (const auto rechazo = frame::rechazoUsuario(usu, pas)) {
+            sesion_.dialogo->avisar(common::TipoAviso::Advertencia, *rechazo);
+            (*rechazo == frame::kUsuarioMezclado ? f.usu : f.pas)->setFocus();
             return std::nullopt;
         }
         if (pas.empty())

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "frame/ingreso.h"
+#include "frame/usuarios.h"
 
 namespace nomira::ventana {
 
@@ -51,6 +52,11 @@ void DialogoPrimerUsuario::aceptar() {
         return dialogo_.avisar(TipoAviso::Advertencia, frame::kFaltanCampos);
     if (password_->text() != repetido_->text())
         return dialogo_.avisar(TipoAviso::Advertencia, "Los dos PASSWORD no coinciden.");
+    if (const auto rechazo = frame::rechazoUsuario(usuario(), password())) {
+        dialogo_.avisar(TipoAviso::Advertencia, *rechazo);
+        (*rechazo == frame::kUsuarioMezclado ? usuario_ : password_)->setFocus();
+        return;
+    }
     accept();
 }
 
