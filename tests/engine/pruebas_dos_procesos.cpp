@@ -1,8 +1,10 @@
-// Dos PC liquidan a la vez personas distintas de una misma empresa: lo que queda en la
-// base es lo mismo que dejan las dos corridas una después de la otra.
+// Varias PC liquidan a la vez la misma empresa, la misma persona o personas
+// distintas: lo que queda en la base, filas y explicaciones, es lo mismo que
+// dejan las mismas corridas una después de la otra, ronda tras ronda.
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 
 #include "apoyo/base_prueba.h"
@@ -15,57 +17,117 @@ namespace nomira {
 namespace {
 
 const std::filesystem::path kDatos = std::filesystem::path(__FILE__).parent_path() / "../../data";
+constexpr int kPersonas = 6;
 
-class DosProcesos : public store::prueba::BasePrueba {
-protected:
+// NOMIRA_RONDAS cambia cuántas veces se repite cada caso (20 si no se dice).
+int rondas() {
+    const char* r = std::getenv("NOMIRA_RONDAS");
+    return r && *r ? std::atoi(r) : 20;
+}
+
+class VariosProcesos : public store::prueba::BasePrueba {
+  protected:
+    void SetUp() override {
+        BasePrueba::SetUp();
+        if (IsSkipped()) return;
+        master::cargarDatosIniciales(c(), kDatos, common::Fecha{2026, 3, 15});
+        c().ejecuta("INSERT INTO empresas (empresa, nroemp) VALUES ('ACME', 1)");
+        for (int i = 1; i <= kPersonas; ++i)
+            c().ejecuta(
+                "INSERT INTO personal (empresa, nombre, nrofun, sueldo, tiposueldo, fechaing, "
+                "htrab, impaclab) VALUES ('ACME', ?, ?, ?, 'S', '2020-01-01', '8', '1')",
+                {persona(i), std::int64_t{i}, std::to_string(20000 + 7000 * i)});
+    }
+
+    static std::string persona(int i) { return "PEREZ, ANA" + std::to_string(i); }
+
     // Texto entre comillas simples para el shell.
     static std::string citado(const std::string& s) {
         std::string r = "'";
         for (char ch : s) r += ch == '\'' ? std::string("'\\''") : std::string(1, ch);
         return r + "'";
     }
-    // Una tanda de personas liquidada por un proceso nomira-cli por persona, en orden.
-    std::string tanda(int desde, int hasta) const {
+
+    // Haberes y después descuentos de la empresa (nombre vacío) o de una persona.
+    std::string liquidar(const std::string& nombre) const {
         std::string orden;
-        for (int i = desde; i <= hasta; ++i)
-            orden += pruebas::rutaCli() + " --base " + citado(destino_) +
-                     " haberes --empresa ACME --nombre 'PEREZ, ANA" + std::to_string(i) +
-                     "' --mes 02/26 >/dev/null || echo FALLO " + std::to_string(i) + "; ";
+        for (const char* o : {"haberes", "descuentos"})
+            orden += pruebas::rutaCli() + " --base " + citado(destino_) + " " + o +
+                     " --empresa ACME" + (nombre.empty() ? "" : " --nombre " + citado(nombre)) +
+                     " --mes 02/26 >/dev/null 2>&1 || echo FALLO " + o + " " + nombre + "; ";
         return orden;
     }
+
+    // Cada proceso hace su lista de corridas en orden; los procesos van a la vez.
+    void aLaVez(const std::vector<std::string>& procesos) {
+        std::string orden;
+        for (const auto& p : procesos) orden += "(" + p + ") & ";
+        const auto r = pruebas::ejecutar(orden + "wait");
+        EXPECT_EQ(r.texto.find("FALLO"), std::string::npos) << r.texto;
+    }
+
     std::vector<std::string> filas() {
         std::vector<std::string> v;
-        for (const auto& f : c().consulta("SELECT nombre, codigo, concepto, cant, total FROM habydesc").filas)
-            v.push_back(f.texto("nombre") + "|" + f.texto("codigo") + "|" + f.texto("concepto") + "|" +
-                        f.texto("cant") + "|" + f.texto("total"));
+        for (const auto& f :
+             c().consulta("SELECT h.nombre, h.codigo, h.concepto, h.tipo, h.cant, h.total, "
+                          "x.texto FROM habydesc h LEFT JOIN explicaciones x ON x.empresa = "
+                          "h.empresa AND x.nombre = h.nombre AND x.fecha = h.fecha AND x.tabla = "
+                          "'habydesc' AND x.codigo = h.codigo")
+                 .filas) {
+            std::string s;
+            for (std::size_t i = 0; i < f.tamano(); ++i) s += f.texto(i) + "|";
+            v.push_back(s);
+        }
         std::sort(v.begin(), v.end());
         return v;
     }
+
+    // Lo que dejan los procesos de cada ronda, a la vez, contra lo que dejan uno
+    // tras otro (sobre la base vacía cada vez).
+    void comparar(const std::vector<std::string>& procesos) {
+        c().ejecuta("DELETE FROM habydesc");
+        c().ejecuta("DELETE FROM explicaciones");
+        std::string seguidos;
+        for (const auto& p : procesos) seguidos += p;
+        const auto r = pruebas::ejecutar(seguidos);
+        ASSERT_EQ(r.texto.find("FALLO"), std::string::npos) << r.texto;
+        const auto esperadas = filas();
+        ASSERT_GE(esperadas.size(), 4u);
+        for (int ronda = 0; ronda < rondas(); ++ronda) {
+            c().ejecuta("DELETE FROM habydesc");
+            c().ejecuta("DELETE FROM explicaciones");
+            aLaVez(procesos);
+            ASSERT_EQ(filas(), esperadas) << "ronda " << ronda;
+        }
+    }
+
+    pruebas::CarpetaTemporal tmp{"15/03/2026"};  // sin horas.txt ni base.txt del usuario
 };
+NOMIRA_PARA_CADA_MOTOR(VariosProcesos);
 
-TEST_P(DosProcesos, PersonasDistintasALaVezDejanLoMismoQueUnaTrasOtra) {
-    pruebas::CarpetaTemporal tmp;  // sin horas.txt ni base.txt del usuario
-    master::cargarDatosIniciales(c(), kDatos, common::Fecha{2026, 3, 15});
-    c().ejecuta("INSERT INTO empresas (empresa, nroemp) VALUES ('ACME', 1)");
-    for (int i = 1; i <= 6; ++i)
-        c().ejecuta(
-            "INSERT INTO personal (empresa, nombre, nrofun, sueldo, tiposueldo, fechaing, htrab, impaclab) "
-            "VALUES ('ACME', ?, ?, ?, 'S', '2020-01-01', '8', '1')",
-            {"PEREZ, ANA" + std::to_string(i), std::int64_t{i}, std::to_string(20000 + 1000 * i)});
-
-    // A la vez: un proceso con las personas 1 a 3 y otro con las 4 a 6.
-    auto r = pruebas::ejecutar("(" + tanda(1, 3) + ") & (" + tanda(4, 6) + ") & wait");
-    EXPECT_EQ(r.texto.find("FALLO"), std::string::npos) << r.texto;
-    const auto aLaVez = filas();
-    ASSERT_GE(aLaVez.size(), 6u);  // al menos el SUELDO de cada una
-
-    c().ejecuta("DELETE FROM habydesc");
-    r = pruebas::ejecutar(tanda(1, 6));
-    EXPECT_EQ(r.texto.find("FALLO"), std::string::npos) << r.texto;
-    EXPECT_EQ(filas(), aLaVez);
+TEST_P(VariosProcesos, LaMismaEmpresa) {
+    for (const int n : {2, 4}) {
+        SCOPED_TRACE(std::to_string(n) + " procesos");
+        comparar(std::vector<std::string>(static_cast<std::size_t>(n), liquidar("")));
+    }
 }
 
-NOMIRA_PARA_CADA_MOTOR(DosProcesos);
+TEST_P(VariosProcesos, LaMismaPersona) {
+    for (const int n : {2, 4}) {
+        SCOPED_TRACE(std::to_string(n) + " procesos");
+        comparar(std::vector<std::string>(static_cast<std::size_t>(n), liquidar(persona(3))));
+    }
+}
+
+TEST_P(VariosProcesos, PersonasDistintas) {
+    for (const int n : {2, 3}) {
+        SCOPED_TRACE(std::to_string(n) + " procesos");
+        std::vector<std::string> procesos(static_cast<std::size_t>(n));
+        for (int i = 1; i <= kPersonas; ++i)
+            procesos[static_cast<std::size_t>(i % n)] += liquidar(persona(i));
+        comparar(procesos);
+    }
+}
 
 }  // namespace
 }  // namespace nomira
