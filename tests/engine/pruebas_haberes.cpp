@@ -1,8 +1,12 @@
 // Haberes permanentes de Form42 sobre una empresa chica, en los dos motores.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+
 #include "engine/apoyo_formula.h"
 #include "engine/mes/haberes.h"
+#include "engine/mes/horas.h"
 
 namespace nomira::engine {
 namespace {
@@ -195,6 +199,48 @@ TEST_P(Haberes, SueldoFictoTomaElMayorSueldoDeLaEmpresa) {
     ASSERT_EQ(dialogo.mensajes.size(), 1u);
     EXPECT_EQ(dialogo.ultimoMensaje(),
               "El SUELDO FICTO de FICTO corresponde a ANA que es el mayor sueldo.");
+}
+
+// cantbfc es texto y la corrida ordena por el texto: "50" va antes que "6".
+// ANA cobra 30000 + 30000 / 31 de alimentación = 30967,74 (sin decimales en la
+// alimentación: 30967). SEIS (6 x 1000 = 6000) llega después que CINCUENTA
+// (50 x 1000 = 50000) y toma su 50000 como el mayor sueldo; por número habría
+// llegado antes y tomado los 30967 de ANA.
+TEST_P(Haberes, LosFictosVanPorElTextoDeCantbfc) {
+    persona("ANA", {{"sueldo", "30000"}, {"tiposueldo", "S"}, {"fechaing", "2020-01-01"}});
+    persona("SEIS", {{"cantbfc", "6"}, {"fechaing", "2020-01-01"}});
+    persona("CINCUENTA", {{"cantbfc", "50"}, {"fechaing", "2020-01-01"}});
+    const auto r = ActHamPermxEmpresa(*base, "ACME", {2026, 2}, dialogo);
+    EXPECT_FALSE(r.fallo);
+    ASSERT_EQ(r.personas.size(), 3u);
+    EXPECT_EQ(r.personas[1].nombre, "CINCUENTA");
+    EXPECT_EQ(filas("CINCUENTA", "2026-02-01"),
+              (std::vector<std::string>{"5 SUELDO FICTO Hab 1 50000"}));
+    EXPECT_EQ(filas("SEIS", "2026-02-01"),
+              (std::vector<std::string>{"5 SUELDO FICTO Hab 1 50000"}));
+}
+
+// El archivo de horas llega a cada persona antes de ver si trabaja en el mes:
+// quien egresó el mes anterior igual recibe sus líneas, y nada más.
+TEST_P(Haberes, LasHorasLleganAntesDeVerSiTrabajaEnElMes) {
+    persona("IDO", {{"nrofun", "7"},
+                    {"sueldo", "100"},
+                    {"tiposueldo", "H"},
+                    {"htrab", "8"},
+                    {"fechaing", "2020-01-01"},
+                    {"fechaeg", "2026-01-20"}});
+    const auto carpeta = tmp.ruta() / "Software" / "Nomira";
+    std::filesystem::create_directories(carpeta);
+    std::ofstream(carpeta / "horas.txt") << (tmp.ruta() / "HS").string() << "\n";
+    std::ofstream(rutaArchivoHoras((tmp.ruta() / "HS").string(), {2026, 2}, "1")) << "7|9|12\n";
+    concepto(8, "JORNAL", "H", "[SUELDO]*[CANT]", "Si");
+    base->ejecuta("UPDATE conceptos SET formula = '[SUELDO]*[CANT]' WHERE codigo = 9");
+    const auto r = ActHamPermxEmpresa(*base, "ACME", {2026, 2}, dialogo, conArchivoDeHoras());
+    EXPECT_FALSE(r.fallo);
+    EXPECT_EQ(r.inactivas, std::vector<std::string>{"IDO"});
+    // 12 horas de 100; los permanentes (JORNAL) no se generan.
+    EXPECT_EQ(filas("IDO", "2026-02-01"),
+              (std::vector<std::string>{"9 HORAS EXTRA Hab 12 1200"}));
 }
 
 }  // namespace
