@@ -250,7 +250,9 @@ TEST_P(Descuentos, TodaLaEmpresaConAvance) {
         });
     EXPECT_EQ(avance.size(), 4u);
     EXPECT_EQ(r.inactivas, std::vector<std::string>{"NUEVA, ROSA"});
-    EXPECT_EQ(dialogo.ultimoMensaje(), "Actualización finalizada.");
+    // Sólo PEREZ tenía haberes: es el único con descuentos.
+    EXPECT_EQ(dialogo.ultimoMensaje(),
+              "Actualización finalizada.\n1 persona liquidada del mes 03/26.");
     EXPECT_EQ(total("PEREZ, JUAN", marzo, 501), 2250);
     EXPECT_EQ(cuantas("tipo = 'Des'"), 4);  // sólo los de PEREZ
 }

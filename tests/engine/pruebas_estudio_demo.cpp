@@ -146,7 +146,9 @@ TEST_P(EstudioDemo, ElMesAnteriorDeCadaEmpresaSeLiquidaSinAvisosConLasFilasDeCad
               (std::vector<std::string>{
                   "El SUELDO FICTO de SOCIO DE MUESTRA, ROBERTO corresponde a PÉREZ DE "
                   "PRUEBA, JUAN que es el mayor sueldo.",
-                  kActualizacionFinalizada, kActualizacionFinalizada, kActualizacionFinalizada}));
+                  "Actualización finalizada.\n5 personas liquidadas del mes 10/26.",
+                  "Actualización finalizada.\n3 personas liquidadas del mes 10/26.",
+                  "Actualización finalizada.\n3 personas liquidadas del mes 10/26."}));
 
     // Jornalero de la constructora: sus jornales del reloj, sin montepío (aportación 04).
     auto lopez = filas(kConstructora, "LÓPEZ DE ENSAYO, MARIO");

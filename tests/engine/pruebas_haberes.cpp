@@ -243,5 +243,30 @@ TEST_P(Haberes, LasHorasLleganAntesDeVerSiTrabajaEnElMes) {
               (std::vector<std::string>{"9 HORAS EXTRA Hab 12 1200"}));
 }
 
+// Un sueldo guardado que no es número no se liquida en 0: se avisa y no se
+// escribe nada. Una fórmula que no se puede evaluar dice en qué concepto está.
+TEST_P(Haberes, SueldoQueNoEsNumeroYFormulaRota) {
+    persona("ANA", {{"sueldo", "abc"}, {"tiposueldo", "S"}, {"fechaing", "2020-01-01"}});
+    const auto r = generar("ANA");
+    EXPECT_FALSE(r.hecho);
+    EXPECT_EQ(r.aviso,
+              "El sueldo de ANA no es un número (\"abc\"): corríjalo en la ventana Personal. No "
+              "se liquidó.");
+    EXPECT_EQ(dialogo.ultimoMensaje(), r.aviso);
+    EXPECT_TRUE(filas("ANA", "2026-02-01").empty());
+
+    base->ejecuta("UPDATE personal SET sueldo = '30000' WHERE nombre = 'ANA'");
+    base->ejecuta("UPDATE conceptos SET formula = '([SUELDO]' WHERE codigo = 2");
+    try {
+        generar("ANA");
+        ADD_FAILURE() << "la fórmula rota no falló";
+    } catch (const common::Fallo& f) {
+        EXPECT_NE(f.descripcion().find("\nEn el concepto 2 ALIMENTACION, fórmula ([SUELDO]"),
+                  std::string::npos)
+            << f.descripcion();
+    }
+    EXPECT_TRUE(filas("ANA", "2026-02-01").empty());
+}
+
 }  // namespace
 }  // namespace nomira::engine

@@ -129,5 +129,42 @@ TEST_P(Horas, DescuentosSeReemplazanConElSNISDelAguinaldo) {
     EXPECT_EQ(total("LOPEZ, EVA", junio, 502), 915);
 }
 
+// Generar otra vez con el mismo archivo no lo cuenta dos veces: lo que agregó
+// la importación anterior se reemplaza y lo tecleado antes queda.
+TEST_P(Horas, ImportarOtraVezNoSumaDosVeces) {
+    fila("LOPEZ, EVA", marzo, 11, "HORAS NOCTURNAS", "Hab", 6, 720);  // tecleadas
+    archivo(marzo, "12|10|40\r\n12|10|5\r\n12|11|4\r\n");
+    for (int vez = 1; vez <= 3; ++vez) {
+        SCOPED_TRACE(vez);
+        ASSERT_TRUE(generarHaberesPermanentes(*base, "ACME", "LOPEZ, EVA", marzo, dialogo,
+                                              conArchivoDeHoras())
+                        .hecho);
+        double cant = 0;
+        // HORAS: 40 + 5 del archivo, a 100 cada una.
+        EXPECT_EQ(total("LOPEZ, EVA", marzo, 10, nullptr, &cant), 4500);
+        EXPECT_EQ(cant, 45);
+        // HORAS NOCTURNAS: las 6 tecleadas (720) más 4 del archivo a 120 (480).
+        EXPECT_EQ(total("LOPEZ, EVA", marzo, 11, nullptr, &cant), 1200);
+        EXPECT_EQ(cant, 10);
+        // Jornadas: (45 + 10) / 8.
+        EXPECT_EQ(total("LOPEZ, EVA", marzo, 12, nullptr, &cant), 0);
+        EXPECT_EQ(cant, 6.875);
+    }
+}
+
+// Sin archivo del mes, la corrida dice qué archivo buscó, una sola vez.
+TEST_P(Horas, SinArchivoLaCorridaLoDiceUnaVez) {
+    ASSERT_FALSE(ActHamPermxEmpresa(*base, "ACME", marzo, dialogo, conArchivoDeHoras()).fallo);
+    const auto ruta = rutaArchivoHoras((tmp.ruta() / "HS").string(), marzo, "7").string();
+    ASSERT_EQ(dialogo.mensajes.size(), 1u);
+    EXPECT_EQ(dialogo.ultimoMensaje(), "No se encontró el archivo de horas del mes " + ruta +
+                                           ". Los jornaleros y los por hora quedan sin horas.");
+    // Con el archivo, nada que avisar.
+    archivo(marzo, "12|10|1\n");
+    dialogo.mensajes.clear();
+    ASSERT_FALSE(ActHamPermxEmpresa(*base, "ACME", marzo, dialogo, conArchivoDeHoras()).fallo);
+    EXPECT_TRUE(dialogo.mensajes.empty()) << dialogo.ultimoMensaje();
+}
+
 }  // namespace
 }  // namespace nomira::engine

@@ -451,14 +451,16 @@ TEST_F(PantallaHaberes, TodaLaEmpresaConSuAvanceYDetener) {
     QTest::keyClick(w("codigo"), Qt::Key_E, Qt::AltModifier);
     QTest::qWait(300);
     EXPECT_EQ(vistos, (std::vector<int>{0, 1, 2, 3}));  // la barra vuelve a empezar
-    EXPECT_EQ(dialogo.ultimoMensaje(), "Actualización finalizada.");
+    EXPECT_EQ(dialogo.ultimoMensaje(),
+              "Actualización finalizada.\n3 personas liquidadas del mes 02/26.");
     EXPECT_EQ(filas("codigo = 1"), 3);
 
     // Los descuentos de toda la empresa, con su aviso al final.
     dialogo.mensajes.clear();
     pulsar("ActDesPermxEmpresa");
     EXPECT_EQ(filas("codigo = 701"), 3);
-    EXPECT_EQ(dialogo.ultimoMensaje(), "Actualización finalizada.");
+    EXPECT_EQ(dialogo.ultimoMensaje(),
+              "Actualización finalizada.\n3 personas liquidadas del mes 02/26.");
     QObject::disconnect(c);
 }
 

@@ -21,10 +21,6 @@ using common::Dinero;
 
 namespace {
 
-bool jornaleroOPorHora(const std::string& tiposueldo) {
-    return tiposueldo == "H" || tiposueldo == "J";
-}
-
 FilaLiquidada escribir(const MesPersona& mp, FilaGenerada fila, std::string explicacion) {
     fila.explicacion = explicacion;
     mp.libro().escribir(TablaLiquidacion::Habydesc, mp.mes, fila);
@@ -184,7 +180,12 @@ std::vector<FilaLiquidada> generarDescuentos(MesPersona& mp, ContextoFormula& ct
         }
         ConceptoDescuento d{codigo,     c->concepto,  c->formula, c->unidad, c->permanente,
                             c->gravado, c->aguinaldo, c->lic,     c->ipd};
-        const auto g = generarDescuento(ctx, d, opciones, dialogo);
+        DescuentoGenerado g;
+        try {
+            g = generarDescuento(ctx, d, opciones, dialogo);
+        } catch (const common::Fallo& f) {
+            throw fallaEnConcepto(f, *c);
+        }
         auto fila = filaDeConcepto(*c, "Des");
         fila.concepto = g.fila.concepto;
         fila.cant = ctx.cant;
@@ -219,6 +220,11 @@ ResultadoPersona DescPerm(store::Conexion& base, const std::string& empresa,
         dialogo.avisar(common::TipoAviso::Advertencia, r.aviso);
         return r;
     }
+    if (const auto m = sueldoNoNumerico(*mp->persona)) {
+        r.aviso = *m;
+        dialogo.avisar(common::TipoAviso::Advertencia, r.aviso);
+        return r;
+    }
     r.filas = generarDescuentos(*mp, ctx, dialogo);
     escribirLibro(base, mp->libro());
     t.confirmar();
@@ -243,6 +249,11 @@ ResultadoEmpresa ActDesPermxEmpresa(store::Conexion& base, const std::string& em
         }
         // Sin haberes no hay descuentos.
         if (!p.libro.tiene(TablaLiquidacion::Habydesc, mes, "Hab")) return r;
+        if (const auto m = sueldoNoNumerico(*p.ficha)) {
+            r.aviso = *m;
+            dialogo.avisar(common::TipoAviso::Advertencia, r.aviso);
+            return r;
+        }
         ContextoFormula ctx;
         auto mp = mesDeLaPersona(l, p, ctx);
         const auto horas = CalculoCant2(ctx, dialogo);
@@ -255,8 +266,17 @@ ResultadoEmpresa ActDesPermxEmpresa(store::Conexion& base, const std::string& em
     };
     auto r = recorrerEmpresa(base, std::move(lectura), porPersona, progreso, cancelar);
     if (!r.cancelado && !r.fallo)
-        dialogo.avisar(common::TipoAviso::Informacion, kActualizacionFinalizada);
+        dialogo.avisar(common::TipoAviso::Informacion, textoActualizacionFinalizada(r));
     return r;
+}
+
+std::string textoActualizacionFinalizada(const ResultadoEmpresa& r) {
+    const auto hechas = std::count_if(r.personas.begin(), r.personas.end(),
+                                      [](const ResultadoPersona& p) { return p.hecho; });
+    const auto mes = r.personas.empty() ? std::string() : r.personas.front().mes.texto();
+    return std::string(kActualizacionFinalizada) + "\n" + std::to_string(hechas) +
+           (hechas == 1 ? " persona liquidada" : " personas liquidadas") +
+           (mes.empty() ? "" : " del mes " + mes) + ".";
 }
 
 long eliminarDescuentosDelMes(store::Conexion& base, const std::string& empresa,

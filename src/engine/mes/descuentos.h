@@ -58,6 +58,9 @@ ResultadoEmpresa ActDesPermxEmpresa(store::Conexion& base, const std::string& em
                                     const ProgresoEmpresa& progreso = {},
                                     const CancelarEmpresa& cancelar = {});
 
+// "Actualización finalizada." y cuántas personas se liquidaron, y de qué mes.
+std::string textoActualizacionFinalizada(const ResultadoEmpresa& r);
+
 // DescPerm2_Click: borra los descuentos del mes después de "¿Desea continuar?"
 // con el título "Eliminar Desc.Perm.". Devuelve las filas borradas, o -1 si se
 // respondió No.

@@ -138,6 +138,11 @@ ResultadoPersona HabPerm(MesPersona& mp, ContextoFormula& ctx, common::Dialogo& 
         r.aviso = kYaEnEgresos;
         return r;
     }
+    if (const auto m = sueldoNoNumerico(*mp.persona)) {
+        dialogo.avisar(common::TipoAviso::Advertencia, *m);
+        r.aviso = *m;
+        return r;
+    }
     const auto borradas = opciones.borrarDescuentos
                               ? libro.borrarTipo(TablaLiquidacion::Habydesc, mp.mes, "Des")
                               : 0;
@@ -154,7 +159,11 @@ ResultadoPersona HabPerm(MesPersona& mp, ContextoFormula& ctx, common::Dialogo& 
         ctx.formula = c->formula;
         ctx.textoCant.clear();
         FilaLiquidada fl{filaDeConcepto(*c, "Hab"), ""};
-        CalculoFormula(ctx, dialogo);
+        try {
+            CalculoFormula(ctx, dialogo);
+        } catch (const common::Fallo& f) {
+            throw fallaEnConcepto(f, *c);
+        }
         std::string expl = explicarFormula(ctx);
         const std::string nombre = common::mayusculas(c->concepto);
         double cant = ctx.cant;
@@ -212,6 +221,8 @@ ResultadoPersona generarHaberesPermanentes(store::Conexion& base, const std::str
     ContextoFormula ctx;
     auto mp = BuscarVerif(base, empresa, nombre, mes, ctx, dialogo);
     if (!mp) return ResultadoPersona{empresa, nombre, mes, false, "", {}};
+    if (opciones.calculoCant && jornaleroOPorHora(mp->tiposueldo))
+        avisarSinArchivoDeHoras(mp->maestros(), dialogo);
     auto r = HabPerm(*mp, ctx, dialogo, opciones);
     escribirLibro(base, mp->libro());
     t.confirmar();
@@ -225,6 +236,12 @@ ResultadoEmpresa ActHamPermxEmpresa(store::Conexion& base, const std::string& em
                                     const CancelarEmpresa& cancelar) {
     borrarTipoDeLaEmpresa(base, empresa, mes, "Des");
     auto lectura = std::make_shared<Lectura>(leerCorrida(base, empresa, mes, mesesDelMes(mes)));
+    // Una vez por corrida, si alguien cobra por jornal o por hora.
+    if (opciones.calculoCant &&
+        std::any_of(lectura->personas.begin(), lectura->personas.end(), [&](const auto& p) {
+            return jornaleroOPorHora(p.ficha->tiposueldo) && activaEnElMes(*p.ficha, mes);
+        }))
+        avisarSinArchivoDeHoras(lectura->maestros, dialogo);
     auto deLaCorrida = opciones;
     deLaCorrida.borrarDescuentos = false;
     const auto porPersona = [&](const std::shared_ptr<Lectura>& l, PersonaDelMes& p,

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <map>
 
 #include "common/fallo.h"
 #include "common/numeros.h"
@@ -48,6 +49,17 @@ const master::Concepto* conceptoDeLinea(const Maestros& maestros, long codigo, b
 }
 
 }  // namespace
+
+void avisarSinArchivoDeHoras(const Maestros& maestros, common::Dialogo& dialogo) {
+    if (maestros.horas) return;
+    dialogo.avisar(common::TipoAviso::Informacion,
+                   maestros.rutaHoras.empty()
+                       ? std::string("No hay archivo de horas del mes: horas.txt no dice en qué "
+                                     "carpeta buscarlo. Los jornaleros y los por hora quedan sin "
+                                     "horas.")
+                       : "No se encontró el archivo de horas del mes " + maestros.rutaHoras +
+                             ". Los jornaleros y los por hora quedan sin horas.");
+}
 
 std::string prefijoArchivosHoras() {
     std::ifstream f(raiz() / "Software" / "Nomira" / "horas.txt");
@@ -95,6 +107,20 @@ ArchivoHoras leerArchivoHoras(const fs::path& ruta) {
 
 namespace {
 
+// Las filas que escribe el archivo de horas terminan su explicación con lo que
+// tenían tecleado antes: así la próxima importación sabe qué reemplazar.
+constexpr const char* kTecleado = "tecleado antes del archivo: ";
+
+std::pair<double, Dinero> tecleadoAntesDelArchivo(const FilaMes& fila) {
+    const auto i = fila.explicacion.rfind(kTecleado);
+    if (i == std::string::npos) return {fila.cant, fila.total};
+    const std::string resto = fila.explicacion.substr(i + std::string(kTecleado).size());
+    const auto barra = resto.find(" / ");
+    if (barra == std::string::npos) return {fila.cant, fila.total};
+    return {common::textoANumero(resto.substr(0, barra)),
+            Dinero::desdeDouble(common::textoANumero(resto.substr(barra + 3)))};
+}
+
 ImportacionHoras importarDelMes(ContextoFormula& ctx, bool descuentos, common::Dialogo& dialogo) {
     const auto& horas = maestrosDe(ctx).horas;
     if (!horas) return {};
@@ -130,6 +156,10 @@ ImportacionHoras importarHoras(ContextoFormula& ctx, const ArchivoHoras& archivo
     }
 
     ImportacionHoras r;
+    // Lo escrito por esta importación, por código: las líneas de un mismo código
+    // se suman, y cada fila recuerda lo que había tecleado antes del archivo.
+    std::map<long, std::string> partes;
+    std::map<long, std::pair<double, Dinero>> tecleado;
     for (const auto& l : archivo.lineas) {
         ctx.cantarchivo = 0;
         ctx.importearchivo = Dinero();
@@ -163,12 +193,21 @@ ImportacionHoras importarHoras(ContextoFormula& ctx, const ArchivoHoras& archivo
                 exp += "; aguinaldo " + pesos(ctx.montogravag) + " x " + numero(ctx.psnis) +
                        "% - " + pesos(snisAg);
             }
-        } else if (const auto* previa =
-                       libro.porCodigo(TablaLiquidacion::Habydesc, mes, l->codigo)) {
-            // Los haberes del archivo se suman a lo que ya había.
-            cant += previa->cant;
-            total += previa->total.aDouble();
-            exp += "; más lo que había " + numero(previa->cant) + " / " + pesos(previa->total);
+        } else {
+            // Los haberes del archivo se suman a lo que la fila tenía tecleado. Lo
+            // que agregó una importación anterior se reemplaza: importar el mismo
+            // archivo otra vez no lo cuenta dos veces.
+            const auto* previa = libro.porCodigo(TablaLiquidacion::Habydesc, mes, l->codigo);
+            if (!tecleado.count(l->codigo))
+                tecleado[l->codigo] = previa ? tecleadoAntesDelArchivo(*previa)
+                                             : std::pair<double, Dinero>{0, Dinero()};
+            const auto& [tCant, tTotal] = tecleado[l->codigo];
+            const bool estaImportacion = partes.count(l->codigo) > 0;
+            cant += estaImportacion ? previa->cant : tCant;
+            total += estaImportacion ? previa->total.aDouble() : tTotal.aDouble();
+            auto& p = partes[l->codigo];
+            p += (p.empty() ? "" : "; ") + exp;
+            exp = p + "; " + kTecleado + numero(tCant) + " / " + numero(tTotal.aDouble());
         }
         ctx.cant = cant;
         ctx.total = total;

@@ -46,6 +46,15 @@ struct ImportacionHoras {
     std::string explicacion;
 };
 
+// ¿Cobra por jornal o por hora? Son los que traen horas del reloj.
+inline bool jornaleroOPorHora(const std::string& tiposueldo) {
+    return tiposueldo == "H" || tiposueldo == "J";
+}
+
+// Avisa, si la corrida no encontró el archivo de horas del mes, qué archivo
+// buscó (o que horas.txt no dice dónde buscarlo).
+void avisarSinArchivoDeHoras(const Maestros& maestros, common::Dialogo& dialogo);
+
 // El archivo del mes que leyeron los maestros de la corrida. ctx trae la
 // persona, sus filas, los maestros, sueldos, htrab y la base del mes. Sin
 // archivo no hace nada.

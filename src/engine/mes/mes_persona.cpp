@@ -81,6 +81,19 @@ FilaGenerada filaDeConcepto(const master::Concepto& c, const std::string& tipo) 
     return f;
 }
 
+std::optional<std::string> sueldoNoNumerico(const master::Persona& p) {
+    for (const auto* s : {&p.sueldo, &p.sueldo2, &p.sueldo3})
+        if (s->find_first_not_of(' ') != std::string::npos && !common::esNumerico(*s))
+            return "El sueldo de " + p.nombre + " no es un número (\"" + *s +
+                   "\"): corríjalo en la ventana Personal. No se liquidó.";
+    return std::nullopt;
+}
+
+common::Fallo fallaEnConcepto(const common::Fallo& f, const master::Concepto& c) {
+    return common::Fallo(f.numero(), f.descripcion() + "\nEn el concepto " + c.codigo + " " +
+                                         c.concepto + ", fórmula " + c.formula);
+}
+
 bool activaEnElMes(const master::Persona& p, const common::Mes& mes) {
     if (const auto ing = common::Fecha::desdeTexto(p.fechaing)) {
         if (ing->anio > mes.anio || (ing->anio == mes.anio && ing->mes > mes.mes)) return false;

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "common/dialogo.h"
+#include "common/fallo.h"
 #include "common/fechas.h"
 #include "engine/calculos/base_irpf.h"
 #include "engine/calculos/calculo_licencia.h"
@@ -64,6 +65,14 @@ void refrescarDesglose(MesPersona& mp, ContextoFormula& ctx);
 // La fila de un concepto con sus banderas y el tipo dado ("Hab" o "Des"); cant y
 // total en 0.
 FilaGenerada filaDeConcepto(const master::Concepto& c, const std::string& tipo);
+
+// El aviso para una persona cuyo sueldo guardado (de cualquiera de sus tres
+// actividades) no es un número: no se la liquida, en lugar de liquidarla en 0.
+std::optional<std::string> sueldoNoNumerico(const master::Persona& p);
+
+// Un fallo al calcular la fórmula de un concepto, con el concepto dicho: su
+// código, su nombre y su fórmula, para que el cuadro de error lo muestre.
+common::Fallo fallaEnConcepto(const common::Fallo& f, const master::Concepto& c);
 
 // ¿Trabaja la persona en el mes? Ingresó antes del año, o en el año y no
 // después del mes; y no egresó en un año anterior ni en un mes anterior del

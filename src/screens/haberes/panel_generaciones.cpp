@@ -150,7 +150,7 @@ void PanelGeneraciones::ActHamPermxEmpresa_Click() {
                                               pantalla_.dialogo(), engine::conArchivoDeHoras(),
                                               avance_->progreso(), avance_->cancelar());
         });
-        if (r && !r->cancelado) pantalla_.informar(engine::kActualizacionFinalizada);
+        if (r && !r->cancelado) pantalla_.informar(engine::textoActualizacionFinalizada(*r));
     });
 }
 
