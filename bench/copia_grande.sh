@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # copiar-base con una base de unos dos millones de filas: memoria máxima (RSS)
 # y tiempo, de SQLite a PostgreSQL (un servidor de usar y tirar de
-# scripts/pg-prueba, por loopback) y de SQLite a SQLite.
+# scripts/pg-prueba, por loopback), de vuelta de PostgreSQL a SQLite y de
+# SQLite a SQLite.
 #
 #   bench/copia_grande.sh [NOMIRA_CLI...]
 #
@@ -27,7 +28,7 @@ origen="$tmp/origen.db"
 "$1" --base "$origen" init >/dev/null
 # Personas con su ficha y, por persona, 90 filas de habydesc repartidas en
 # meses, y una explicación por persona y mes.
-sqlite3 "$origen" <<SQL
+sqlite3 "$origen" >/dev/null <<SQL
 PRAGMA journal_mode=WAL;
 BEGIN;
 INSERT INTO empresas (empresa, nroemp) VALUES ('ACME S.A.', 1);
@@ -54,9 +55,9 @@ pg=$("$raiz/scripts/pg-prueba" iniciar)
 cadena=$(cat "$pg/cadena")
 vuelta=0
 
-medir() {  # nombre cli hacia
+medir() {  # nombre cli desde hacia
     local salida="$tmp/time.txt"
-    /usr/bin/time -v "$2" copiar-base --desde "$origen" --hacia "$3" >/dev/null 2>"$salida" || {
+    /usr/bin/time -v "$2" copiar-base --desde "$3" --hacia "$4" >/dev/null 2>"$salida" || {
         tail -5 "$salida"
         return 1
     }
@@ -70,7 +71,10 @@ for cli in "$@"; do
     vuelta=$((vuelta + 1))
     esquema="copia_$vuelta"
     psql -q "$cadena" -c "CREATE SCHEMA $esquema" >/dev/null
-    medir "SQLite -> PostgreSQL" "$cli" "$cadena?options=-csearch_path%3D$esquema"
+    servidor="$cadena?options=-csearch_path%3D$esquema"
+    medir "SQLite -> PostgreSQL" "$cli" "$origen" "$servidor"
     rm -f "$tmp/destino.db"*
-    medir "SQLite -> SQLite" "$cli" "$tmp/destino.db"
+    medir "PostgreSQL -> SQLite" "$cli" "$servidor" "$tmp/destino.db"
+    rm -f "$tmp/destino.db"*
+    medir "SQLite -> SQLite" "$cli" "$origen" "$tmp/destino.db"
 done
