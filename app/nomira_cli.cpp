@@ -38,6 +38,9 @@ int main(int argc, char** argv) {
     if (no) ctx.respuesta = false;
     try {
         return ctx.accion ? ctx.accion() : 0;
+    } catch (const cli::Rechazo& r) {
+        std::cerr << r.what() << '\n';
+        return 1;
     } catch (const common::Fallo& f) {
         std::cerr << "Error inesperado " << f.numero() << ' ' << f.descripcion() << '\n';
         return 2;

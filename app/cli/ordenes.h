@@ -5,12 +5,23 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <stdexcept>
 #include <string>
 
 #include "frame/dialogo_consola.h"
 #include "store/conexion.h"
 
 namespace nomira::cli {
+
+// Una orden que un mensaje del sistema rechaza: el mensaje va a stderr y el
+// estado de salida es 1.
+class Rechazo : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+// Una base que debe existir: un archivo que no está se rechaza sin crearlo.
+void exigirBaseExistente(const std::string& destino);
 
 struct Contexto {
     std::string base;               // --base, o base.txt

@@ -1,10 +1,12 @@
 // init y resumen: crear una base y ver qué tiene.
+#include <filesystem>
 #include <iostream>
 
 #include "cli/ordenes.h"
 #include "frame/arranque.h"
 #include "frame/carpeta.h"
 #include "frame/usuarios.h"
+#include "store/destino.h"
 
 namespace nomira::cli {
 
@@ -15,9 +17,21 @@ std::string Contexto::destino() const {
                                 ": indique la base con --base.");
 }
 
-std::unique_ptr<store::Conexion> Contexto::abrir() const { return frame::abrirBase(destino()); }
+void exigirBaseExistente(const std::string& destino) {
+    if (!store::esDestinoPostgres(destino) && !std::filesystem::exists(destino))
+        throw Rechazo("La base de datos '" + store::destinoParaMostrar(destino) +
+                      "' no existe. Sólo init, demo y copiar-base --hacia crean una base.");
+}
 
-frame::DialogoConsola Contexto::dialogo() const { return frame::DialogoConsola(std::cerr, respuesta); }
+std::unique_ptr<store::Conexion> Contexto::abrir() const {
+    const auto d = destino();
+    exigirBaseExistente(d);
+    return frame::abrirBase(d);
+}
+
+frame::DialogoConsola Contexto::dialogo() const {
+    return frame::DialogoConsola(std::cerr, respuesta);
+}
 
 namespace {
 
@@ -28,8 +42,9 @@ std::int64_t contar(store::Conexion& base, const std::string& tabla) {
 int resumen(const Contexto& ctx) {
     auto base = ctx.abrir();
     std::int64_t filas = 0;
-    for (const char* t : {"habydesc", "aguinaldos", "salvacacional", "egresos"}) filas += contar(*base, t);
-    std::cout << "Base: " << base->destino() << '\n'
+    for (const char* t : {"habydesc", "aguinaldos", "salvacacional", "egresos"})
+        filas += contar(*base, t);
+    std::cout << "Base: " << store::destinoParaMostrar(base->destino()) << '\n'
               << "Empresas: " << contar(*base, "empresas") << '\n'
               << "Personas: " << contar(*base, "personal") << '\n'
               << "Filas de liquidación: " << filas << '\n';
@@ -54,15 +69,20 @@ void registrarOrdenesBase(CLI::App& app, Contexto& ctx) {
                 return 1;
             }
             const auto destino = ctx.destino();
+            // Sin base.txt, la base nueva pasa a ser la del programa; una cadena
+            // con contraseña no se escribe ahí, y se dice antes de crear nada.
+            const bool escribirBaseTxt = !frame::destinoConfigurado();
+            if (escribirBaseTxt && store::llevaContrasena(destino))
+                throw Rechazo(frame::kContrasenaEnBaseTxt);
             frame::crearBaseNueva(destino, usuario, password);
-            // Sin base.txt, la base nueva pasa a ser la del programa.
-            if (!frame::destinoConfigurado()) frame::escribirLinea("base.txt", destino);
-            std::cout << "Base creada: " << destino << '\n';
+            if (escribirBaseTxt) frame::guardarDestino(destino);
+            std::cout << "Base creada: " << store::destinoParaMostrar(destino) << '\n';
             return 0;
         };
     });
 
-    auto* res = app.add_subcommand("resumen", "Muestra la base y cuántas empresas, personas y filas tiene");
+    auto* res =
+        app.add_subcommand("resumen", "Muestra la base y cuántas empresas, personas y filas tiene");
     res->callback([&ctx] { ctx.accion = [&ctx] { return resumen(ctx); }; });
 }
 

@@ -15,6 +15,7 @@
 #include "master/empresas.h"
 #include "master/estudio_demo.h"
 #include "store/crear.h"
+#include "store/destino.h"
 
 namespace nomira::cli {
 
@@ -76,15 +77,18 @@ int demo(const Contexto& ctx, const OpcionesDemo& o) {
     const std::string destino =
         ctx.base.empty() ? frame::destinoConfigurado().value_or(frame::destinoPorDefecto())
                          : ctx.base;
+    const bool escribirBaseTxt = !frame::destinoConfigurado();
+    if (escribirBaseTxt && store::llevaContrasena(destino))
+        throw Rechazo(frame::kContrasenaEnBaseTxt);
     auto base = crearBaseDemo(destino);
     if (!base) {
-        std::cerr << "La base de datos '" << destino
+        std::cerr << "La base de datos '" << store::destinoParaMostrar(destino)
                   << "' ya existe: el estudio de demostración se crea sólo en una base nueva.\n";
         return 1;
     }
-    if (!frame::destinoConfigurado()) frame::escribirLinea("base.txt", destino);
+    if (escribirBaseTxt) frame::guardarDestino(destino);
     const auto empresas = master::nombresDeEmpresas(*base);
-    std::cout << "Base creada: " << destino << '\n'
+    std::cout << "Base creada: " << store::destinoParaMostrar(destino) << '\n'
               << "Estudio de demostración: " << empresas.size() << " empresas, "
               << base->consulta("SELECT COUNT(*) AS n FROM personal").primera().entero("n")
               << " personas.\n";

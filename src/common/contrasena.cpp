@@ -15,7 +15,9 @@ namespace nomira::common {
 namespace {
 
 constexpr std::string_view kEsquema = "pbkdf2-sha256";
-constexpr int kIteraciones = 50000;
+// Lo que se recomienda hoy para SHA-256. Un hash guardado con menos vueltas se
+// sigue aceptando y se rehace al entrar.
+constexpr int kIteraciones = 600'000;
 constexpr std::size_t kLargoSal = 16;
 constexpr std::size_t kLargoHash = 32;
 // Un texto guardado no puede pedir una espera arbitraria al verificar.
@@ -65,30 +67,49 @@ std::string hashContrasena(std::string_view clave) {
            aHex(hash);
 }
 
-bool verificaContrasena(std::string_view clave, std::string_view guardado) {
+namespace {
+
+struct HashGuardado {
+    int iteraciones;
+    Bytes sal, hash;
+};
+
+std::optional<HashGuardado> leerGuardado(std::string_view guardado) {
     std::string_view partes[4];
     for (int i = 0; i < 3; ++i) {
         const auto pesos = guardado.find('$');
-        if (pesos == std::string_view::npos) return false;
+        if (pesos == std::string_view::npos) return std::nullopt;
         partes[i] = guardado.substr(0, pesos);
         guardado.remove_prefix(pesos + 1);
     }
     partes[3] = guardado;
-    if (partes[0] != kEsquema) return false;
+    if (partes[0] != kEsquema) return std::nullopt;
 
     int iteraciones = 0;
     const auto [fin, error] =
         std::from_chars(partes[1].data(), partes[1].data() + partes[1].size(), iteraciones);
     if (error != std::errc() || fin != partes[1].data() + partes[1].size() || iteraciones < 1 ||
         iteraciones > kMaximoIteraciones) {
-        return false;
+        return std::nullopt;
     }
-    const auto sal = desdeHex(partes[2]);
-    const auto esperado = desdeHex(partes[3]);
-    if (!sal || !esperado || esperado->size() > 64) return false;
+    auto sal = desdeHex(partes[2]);
+    auto esperado = desdeHex(partes[3]);
+    if (!sal || !esperado || esperado->size() > 64) return std::nullopt;
+    return HashGuardado{iteraciones, std::move(*sal), std::move(*esperado)};
+}
 
-    const Bytes calculado = derivar(clave, *sal, iteraciones, esperado->size());
-    return CRYPTO_memcmp(calculado.data(), esperado->data(), calculado.size()) == 0;
+}  // namespace
+
+bool verificaContrasena(std::string_view clave, std::string_view guardado) {
+    const auto g = leerGuardado(guardado);
+    if (!g) return false;
+    const Bytes calculado = derivar(clave, g->sal, g->iteraciones, g->hash.size());
+    return CRYPTO_memcmp(calculado.data(), g->hash.data(), calculado.size()) == 0;
+}
+
+bool hashAnticuado(std::string_view guardado) {
+    const auto g = leerGuardado(guardado);
+    return g && g->iteraciones < kIteraciones;
 }
 
 }  // namespace nomira::common

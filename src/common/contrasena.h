@@ -11,6 +11,12 @@ namespace nomira::common {
 std::string hashContrasena(std::string_view clave);
 
 // Compara en tiempo constante. Falso para un `guardado` vacío o mal formado.
+// Usa las iteraciones que dice el texto guardado, así verifican también los
+// hashes de antes.
 bool verificaContrasena(std::string_view clave, std::string_view guardado);
+
+// Verdadero si el hash se guardó con menos iteraciones que las de hoy: hay que
+// rehacerlo la próxima vez que se tenga la clave.
+bool hashAnticuado(std::string_view guardado);
 
 }  // namespace nomira::common

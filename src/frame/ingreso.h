@@ -18,6 +18,11 @@ inline constexpr const char* kIngresoIncorrecto = "Usuario y Password INCORRECTO
 std::optional<int> verificarIngreso(const master::Configuracion& c, const std::string& usuario,
                                     const std::string& password);
 
+// Lo mismo leyendo la configuración de la base; si el hash de quien entró es de
+// antes (menos iteraciones), lo guarda de nuevo con las de hoy.
+std::optional<int> ingresar(store::Conexion& base, const std::string& usuario,
+                            const std::string& password);
+
 // Guarda el usuario N (1..10) con su contraseña ya convertida en hash.
 void ponerUsuario(master::Configuracion& c, int n, const std::string& usuario,
                   const std::string& password, const std::string& categoria);

@@ -18,7 +18,11 @@ struct TablaCopiada {
 // transacción sobre el destino, y comprueba que cada tabla quede con las mismas filas.
 // El destino debe estar vacío (sin tablas, o recién creado y sin datos: su fila de
 // configuración se reemplaza por la del origen); si algo falla
-// el destino queda como estaba. Un origen de una versión anterior se pone al día
+// el destino queda como estaba. Las tablas se leen fila por fila y se escriben
+// por tramos (COPY en PostgreSQL): la memoria no crece con la base. Un texto con
+// el carácter nulo no se copia a PostgreSQL, que lo cortaría: la copia se
+// rechaza nombrando tabla, fila y columna. Después, PostgreSQL analiza las tablas
+// llenas. Un origen de una versión anterior se pone al día
 // antes, como al abrirlo en el programa. `avance` recibe cada tabla terminada.
 std::vector<TablaCopiada> copiarBase(store::Conexion& origen, store::Conexion& destino,
                                      const std::function<void(const TablaCopiada&)>& avance = {});

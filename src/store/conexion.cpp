@@ -79,6 +79,13 @@ Celda celdaDe(const Valor& v) {
     return Nulo{};
 }
 
+Valor valorDe(const Celda& c) {
+    if (const auto* s = std::get_if<std::string_view>(&c)) return std::string(*s);
+    if (const auto* i = std::get_if<std::int64_t>(&c)) return *i;
+    if (const auto* d = std::get_if<double>(&c)) return *d;
+    return Nulo{};
+}
+
 void textoEn(const Celda& c, std::string& destino) {
     if (const auto* s = std::get_if<std::string_view>(&c))
         destino.assign(*s);
@@ -180,9 +187,9 @@ bool esDestinoPostgres(std::string_view destino) {
            destino.find("host=") != std::string_view::npos;
 }
 
-std::unique_ptr<Conexion> abrir(const std::string& destino) {
+std::unique_ptr<Conexion> abrir(const std::string& destino, Apertura apertura) {
     if (esDestinoPostgres(destino)) return std::make_unique<ConexionPostgres>(destino);
-    return std::make_unique<ConexionSqlite>(destino);
+    return std::make_unique<ConexionSqlite>(destino, apertura);
 }
 
 void bloquearClave(Conexion& c, std::string_view clave) {

@@ -41,6 +41,8 @@ constexpr int kErrorUso = 3200;
 // Un valor tal como se lee, sin copiarlo: el texto es una vista sobre lo leído.
 using Celda = std::variant<Nulo, std::int64_t, double, std::string_view>;
 Celda celdaDe(const Valor& v);
+// La copia que sigue valiendo después de la lectura.
+Valor valorDe(const Celda& c);
 
 // Las conversiones de una columna leída, las mismas para Fila y FilaAlPaso.
 // Texto: Null da ""; un número se convierte a texto. Números: Null y "" dan 0;
@@ -141,6 +143,17 @@ using MapaPorTexto = std::unordered_map<std::string, V, HashTexto, std::equal_to
 
 enum class Motor { Sqlite, Postgres };
 
+// Muchas filas hacia una tabla, para copiar tablas enteras: cada motor las
+// escribe a su manera y con memoria que no crece con la cantidad. Las filas
+// traen las columnas en el orden en que se abrió la carga. Lo que no se
+// terminó no cuenta: sin terminar(), la transacción que la contiene falla.
+class Carga {
+  public:
+    virtual ~Carga() = default;
+    virtual void agregar(const std::vector<Valor>& fila) = 0;
+    virtual void terminar() = 0;
+};
+
 class Conexion {
   public:
     virtual ~Conexion() = default;
@@ -159,6 +172,10 @@ class Conexion {
     // INSERT, UPDATE, DELETE o DDL; devuelve las filas afectadas.
     virtual std::int64_t ejecuta(std::string_view sql,
                                  const std::vector<Valor>& parametros = {}) = 0;
+
+    // Por omisión, INSERT de varias filas por vez.
+    virtual std::unique_ptr<Carga> cargar(const std::string& tabla,
+                                          const std::vector<std::string>& columnas);
 
     // Transacciones anidables: sólo la más externa confirma de verdad.
     virtual void comenzar() = 0;
@@ -207,7 +224,11 @@ std::string textoDeNumero(double numero);
 
 // Abre la base que nombra el destino: una ruta de archivo (SQLite) o una
 // cadena de conexión PostgreSQL ("postgresql://..." o "host=... dbname=...").
-std::unique_ptr<Conexion> abrir(const std::string& destino);
+// Con Apertura::Existente un archivo que no está da el error 3014 en lugar de
+// crearse vacío.
+enum class Apertura { CrearSiFalta, Existente };
+std::unique_ptr<Conexion> abrir(const std::string& destino,
+                                Apertura apertura = Apertura::CrearSiFalta);
 bool esDestinoPostgres(std::string_view destino);
 
 }  // namespace nomira::store

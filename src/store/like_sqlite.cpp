@@ -6,27 +6,52 @@ namespace nomira::store {
 
 namespace {
 
-// Decodifica UTF-8; un byte inválido pasa como está, para no perder nada.
+// Un byte que no forma UTF-8 válido es un carácter por sí mismo, fuera del
+// rango de Unicode: no se confunde con una letra (0xC1 no es "Á") ni se come
+// el byte siguiente (un "\" de escape o un "%").
+constexpr char32_t kByteSuelto = 0x110000;
+
+// El largo de la secuencia UTF-8 bien formada que empieza en `i`, o 0.
+std::size_t largoValido(std::string_view t, std::size_t i) {
+    auto b = [&](std::size_t k) { return static_cast<unsigned char>(t[i + k]); };
+    auto sigue = [&](std::size_t k, unsigned char min = 0x80, unsigned char max = 0xBF) {
+        return i + k < t.size() && b(k) >= min && b(k) <= max;
+    };
+    const unsigned char p = b(0);
+    if (p < 0x80) return 1;
+    if (p >= 0xC2 && p <= 0xDF) return sigue(1) ? 2 : 0;
+    // Sin formas largas de más, sin sustitutos (ED A0..BF) y sin pasar de U+10FFFF.
+    if (p >= 0xE0 && p <= 0xEF) {
+        const bool segundo = p == 0xE0   ? sigue(1, 0xA0)
+                             : p == 0xED ? sigue(1, 0x80, 0x9F)
+                                         : sigue(1);
+        return segundo && sigue(2) ? 3 : 0;
+    }
+    if (p >= 0xF0 && p <= 0xF4) {
+        const bool segundo = p == 0xF0   ? sigue(1, 0x90)
+                             : p == 0xF4 ? sigue(1, 0x80, 0x8F)
+                                         : sigue(1);
+        return segundo && sigue(2) && sigue(3) ? 4 : 0;
+    }
+    return 0;
+}
+
 std::vector<char32_t> decodificar(std::string_view texto) {
     std::vector<char32_t> salida;
     salida.reserve(texto.size());
     for (std::size_t i = 0; i < texto.size();) {
-        auto b = static_cast<unsigned char>(texto[i]);
-        int largo = b < 0x80           ? 1
-                    : (b >> 5) == 0x6  ? 2
-                    : (b >> 4) == 0xe  ? 3
-                    : (b >> 3) == 0x1e ? 4
-                                       : 0;
-        if (largo == 0 || i + static_cast<std::size_t>(largo) > texto.size()) {
-            salida.push_back(b);
+        const auto b = static_cast<unsigned char>(texto[i]);
+        const std::size_t largo = largoValido(texto, i);
+        if (largo == 0) {
+            salida.push_back(kByteSuelto + b);
             ++i;
             continue;
         }
         char32_t c = largo == 1 ? b : b & (0x7f >> largo);
-        for (int k = 1; k < largo; ++k)
+        for (std::size_t k = 1; k < largo; ++k)
             c = (c << 6) | (static_cast<unsigned char>(texto[i + k]) & 0x3f);
         salida.push_back(c);
-        i += static_cast<std::size_t>(largo);
+        i += largo;
     }
     return salida;
 }

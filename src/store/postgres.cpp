@@ -26,18 +26,8 @@ enum : Oid {
     kNumeric = 1700,
 };
 
-std::string textoDeParametro(const Valor& v) {
-    if (const auto* i = std::get_if<std::int64_t>(&v)) return std::to_string(*i);
-    if (const auto* d = std::get_if<double>(&v)) {
-        // La forma más corta que vuelve al mismo double.
-        char buf[32];
-        auto [fin, ec] = std::to_chars(buf, buf + sizeof buf, *d);
-        return std::string(buf, ec == std::errc() ? fin : buf);
-    }
-    return std::get<std::string>(v);
-}
-
-Valor leer(const PGresult* r, int fila, int col) {
+// La celda tal como llegó: el texto es una vista sobre el resultado.
+Celda celdaPg(const PGresult* r, int fila, int col) {
     if (PQgetisnull(r, fila, col)) return Nulo{};
     const char* texto = PQgetvalue(r, fila, col);
     std::size_t largo = static_cast<std::size_t>(PQgetlength(r, fila, col));
@@ -61,9 +51,33 @@ Valor leer(const PGresult* r, int fila, int col) {
         }
         default:
             // text, varchar y date (con DateStyle ISO ya es "aaaa-mm-dd").
-            return std::string(texto, largo);
+            return std::string_view(texto, largo);
     }
 }
+
+Valor leer(const PGresult* r, int fila, int col) {
+    return valorDe(celdaPg(r, fila, col));
+}
+
+// Una fila de un tramo leído del cursor.
+class FilaPg final : public FilaAlPaso {
+  public:
+    FilaPg(const PGresult* r, int fila, const std::vector<std::string>& columnas)
+        : r_(r), fila_(fila), columnas_(columnas) {}
+    const std::vector<std::string>& columnas() const override { return columnas_; }
+    Celda celda(std::size_t posicion) const override {
+        if (posicion >= columnas_.size())
+            throw ErrorBase(kErrorUso, "No existe la columna " + std::to_string(posicion));
+        return celdaPg(r_, fila_, static_cast<int>(posicion));
+    }
+
+  private:
+    const PGresult* r_;
+    int fila_;
+    const std::vector<std::string>& columnas_;
+};
+
+constexpr int kFilasPorTramo = 1000;
 
 struct LiberarResultado {
     void operator()(PGresult* r) const { PQclear(r); }
@@ -72,7 +86,34 @@ using ResultadoPg = std::unique_ptr<PGresult, LiberarResultado>;
 
 void ignorarAvisos(void*, const char*) {}
 
+std::string sinEspaciosFinales(std::string texto) {
+    while (!texto.empty() && std::isspace(static_cast<unsigned char>(texto.back())))
+        texto.pop_back();
+    return texto;
+}
+
+// La clase 08 (conexión) y el cierre del servidor (57P01 por un administrador o
+// al apagarlo, 57P02 por una caída, 57P03 mientras arranca): el servidor avisa
+// y corta, y libpq puede no haberlo notado todavía.
+bool estadoDeConexionCaida(const PGresult* r) {
+    const char* estado = r ? PQresultErrorField(r, PG_DIAG_SQLSTATE) : nullptr;
+    if (!estado) return false;
+    const std::string_view e(estado);
+    return e.starts_with("08") || e == "57P01" || e == "57P02" || e == "57P03";
+}
+
 }  // namespace
+
+std::string textoParaPostgres(const Valor& v) {
+    if (const auto* i = std::get_if<std::int64_t>(&v)) return std::to_string(*i);
+    if (const auto* d = std::get_if<double>(&v)) {
+        // La forma más corta que vuelve al mismo double.
+        char buf[32];
+        auto [fin, ec] = std::to_chars(buf, buf + sizeof buf, *d);
+        return std::string(buf, ec == std::errc() ? fin : buf);
+    }
+    return std::get<std::string>(v);
+}
 
 std::string numerarParametros(std::string_view sql, int* cantidad) {
     std::string salida;
@@ -105,11 +146,9 @@ std::string numerarParametros(std::string_view sql, int* cantidad) {
 ConexionPostgres::ConexionPostgres(std::string cadena) : cadena_(std::move(cadena)) {
     conexion_ = PQconnectdb(cadena_.c_str());
     if (PQstatus(conexion_) != CONNECTION_OK) {
-        std::string mensaje = PQerrorMessage(conexion_);
+        const std::string mensaje = sinEspaciosFinales(PQerrorMessage(conexion_));
         PQfinish(conexion_);
         conexion_ = nullptr;
-        while (!mensaje.empty() && std::isspace(static_cast<unsigned char>(mensaje.back())))
-            mensaje.pop_back();
         throw ErrorBase(kErrorPostgresConexion,
                         "No se pudo conectar con el servidor de la base de datos: " + mensaje);
     }
@@ -132,30 +171,42 @@ int ConexionPostgres::procesoServidor() const {
 }
 
 void ConexionPostgres::asegurarConexion() {
-    if (PQstatus(conexion_) == CONNECTION_OK) return;
+    // Quien tenía una transacción abierta cuando se cortó tiene que cerrarla
+    // antes: lo suyo se perdió y no puede seguir como si nada en otra conexión.
+    if (perdidas_ > 0)
+        throw ErrorBase(
+            kErrorPostgresConexion,
+            std::string(kConexionPerdida) + "lo que no se había confirmado no quedó guardado.");
+    if (!rota_ && PQstatus(conexion_) == CONNECTION_OK) return;
     // Se perdió en una operación anterior: se reintenta una vez al empezar otra.
     PQreset(conexion_);
     cache_.clear();
     profundidad_ = 0;
     if (PQstatus(conexion_) != CONNECTION_OK)
-        throw ErrorBase(kErrorPostgresConexion,
-                        std::string("Se perdió la conexión con el servidor de la base de datos: ") +
-                            PQerrorMessage(conexion_));
+        throw ErrorBase(kErrorPostgresConexion, std::string(kConexionPerdida) +
+                                                    sinEspaciosFinales(PQerrorMessage(conexion_)));
+    rota_ = false;
     prepararSesion();
+}
+
+void ConexionPostgres::perderConexion(const std::string& detalle) {
+    // Lo confirmado queda en el servidor; lo que estaba a medias se perdió.
+    cache_.clear();
+    perdidas_ += profundidad_;
+    profundidad_ = 0;
+    rota_ = true;
+    throw ErrorBase(kErrorPostgresConexion, kConexionPerdida + detalle);
+}
+
+void ConexionPostgres::revisarConexion(const PGresult* resultado) {
+    if (PQstatus(conexion_) != CONNECTION_OK || rota_ || estadoDeConexionCaida(resultado))
+        perderConexion(sinEspaciosFinales(PQerrorMessage(conexion_)));
 }
 
 void ConexionPostgres::fallar(PGresult* resultado) {
     ResultadoPg r(resultado);
-    std::string mensaje = PQerrorMessage(conexion_);
-    while (!mensaje.empty() && std::isspace(static_cast<unsigned char>(mensaje.back())))
-        mensaje.pop_back();
-    if (PQstatus(conexion_) != CONNECTION_OK) {
-        // Lo confirmado queda en el servidor; lo que estaba a medias se perdió.
-        cache_.clear();
-        profundidad_ = 0;
-        throw ErrorBase(kErrorPostgresConexion,
-                        "Se perdió la conexión con el servidor de la base de datos: " + mensaje);
-    }
+    revisarConexion(r.get());
+    const std::string mensaje = sinEspaciosFinales(PQerrorMessage(conexion_));
     const char* estado = r ? PQresultErrorField(r.get(), PG_DIAG_SQLSTATE) : nullptr;
     int numero = kErrorPostgres + 99;
     if (estado && std::isdigit(static_cast<unsigned char>(estado[0])) &&
@@ -176,7 +227,11 @@ PGresult* ConexionPostgres::correr(std::string_view sql, const std::vector<Valor
     std::vector<const char*> punteros(parametros.size(), nullptr);
     for (std::size_t i = 0; i < parametros.size(); ++i) {
         if (std::holds_alternative<Nulo>(parametros[i])) continue;
-        textos[i] = textoDeParametro(parametros[i]);
+        textos[i] = textoParaPostgres(parametros[i]);
+        // libpq corta el texto en el carácter nulo: se guardaría otro texto.
+        if (textos[i].find('\0') != std::string::npos)
+            throw ErrorBase(kErrorUso, "El parámetro " + std::to_string(i + 1) +
+                                           " tiene un carácter nulo, que PostgreSQL no guarda.");
         punteros[i] = textos[i].c_str();
     }
     int n = static_cast<int>(parametros.size());
@@ -250,6 +305,40 @@ Resultado ConexionPostgres::consulta(std::string_view sql, const std::vector<Val
     return resultado;
 }
 
+void ConexionPostgres::recorrer(std::string_view sql, const std::vector<Valor>& parametros,
+                                const PorFila& porFila) {
+    // Un cursor vive dentro de una transacción: fuera de una, se abre una.
+    const bool propia = profundidad_ == 0;
+    if (propia) comenzar();
+    const std::string cursor = "nomira_cursor" + std::to_string(++siguiente_);
+    try {
+        ResultadoPg(
+            correr("DECLARE " + cursor + " NO SCROLL CURSOR FOR " + std::string(sql), parametros));
+        const std::string tramo = "FETCH " + std::to_string(kFilasPorTramo) + " FROM " + cursor;
+        std::vector<std::string> columnas;
+        for (int leidas = kFilasPorTramo; leidas == kFilasPorTramo;) {
+            ResultadoPg r(correr(tramo, {}));
+            if (columnas.empty())
+                for (int c = 0; c < PQnfields(r.get()); ++c)
+                    columnas.emplace_back(PQfname(r.get(), c));
+            leidas = PQntuples(r.get());
+            for (int f = 0; f < leidas; ++f) porFila(FilaPg(r.get(), f, columnas));
+        }
+        directa("CLOSE " + cursor);
+    } catch (...) {
+        if (propia) {
+            try {
+                deshacer();
+            } catch (...) {
+            }
+        } else if (PQtransactionStatus(conexion_) == PQTRANS_INTRANS) {
+            PQclear(PQexec(conexion_, ("CLOSE " + cursor).c_str()));
+        }
+        throw;
+    }
+    if (propia) confirmar();
+}
+
 std::int64_t ConexionPostgres::ejecuta(std::string_view sql, const std::vector<Valor>& parametros) {
     ResultadoPg r(correr(sql, parametros));
     const char* afectadas = PQcmdTuples(r.get());
@@ -265,6 +354,11 @@ void ConexionPostgres::comenzar() {
 }
 
 void ConexionPostgres::confirmar() {
+    if (perdidas_ > 0) {
+        --perdidas_;
+        throw ErrorBase(kErrorPostgresConexion,
+                        std::string(kConexionPerdida) + "la transacción no se pudo confirmar.");
+    }
     if (profundidad_ == 0) throw ErrorBase(kErrorUso, "Confirmar sin una transacción abierta");
     // Tras una sentencia fallida PostgreSQL respondería ROLLBACK a COMMIT sin
     // quejarse: se avisa en lugar de dar por confirmado lo que no quedó.
@@ -280,6 +374,11 @@ void ConexionPostgres::confirmar() {
 }
 
 void ConexionPostgres::deshacer() {
+    // El servidor ya deshizo lo que se llevó la conexión perdida.
+    if (perdidas_ > 0) {
+        --perdidas_;
+        return;
+    }
     if (profundidad_ == 0) throw ErrorBase(kErrorUso, "Deshacer sin una transacción abierta");
     int nivel = --profundidad_;
     if (nivel == 0) {

@@ -1,6 +1,10 @@
 #include "store/sqlite.h"
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <cctype>
+#include <filesystem>
 
 #include "store/like_sqlite.h"
 #include "store/sentencias.h"
@@ -11,6 +15,37 @@ namespace {
 
 constexpr int kEsperaMs = 10000;
 constexpr std::size_t kMaxCache = 256;
+
+// Sin permiso de escritura para este proceso, o sin ninguno para nadie: así
+// también un archivo marcado 0444 se respeta aunque el proceso sea root. La
+// carpeta cuenta porque SQLite escribe al lado el diario y la WAL.
+bool sinPermisoDeEscritura(const std::filesystem::path& p) {
+    struct stat datos {};
+    if (::stat(p.c_str(), &datos) != 0) return false;
+    return ::access(p.c_str(), W_OK) != 0 || (datos.st_mode & 0222) == 0;
+}
+
+bool sinEscritura(const std::string& ruta) {
+    auto carpeta = std::filesystem::path(ruta).parent_path();
+    if (carpeta.empty()) carpeta = ".";
+    return sinPermisoDeEscritura(ruta) || sinPermisoDeEscritura(carpeta);
+}
+
+// "file:<ruta>?immutable=1", con los caracteres que el URI reserva escapados.
+std::string uriInmutable(const std::string& ruta) {
+    static constexpr char cifras[] = "0123456789ABCDEF";
+    std::string uri = "file:";
+    for (unsigned char ch : ruta) {
+        if (ch == '?' || ch == '#' || ch == '%' || ch < 0x20) {
+            uri += '%';
+            uri += cifras[ch >> 4];
+            uri += cifras[ch & 0xF];
+        } else {
+            uri += static_cast<char>(ch);
+        }
+    }
+    return uri + "?immutable=1";
+}
 
 bool soloEspacios(const char* texto) {
     for (; *texto; ++texto)
@@ -36,14 +71,7 @@ Celda leerCelda(sqlite3_stmt* s, int i) {
 }
 
 Valor leerColumna(sqlite3_stmt* s, int i) {
-    return std::visit(
-        [](const auto& c) -> Valor {
-            if constexpr (std::is_same_v<std::decay_t<decltype(c)>, std::string_view>)
-                return std::string(c);
-            else
-                return c;
-        },
-        leerCelda(s, i));
+    return valorDe(leerCelda(s, i));
 }
 
 // La fila en que está parada la sentencia, leída en el momento.
@@ -79,26 +107,37 @@ class FilaSqlite final : public FilaAlPaso {
 
 }  // namespace
 
-ConexionSqlite::ConexionSqlite(std::string ruta) : ruta_(std::move(ruta)) {
+ConexionSqlite::ConexionSqlite(std::string ruta, Apertura apertura) : ruta_(std::move(ruta)) {
     // Sin la cuenta de memoria de SQLite, que toma un cerrojo en cada reserva;
     // sólo se puede decir antes de que SQLite arranque, con la primera conexión.
     static const int sinCuenta = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
     (void)sinCuenta;
+    std::error_code ec;
+    const bool existe = std::filesystem::exists(ruta_, ec);
+    if (!existe && apertura == Apertura::Existente)
+        throw ErrorBase(kErrorSqlite + SQLITE_CANTOPEN,
+                        "La base de datos '" + ruta_ + "' no existe.");
+    soloLectura_ = existe && sinEscritura(ruta_);
     // Una conexión se usa desde un solo hilo a la vez: sin los cerrojos internos
     // de SQLite, que cada llamada tomaría y soltaría.
-    int codigo =
-        sqlite3_open_v2(ruta_.c_str(), &base_,
-                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
-    if (codigo != SQLITE_OK) {
-        std::string mensaje = base_ ? sqlite3_errmsg(base_) : sqlite3_errstr(codigo);
-        sqlite3_close(base_);
-        base_ = nullptr;
-        throw ErrorBase(kErrorSqlite + (codigo & 0xff),
-                        "No se pudo abrir la base de datos " + ruta_ + ": " + mensaje);
+    if (soloLectura_) {
+        // Sin una WAL pendiente no hay cambios a medio pasar a la base: se lee como
+        // inmutable y no se crean al lado los archivos de la WAL, que en una
+        // carpeta de sólo lectura no se pueden crear y en otra quedarían con
+        // los permisos de la base, impidiendo escribirla cuando vuelva a poder.
+        if (std::filesystem::exists(ruta_ + "-wal", ec))
+            abrirArchivo(ruta_, SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX);
+        else
+            abrirArchivo(uriInmutable(ruta_),
+                         SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_URI);
+    } else {
+        abrirArchivo(ruta_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX |
+                                (apertura == Apertura::CrearSiFalta ? SQLITE_OPEN_CREATE : 0));
     }
     sqlite3_extended_result_codes(base_, 0);
     sqlite3_busy_timeout(base_, kEsperaMs);
     registrarLikeSinMayusculas(base_);
+    if (soloLectura_) return;
     // WAL deja leer mientras otro proceso escribe. Con synchronous=NORMAL una
     // confirmación no espera al disco: una caída del programa no pierde nada y la
     // base queda sana; sólo un corte de luz puede deshacer lo último confirmado.
@@ -106,6 +145,17 @@ ConexionSqlite::ConexionSqlite(std::string ruta) : ruta_(std::move(ruta)) {
     // en cada una.
     directa("PRAGMA journal_mode=WAL");
     directa("PRAGMA synchronous=NORMAL");
+}
+
+void ConexionSqlite::abrirArchivo(const std::string& nombre, int modo) {
+    int codigo = sqlite3_open_v2(nombre.c_str(), &base_, modo, nullptr);
+    if (codigo != SQLITE_OK) {
+        std::string mensaje = base_ ? sqlite3_errmsg(base_) : sqlite3_errstr(codigo);
+        sqlite3_close(base_);
+        base_ = nullptr;
+        throw ErrorBase(kErrorSqlite + (codigo & 0xff),
+                        "No se pudo abrir la base de datos " + ruta_ + ": " + mensaje);
+    }
 }
 
 ConexionSqlite::~ConexionSqlite() {
@@ -119,8 +169,15 @@ void ConexionSqlite::olvidarSentencias() {
 }
 
 void ConexionSqlite::fallar(int codigo) const {
-    throw ErrorBase(kErrorSqlite + (codigo & 0xff),
-                    std::string("Error de la base de datos: ") + sqlite3_errmsg(base_));
+    fallar(codigo, sqlite3_errmsg(base_));
+}
+
+void ConexionSqlite::fallar(int codigo, const std::string& mensaje) const {
+    if ((codigo & 0xff) == SQLITE_READONLY)
+        throw ErrorBase(kErrorSqlite + SQLITE_READONLY,
+                        "La base de datos '" + ruta_ +
+                            "' es de sólo lectura: no se puede guardar ningún cambio.");
+    throw ErrorBase(kErrorSqlite + (codigo & 0xff), "Error de la base de datos: " + mensaje);
 }
 
 void ConexionSqlite::directa(const std::string& sql) {
@@ -128,8 +185,7 @@ void ConexionSqlite::directa(const std::string& sql) {
     if (sqlite3_exec(base_, sql.c_str(), nullptr, nullptr, &error) != SQLITE_OK) {
         std::string mensaje = error ? error : "";
         sqlite3_free(error);
-        throw ErrorBase(kErrorSqlite + (sqlite3_errcode(base_) & 0xff),
-                        "Error de la base de datos: " + mensaje);
+        fallar(sqlite3_errcode(base_), mensaje);
     }
 }
 
@@ -258,8 +314,10 @@ std::int64_t ConexionSqlite::ejecuta(std::string_view sql, const std::vector<Val
 void ConexionSqlite::comenzar() {
     // Preparadas una vez, como las de datos: una corrida de empresa abre una
     // transacción por persona.
+    // Sólo para leer no hay escritura que tomar: se lee en una foto coherente y
+    // lo que se intente escribir da el error de sólo lectura.
     if (profundidad_ == 0)
-        ejecuta("BEGIN IMMEDIATE");
+        ejecuta(soloLectura_ ? "BEGIN" : "BEGIN IMMEDIATE");
     else
         ejecuta("SAVEPOINT nivel" + std::to_string(profundidad_));
     ++profundidad_;

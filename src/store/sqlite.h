@@ -14,15 +14,18 @@ namespace nomira::store {
 
 class ConexionSqlite : public Conexion {
   public:
-    // Abre o crea el archivo. Espera hasta diez segundos a otro proceso que
+    // Abre el archivo, o lo crea si `apertura` lo permite. Un archivo o una
+    // carpeta sin permiso de escritura se abre sólo para leer, y entonces
+    // escribir da el error 3008. Espera hasta diez segundos a otro proceso que
     // tenga la base tomada antes de dar el error 3005.
-    explicit ConexionSqlite(std::string ruta);
+    explicit ConexionSqlite(std::string ruta, Apertura apertura = Apertura::CrearSiFalta);
     ~ConexionSqlite() override;
     ConexionSqlite(const ConexionSqlite&) = delete;
     ConexionSqlite& operator=(const ConexionSqlite&) = delete;
 
     Motor motor() const override { return Motor::Sqlite; }
     const std::string& destino() const override { return ruta_; }
+    bool soloLectura() const { return soloLectura_; }
 
     Resultado consulta(std::string_view sql, const std::vector<Valor>& parametros = {}) override;
     void recorrer(std::string_view sql, const std::vector<Valor>& parametros,
@@ -60,7 +63,9 @@ class ConexionSqlite : public Conexion {
     Fila::Columnas leer(std::string_view sql, const std::vector<Valor>& parametros,
                         const PorPaso& porFila);
     void olvidarSentencias();
+    void abrirArchivo(const std::string& nombre, int modo);
     [[noreturn]] void fallar(int codigo) const;
+    [[noreturn]] void fallar(int codigo, const std::string& mensaje) const;
     void directa(const std::string& sql);
 
     std::string ruta_;
@@ -69,6 +74,7 @@ class ConexionSqlite : public Conexion {
     // mismas miles de veces.
     PorSentencia<Guardada> cache_;
     int profundidad_ = 0;
+    bool soloLectura_ = false;
 };
 
 }  // namespace nomira::store

@@ -73,7 +73,7 @@ TEST(Contrasena, HashConSalYVerificacion) {
 
     // Forma: esquema, iteraciones, 16 bytes de sal y 32 de hash en hexadecimal.
     const auto p1 = h.find('$'), p2 = h.find('$', p1 + 1), p3 = h.find('$', p2 + 1);
-    EXPECT_EQ(h.substr(0, p2), "pbkdf2-sha256$50000");
+    EXPECT_EQ(h.substr(0, p2), "pbkdf2-sha256$600000");
     EXPECT_EQ(p3 - p2 - 1, 32u);
     EXPECT_EQ(h.size() - p3 - 1, 64u);
 
@@ -86,7 +86,7 @@ TEST(Contrasena, GuardadoAlteradoOMalFormado) {
     cambiado.back() = cambiado.back() == '0' ? '1' : '0';
     EXPECT_FALSE(verificaContrasena("clave", cambiado));
     std::string otrasIteraciones = h;
-    otrasIteraciones.replace(otrasIteraciones.find("50000"), 5, "50001");
+    otrasIteraciones.replace(otrasIteraciones.find("600000"), 6, "600001");
     EXPECT_FALSE(verificaContrasena("clave", otrasIteraciones));
 
     for (const std::string& mal :

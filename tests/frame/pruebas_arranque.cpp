@@ -55,8 +55,8 @@ TEST(Arranque, BaseTxtDaLaRutaDeLaBase) {
     EXPECT_EQ(frame::destinoConfigurado(), "/datos/estudio.db");
     EXPECT_EQ(frame::rutaNomira("base.txt"), tmp.ruta() / "Software" / "Nomira" / "base.txt");
     // Un archivo escrito en Windows, con CR LF, da la misma ruta.
-    std::ofstream(frame::rutaNomira("base.txt")) << "c:\\nomira.db\r\n";
-    EXPECT_EQ(frame::destinoConfigurado(), "c:\\nomira.db");
+    std::ofstream(frame::rutaNomira("base.txt")) << "/datos/nomira.db\r\n";
+    EXPECT_EQ(frame::destinoConfigurado(), "/datos/nomira.db");
 }
 
 TEST(Instancia, LaSegundaSeRechazaHastaQueLaPrimeraTermina) {
@@ -77,9 +77,7 @@ TEST(Mantenimiento, CompactarDejaLaCopiaOldYLosDatos) {
     const auto ruta = tmp.archivo("nomira.db");
     EXPECT_EQ(frame::rutaCopiaAntigua(ruta), tmp.ruta() / "nomiraold.db");
     EXPECT_EQ(frame::rutaCopiaAntigua("/a.b/base"), "/a.b/baseold");
-    {
-        std::ofstream(frame::rutaCopiaAntigua(ruta)) << "una copia anterior";
-    }
+    { std::ofstream(frame::rutaCopiaAntigua(ruta)) << "una copia anterior"; }
     auto base = frame::crearBaseNueva(ruta);
     agregarEmpresa(*base, "O'Hara S.A.");
 
@@ -87,15 +85,16 @@ TEST(Mantenimiento, CompactarDejaLaCopiaOldYLosDatos) {
     dialogo.respuestas = {false};
     EXPECT_FALSE(frame::CompactarBase(dialogo, base));
     ASSERT_TRUE(base);  // con No no se cierra nada
-    EXPECT_EQ(dialogo.preguntas.at(0), std::string(frame::kTituloCerrarTodas) +
-                                           "|¿Desea compactar la base de datos?");
+    EXPECT_EQ(dialogo.preguntas.at(0),
+              std::string(frame::kTituloCerrarTodas) + "|¿Desea compactar la base de datos?");
 
     EXPECT_TRUE(frame::CompactarBase(dialogo, base));
     EXPECT_EQ(dialogo.ultimoMensaje(), "La base de datos ha sido compactada.");
     // La copia anterior se reemplazó por la base de antes de compactar; las dos tienen los datos.
     for (const auto& r : {ruta, frame::rutaCopiaAntigua(ruta).string()}) {
         auto b = frame::abrirBase(r);
-        EXPECT_EQ(b->consulta("SELECT empresa FROM empresas").primera().texto("empresa"), "O'Hara S.A.");
+        EXPECT_EQ(b->consulta("SELECT empresa FROM empresas").primera().texto("empresa"),
+                  "O'Hara S.A.");
     }
 }
 
@@ -104,8 +103,8 @@ TEST(Mantenimiento, RepararRevisaLaBase) {
     auto base = frame::crearBaseNueva(tmp.archivo("nomira.db"));
     pruebas::DialogoGuion dialogo;
     EXPECT_TRUE(frame::RepararBase(dialogo, base));
-    EXPECT_EQ(dialogo.preguntas.at(0), std::string(frame::kTituloCerrarTodas) +
-                                           "|¿Desea reparar la base de datos?");
+    EXPECT_EQ(dialogo.preguntas.at(0),
+              std::string(frame::kTituloCerrarTodas) + "|¿Desea reparar la base de datos?");
     EXPECT_EQ(dialogo.mensajes.at(0).titulo, "Mensaje de confirmación");
     EXPECT_EQ(dialogo.ultimoMensaje(), "La base de datos ha sido reparada.");
 }
@@ -121,7 +120,8 @@ TEST(LineaDeOrdenes, InitYResumen) {
         auto base = frame::abrirBase(ruta);
         agregarEmpresa(*base, "UNO");
         base->ejecuta("INSERT INTO personal (empresa, nombre) VALUES ('UNO', 'PEREZ, ANA')");
-        base->ejecuta("INSERT INTO habydesc (empresa, nombre, codigo) VALUES ('UNO', 'PEREZ, ANA', 1)");
+        base->ejecuta(
+            "INSERT INTO habydesc (empresa, nombre, codigo) VALUES ('UNO', 'PEREZ, ANA', 1)");
         base->ejecuta("INSERT INTO aguinaldos (empresa, nombre) VALUES ('UNO', 'PEREZ, ANA')");
     }
     r = cli("resumen");

@@ -87,6 +87,15 @@ TEST_P(CopiaBase, IdaYVueltaDejaLasMismasFilas) {
                                        [](const auto& t) { return t.tabla == "habydesc"; });
     EXPECT_EQ(habydesc->filas, 30);
 
+    // El servidor queda con las estadísticas de lo que se llenó.
+    if (esPostgres()) {
+        EXPECT_EQ(c().consulta("SELECT reltuples FROM pg_class WHERE oid = "
+                               "CAST('habydesc' AS regclass)")
+                      .primera()
+                      .entero(0),
+                  30);
+    }
+
     auto vuelta = sqlite("vuelta.db");
     maintenance::copiarBase(c(), *vuelta);
     EXPECT_EQ(volcado(*vuelta), volcado(*origen));
@@ -123,6 +132,32 @@ TEST_P(CopiaBase, UnDestinoConDatosSeRechazaSinTocarlo) {
     const auto antes = volcado(c());
     EXPECT_THROW(maintenance::copiarBase(*origen, c()), store::ErrorBase);
     EXPECT_EQ(volcado(c()), antes);
+}
+
+// SQLite guarda un texto con el carácter nulo; PostgreSQL lo cortaría. Hacia
+// PostgreSQL no se copia nada y el mensaje dice dónde está.
+TEST_P(CopiaBase, UnTextoConCaracterNuloNoSeCortaEnElCamino) {
+    auto origen = sqlite("origen.db");
+    llenar(*origen);
+    const std::string conNulo("CALLE 1\0 APTO 2", 16);
+    origen->ejecuta("UPDATE personal SET direccion = ? WHERE nombre = ?",
+                    {conNulo, std::string("PEÑA_DÍAZ, JOSÉ")});
+    if (!esPostgres()) {
+        maintenance::copiarBase(*origen, c());
+        EXPECT_EQ(c().consulta("SELECT direccion FROM personal").primera().texto(0), conNulo);
+        return;
+    }
+    try {
+        maintenance::copiarBase(*origen, c());
+        FAIL() << "la copia debía rechazarse";
+    } catch (const store::ErrorBase& e) {
+        EXPECT_EQ(e.descripcion(),
+                  "La fila de la tabla personal con empresa = 'O'Hara & Cía.', nombre = "
+                  "'PEÑA_DÍAZ, JOSÉ' tiene un carácter nulo en la columna direccion, que "
+                  "PostgreSQL no puede guardar. No se copió nada: corrija ese texto en el origen "
+                  "y vuelva a copiar.");
+    }
+    EXPECT_FALSE(store::existeEsquema(c()));
 }
 
 NOMIRA_PARA_CADA_MOTOR(CopiaBase);

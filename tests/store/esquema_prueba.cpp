@@ -87,7 +87,7 @@ TEST(Definicion, CantidadesPosicionesYTipos) {
 // Cada tabla creada tiene sus columnas en el orden y con el tipo definidos.
 TEST_P(Esquema, LaBaseCreadaSigueLaDefinicion) {
     auto tablas = tablasDeLaBase(c());
-    EXPECT_EQ(tablas.size(), 41u);  // las 39, versionesquema y explicacionesmes
+    EXPECT_EQ(tablas.size(), 41u);  // las 39, versionesquema y explicaciones
     auto definidas = esquema();
     definidas.insert(definidas.end(), tablasAuxiliares().begin(), tablasAuxiliares().end());
     for (const Tabla& t : definidas) {

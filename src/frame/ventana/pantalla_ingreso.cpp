@@ -62,9 +62,8 @@ void PantallaIngreso::enterEnPassword() {
 
 void PantallaIngreso::buscar() {
     try {
-        const auto config = master::leerConfiguracion(*sesion_.base);
-        const auto categoria = frame::verificarIngreso(config, usuario_->text().toStdString(),
-                                                       password_->text().toStdString());
+        const auto categoria = frame::ingresar(*sesion_.base, usuario_->text().toStdString(),
+                                               password_->text().toStdString());
         if (!categoria) {
             // Sin límite de intentos: la pantalla queda para probar otra vez.
             sesion_.dialogo->avisar(TipoAviso::Advertencia, frame::kIngresoIncorrecto);
