@@ -18,17 +18,11 @@ const std::filesystem::path kDatos = std::filesystem::path(__FILE__).parent_path
 
 class DosProcesos : public store::prueba::BasePrueba {
 protected:
-    // Texto entre comillas simples para el shell.
-    static std::string citado(const std::string& s) {
-        std::string r = "'";
-        for (char ch : s) r += ch == '\'' ? std::string("'\\''") : std::string(1, ch);
-        return r + "'";
-    }
     // Una tanda de personas liquidada por un proceso nomira-cli por persona, en orden.
     std::string tanda(int desde, int hasta) const {
         std::string orden;
         for (int i = desde; i <= hasta; ++i)
-            orden += pruebas::rutaCli() + " --base " + citado(destino_) +
+            orden += pruebas::rutaCli() + " --base " + pruebas::citado(destino_) +
                      " haberes --empresa ACME --nombre 'PEREZ, ANA" + std::to_string(i) +
                      "' --mes 02/26 >/dev/null || echo FALLO " + std::to_string(i) + "; ";
         return orden;
