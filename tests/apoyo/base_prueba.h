@@ -11,6 +11,35 @@
 
 namespace nomira::store::prueba {
 
+// Una base vacía y propia sobre un motor: un archivo SQLite (todavía sin
+// crear) en una carpeta temporal, o un esquema nuevo del PostgreSQL de las
+// pruebas. Se borra al destruirse.
+class DestinoPrueba {
+  public:
+    explicit DestinoPrueba(Motor motor);
+    ~DestinoPrueba();
+    DestinoPrueba(const DestinoPrueba&) = delete;
+    DestinoPrueba& operator=(const DestinoPrueba&) = delete;
+
+    // Falso si es PostgreSQL y NOMIRA_PG_PRUEBA no está definida.
+    bool disponible() const { return !destino_.empty(); }
+    // Ruta del archivo o cadena de conexión con el esquema en search_path.
+    const std::string& destino() const { return destino_; }
+
+  private:
+    std::string destino_;
+    std::string carpeta_;
+    std::string esquemaPg_;
+};
+
+// Omite la prueba, con un aviso visible la primera vez, si el destino no está.
+#define NOMIRA_OMITIR_SI_NO_HAY(destino)                                               \
+    if (!(destino).disponible()) {                                                     \
+        ::nomira::store::prueba::avisarSinPostgres();                                  \
+        GTEST_SKIP() << "PostgreSQL no disponible: NOMIRA_PG_PRUEBA no está definida"; \
+    }
+void avisarSinPostgres();
+
 class BasePrueba : public ::testing::TestWithParam<Motor> {
   protected:
     void SetUp() override;
@@ -29,8 +58,7 @@ class BasePrueba : public ::testing::TestWithParam<Motor> {
     std::unique_ptr<Conexion> conexion_;
 
   private:
-    std::string carpeta_;
-    std::string esquemaPg_;
+    std::unique_ptr<DestinoPrueba> base_;
 };
 
 class BaseVacia : public BasePrueba {

@@ -31,6 +31,16 @@ inline SalidaCli ejecutar(const std::string& orden) {
     return {WEXITSTATUS(estado), texto};
 }
 
-inline SalidaCli cli(const std::string& argumentos) { return ejecutar(rutaCli() + " " + argumentos); }
+// Texto entre comillas simples para el shell: una cadena de PostgreSQL o un
+// nombre pueden traerlas.
+inline std::string citado(const std::string& s) {
+    std::string r = "'";
+    for (char ch : s) r += ch == '\'' ? std::string("'\\''") : std::string(1, ch);
+    return r + "'";
+}
+
+inline SalidaCli cli(const std::string& argumentos) {
+    return ejecutar(rutaCli() + " " + argumentos);
+}
 
 }  // namespace nomira::pruebas

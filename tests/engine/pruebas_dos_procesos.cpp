@@ -41,19 +41,12 @@ class VariosProcesos : public store::prueba::BasePrueba {
 
     static std::string persona(int i) { return "PEREZ, ANA" + std::to_string(i); }
 
-    // Texto entre comillas simples para el shell.
-    static std::string citado(const std::string& s) {
-        std::string r = "'";
-        for (char ch : s) r += ch == '\'' ? std::string("'\\''") : std::string(1, ch);
-        return r + "'";
-    }
-
     // Haberes y después descuentos de la empresa (nombre vacío) o de una persona.
     std::string liquidar(const std::string& nombre) const {
         std::string orden;
         for (const char* o : {"haberes", "descuentos"})
-            orden += pruebas::rutaCli() + " --base " + citado(destino_) + " " + o +
-                     " --empresa ACME" + (nombre.empty() ? "" : " --nombre " + citado(nombre)) +
+            orden += pruebas::rutaCli() + " --base " + pruebas::citado(destino_) + " " + o +
+                     " --empresa ACME" + (nombre.empty() ? "" : " --nombre " + pruebas::citado(nombre)) +
                      " --mes 02/26 >/dev/null 2>&1 || echo FALLO " + o + " " + nombre + "; ";
         return orden;
     }

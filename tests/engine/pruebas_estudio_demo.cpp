@@ -208,10 +208,7 @@ class OrdenDemo : public store::prueba::BaseVacia {
 NOMIRA_PARA_CADA_MOTOR(OrdenDemo);
 
 TEST_P(OrdenDemo, CreaLiquidaYResumeYNoTocaUnaBaseQueYaExiste) {
-    // Entre comillas simples para el shell: una cadena de PostgreSQL puede traerlas.
-    std::string comillas = "'";
-    for (char ch : destino_) comillas += ch == '\'' ? std::string("'\\''") : std::string(1, ch);
-    comillas += "'";
+    const std::string comillas = pruebas::citado(destino_);
     const std::string base = "--base " + comillas + " ";
     auto s = pruebas::cli(base + "demo --liquidar");
     ASSERT_EQ(s.estado, 0) << s.texto;

@@ -175,7 +175,8 @@ ImportacionHoras importarHoras(ContextoFormula& ctx, const ArchivoHoras& archivo
         CalculoFormula3(ctx, dialogo);
         double cant = ctx.cant, total = ctx.total;
         std::string exp = concepto->concepto + ": archivo " + numero(l->cantidad) + " / " +
-                          pesos(l->importe) + ", fórmula " + numero(cant) + " x " + numero(total);
+                          pesos(l->importe) + ", fórmula " + concepto->formula +
+                          " con cantidad " + numero(cant) + ": " + pesos(total);
 
         if (descuentos) {
             const bool unicoHaber = (tiposueldo == "H" || tiposueldo == "J") && cantHab == 1;
