@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -172,8 +173,13 @@ std::unique_ptr<store::Conexion> empresaReal(const fs::path& archivo) {
 }
 
 // Las sentencias que llegaron al servidor desde la última puesta a cero, sin
-// las del propio conteo; vacío si el servidor no tiene pg_stat_statements.
-using Sentencias = std::map<std::string, std::int64_t>;
+// las del propio conteo; vacío si el servidor no tiene pg_stat_statements. Los
+// INSERT de varias filas se juntan en uno: cada cantidad de filas es otro texto.
+struct Llamadas {
+    std::int64_t veces = 0;
+    double ms = 0;  // tiempo del servidor
+};
+using Sentencias = std::map<std::string, Llamadas>;
 bool ponerEnCero(store::Conexion& base) {
     if (base.motor() != store::Motor::Postgres) return false;
     try {
@@ -186,28 +192,38 @@ bool ponerEnCero(store::Conexion& base) {
 Sentencias sentenciasDesdeCero(store::Conexion& base) {
     Sentencias s;
     const auto r = base.consulta(
-        "SELECT query, calls FROM public.pg_stat_statements WHERE dbid = (SELECT oid FROM "
-        "pg_database WHERE datname = current_database()) AND query NOT LIKE "
+        "SELECT query, calls, total_exec_time FROM public.pg_stat_statements WHERE dbid = "
+        "(SELECT oid FROM pg_database WHERE datname = current_database()) AND query NOT LIKE "
         "'%pg_stat_statements%'");
-    for (const auto& f : r.filas) s[f.texto("query")] += f.entero("calls");
+    for (const auto& f : r.filas) {
+        auto q = f.texto("query");
+        if (const auto v = q.find(" VALUES ("); v != std::string::npos)
+            q = q.substr(0, q.find(')', v) + 1) + ", ...";
+        s[q].veces += f.entero("calls");
+        s[q].ms += f.real("total_exec_time");
+    }
     return s;
 }
 double porPersona(const Sentencias& s) {
     std::int64_t n = 0;
-    for (const auto& [_, calls] : s) n += calls;
+    for (const auto& [_, l] : s) n += l.veces;
     return static_cast<double>(n) / kPersonas;
 }
 void mostrar(const std::string& titulo, const Sentencias& s) {
-    std::vector<std::pair<std::int64_t, std::string>> v;
-    for (const auto& [q, calls] : s) v.emplace_back(calls, q);
-    std::sort(v.rbegin(), v.rend());
-    std::cerr << "\n" << titulo << ": " << porPersona(s) << " sentencias por persona\n";
-    for (const auto& [calls, q] : v) std::cerr << "  " << calls << "\t" << q << '\n';
+    std::vector<std::pair<Llamadas, std::string>> v;
+    for (const auto& [q, l] : s) v.emplace_back(l, q);
+    std::sort(v.begin(), v.end(), [](auto& a, auto& b) { return a.first.veces > b.first.veces; });
+    std::cerr << "\n"
+              << titulo << ": " << porPersona(s) << " sentencias por persona\n"
+              << "  veces\tms servidor\tsentencia\n";
+    for (const auto& [l, q] : v)
+        std::cerr << "  " << l.veces << '\t' << static_cast<long>(l.ms) << "\t\t" << q << '\n';
 }
 
 struct Corrida {
     engine::ResultadoEmpresa haberes, descuentos;
     double segHaberes = 0, segDescuentos = 0;
+    double cpu = 0;  // segundos de CPU del proceso en las dos: el resto es esperar al disco
     Sentencias sentHaberes, sentDescuentos;  // vacías sin pg_stat_statements
 };
 
@@ -217,6 +233,7 @@ Corrida liquidar(store::Conexion& base, const common::Mes& mes) {
     pruebas::DialogoGuion dialogo;
     Corrida c;
     const bool contar = ponerEnCero(base);
+    const auto cpu = std::clock();
     auto a = std::chrono::steady_clock::now();
     c.haberes =
         engine::ActHamPermxEmpresa(base, kEmpresa, mes, dialogo, engine::conArchivoDeHoras());
@@ -228,6 +245,7 @@ Corrida liquidar(store::Conexion& base, const common::Mes& mes) {
     a = std::chrono::steady_clock::now();
     c.descuentos = engine::ActDesPermxEmpresa(base, kEmpresa, mes, dialogo);
     c.segDescuentos = banco::segundosDesde(a);
+    c.cpu = static_cast<double>(std::clock() - cpu) / CLOCKS_PER_SEC;
     if (contar) c.sentDescuentos = sentenciasDesdeCero(base);
     if (c.haberes.fallo || c.descuentos.fallo || c.haberes.personas.size() != kPersonas ||
         c.descuentos.personas.size() != kPersonas)
@@ -313,6 +331,10 @@ void BM_EmpresaReal(benchmark::State& state) {
     state.counters["descuentos_sin_s"] = sin.segDescuentos;
     state.counters["haberes_con_s"] = con.segHaberes;
     state.counters["descuentos_con_s"] = con.segDescuentos;
+    state.counters["cpu_sin_s"] = sin.cpu;
+    state.counters["cpu_con_s"] = con.cpu;
+    state.counters["cociente_haberes"] = con.segHaberes / sin.segHaberes;
+    state.counters["cociente_descuentos"] = con.segDescuentos / sin.segDescuentos;
     state.counters["cociente"] =
         (con.segHaberes + con.segDescuentos) / (sin.segHaberes + sin.segDescuentos);
     state.counters["filas_sin"] = static_cast<double>(filas[false]);
