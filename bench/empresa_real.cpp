@@ -176,7 +176,7 @@ std::unique_ptr<store::Conexion> empresaReal(const fs::path& archivo) {
 // las del propio conteo; vacío si el servidor no tiene pg_stat_statements. Los
 // INSERT de varias filas se juntan en uno: cada cantidad de filas es otro texto.
 struct Llamadas {
-    std::int64_t veces = 0;
+    std::int64_t veces = 0, filas = 0;
     double ms = 0;  // tiempo del servidor
 };
 using Sentencias = std::map<std::string, Llamadas>;
@@ -192,7 +192,7 @@ bool ponerEnCero(store::Conexion& base) {
 Sentencias sentenciasDesdeCero(store::Conexion& base) {
     Sentencias s;
     const auto r = base.consulta(
-        "SELECT query, calls, total_exec_time FROM public.pg_stat_statements WHERE dbid = "
+        "SELECT query, calls, rows, total_exec_time FROM public.pg_stat_statements WHERE dbid = "
         "(SELECT oid FROM pg_database WHERE datname = current_database()) AND query NOT LIKE "
         "'%pg_stat_statements%'");
     for (const auto& f : r.filas) {
@@ -200,6 +200,7 @@ Sentencias sentenciasDesdeCero(store::Conexion& base) {
         if (const auto v = q.find(" VALUES ("); v != std::string::npos)
             q = q.substr(0, q.find(')', v) + 1) + ", ...";
         s[q].veces += f.entero("calls");
+        s[q].filas += f.entero("rows");
         s[q].ms += f.real("total_exec_time");
     }
     return s;
@@ -215,9 +216,10 @@ void mostrar(const std::string& titulo, const Sentencias& s) {
     std::sort(v.begin(), v.end(), [](auto& a, auto& b) { return a.first.veces > b.first.veces; });
     std::cerr << "\n"
               << titulo << ": " << porPersona(s) << " sentencias por persona\n"
-              << "  veces\tms servidor\tsentencia\n";
+              << "  veces\tfilas\tms servidor\tsentencia\n";
     for (const auto& [l, q] : v)
-        std::cerr << "  " << l.veces << '\t' << static_cast<long>(l.ms) << "\t\t" << q << '\n';
+        std::cerr << "  " << l.veces << '\t' << l.filas << '\t' << static_cast<long>(l.ms) << "\t\t"
+                  << q << '\n';
 }
 
 struct Corrida {
