@@ -123,8 +123,8 @@ master::Persona personaDe(int p) {
 }
 
 // Las líneas del reloj de un mes: jornales y horas que cambian un poco de mes a
-// mes, una licencia de diez días para uno de cada cincuenta (jornaleros
-// incluidos) y dos faltas para uno de cada cuarenta mensuales.
+// mes, una licencia de diez días para dos de cada cincuenta (un mensual y un
+// jornalero) y dos faltas para uno de cada cuarenta mensuales.
 std::vector<std::string> lineasDelReloj(const common::Mes& mes) {
     std::vector<std::string> v;
     for (int p = 0; p < kPersonas; ++p) {
@@ -132,7 +132,9 @@ std::vector<std::string> lineasDelReloj(const common::Mes& mes) {
         const int vaiven = (p + mes.mes) % 5;
         if (claseDe(p) == Clase::Jornalero) v.push_back(n + "10|" + std::to_string(18 + vaiven));
         if (claseDe(p) == Clase::PorHora) v.push_back(n + "15|" + std::to_string(150 + 4 * vaiven));
-        if ((p + mes.mes) % 50 == 11 || (p + mes.mes) % 50 == 13) v.push_back(n + "30|10");
+        // La licencia pasa de mes en mes a otras personas de la misma clase.
+        const int turno = (p + 10 * mes.mes) % 50;
+        if (turno == 11 || turno == 13) v.push_back(n + "30|10");
         if (claseDe(p) == Clase::Mensual && (p + mes.mes) % 40 == 21) v.push_back(n + "21|2");
     }
     return v;
