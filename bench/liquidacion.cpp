@@ -13,6 +13,7 @@
 #include <string>
 
 #include "apoyo/dialogo_guion.h"
+#include "comun.h"
 #include "engine/mes/descuentos.h"
 #include "engine/mes/haberes.h"
 #include "master/datos_iniciales.h"
@@ -22,25 +23,12 @@
 namespace {
 
 using namespace nomira;
+using banco::baseVacia;
+using banco::segundosDesde;
+using banco::vueltas;
 
 constexpr int kPersonas = 1000;
 constexpr int kPrimas = 13;
-
-// Con NOMIRA_BANCO_PG (una cadena de conexión) la empresa va a un esquema propio de ese
-// servidor, que se borra y se vuelve a crear; si no, a un archivo SQLite temporal.
-std::unique_ptr<store::Conexion> baseVacia(const std::filesystem::path& archivo) {
-    const char* pg = std::getenv("NOMIRA_BANCO_PG");
-    if (!pg || !*pg) {
-        std::filesystem::remove(archivo);
-        return store::abrir(archivo.string());
-    }
-    auto base = store::abrir(pg);
-    const auto esquema = "banco_" + archivo.stem().string();
-    base->ejecuta("DROP SCHEMA IF EXISTS " + esquema + " CASCADE");
-    base->ejecuta("CREATE SCHEMA " + esquema);
-    base->ejecuta("SET search_path TO " + esquema);
-    return base;
-}
 
 // Una base con los datos con que nace (conceptos estándar, BPC, franjas) y la
 // empresa generada.
@@ -65,10 +53,6 @@ std::unique_ptr<store::Conexion> empresaGenerada(const std::filesystem::path& ar
             {"PERSONA " + std::to_string(p), std::to_string(20000 + p * 100)});
     t.confirmar();
     return base;
-}
-
-double segundosDesde(std::chrono::steady_clock::time_point a) {
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - a).count();
 }
 
 // Inserta las filas de las corridas: en una sola transacción o en una por
@@ -132,13 +116,6 @@ void BM_LiquidacionDeLaEmpresa(benchmark::State& state) {
     state.counters["inserts_por_persona_s"] = segPorPersona;
     state.counters["veces"] = segInsert > 0 ? (segHaberes + segDescuentos) / segInsert : 0;
     std::filesystem::remove_all(dir);
-}
-// La máquina se mueve: quince vueltas y, de cada cifra, la mediana. Con
-// NOMIRA_BANCO_VUELTAS, otra cantidad (una, para contar instrucciones con
-// callgrind).
-int vueltas() {
-    const char* v = std::getenv("NOMIRA_BANCO_VUELTAS");
-    return v && std::atoi(v) > 0 ? std::atoi(v) : 15;
 }
 BENCHMARK(BM_LiquidacionDeLaEmpresa)
     ->Iterations(1)
