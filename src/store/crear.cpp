@@ -107,6 +107,13 @@ void explicacionesPorFila(Conexion& c) {
                 "(?, ?, ?, ?, ?, ?)",
                 {k[0], k[1], k[2], k[3], codigo, texto});
     c.ejecuta("DROP TABLE explicacionesmes");
+    // Las de filas que ya no están (las juntas no se podaban siempre) no pasan.
+    for (const char* tabla : {"habydesc", "egresos", "salvacacional"})
+        c.ejecuta(std::string("DELETE FROM explicaciones WHERE tabla = '") + tabla +
+                  "' AND NOT EXISTS (SELECT 1 FROM " + tabla +
+                  " f WHERE f.empresa = explicaciones.empresa AND f.nombre = "
+                  "explicaciones.nombre AND f.fecha = explicaciones.fecha AND f.codigo = "
+                  "explicaciones.codigo)");
 }
 
 void sinCambios(Conexion&) {}

@@ -114,6 +114,10 @@ TEST_P(CopiaBase, UnOrigenAnteriorSePoneAlDiaAntesDeCopiarse) {
     origen->ejecuta(
         "INSERT INTO explicacionesmes VALUES ('E', 'N', '2026-02-01', 'habydesc', ?)",
         {std::string("7\x1f" "siete\x1e" "8\x1f" "ocho")});
+    // Las explicaciones pasan con sus filas.
+    origen->ejecuta(
+        "INSERT INTO habydesc (empresa, nombre, fecha, codigo, concepto) VALUES ('E', 'N', "
+        "'2026-02-01', 7, 'SIETE'), ('E', 'N', '2026-02-01', 8, 'OCHO')");
     origen->ejecuta("UPDATE versionesquema SET version = 3");
     maintenance::copiarBase(*origen, c());
     const auto r = c().consulta("SELECT codigo, texto FROM explicaciones ORDER BY codigo");

@@ -59,20 +59,36 @@ void insertarFilas(store::Conexion& base, const std::string& tabla,
     }
 }
 
-void reescribirMes(store::Conexion& base, const LibroPersona& libro, TablaLiquidacion t,
-                   const common::Mes& mes) {
+// "codigo IN (?, ?, ...)" con un signo por código.
+std::string codigoEn(std::size_t codigos) {
+    std::string s = " AND codigo IN (";
+    for (std::size_t i = 0; i < codigos; ++i) s += i ? ", ?" : "?";
+    return s + ")";
+}
+
+// Las filas de los códigos que cambiaron, con sus explicaciones: las de la base
+// se borran y las del libro se insertan. Por código y no por posición: así no
+// importa qué vio de la base quien calculó; bajo la clave de la persona, lo que
+// queda es lo último que se escribió.
+void reescribirCodigos(store::Conexion& base, const LibroPersona& libro, TablaLiquidacion t,
+                       const common::Mes& mes, const std::set<long>& codigos) {
     const std::string tabla = nombreTabla(t);
     const std::vector<store::Valor> clave = {libro.empresa(), libro.nombre(),
                                              mes.primerDia().iso()};
-    base.ejecuta("DELETE FROM " + tabla + " WHERE empresa = ? AND nombre = ? AND fecha = ?", clave);
-    auto conTabla = clave;
-    conTabla.emplace_back(tabla);
+    auto borrar = clave;
+    for (const long c : codigos) borrar.emplace_back(std::int64_t{c});
+    base.ejecuta("DELETE FROM " + tabla + " WHERE empresa = ? AND nombre = ? AND fecha = ?" +
+                     codigoEn(codigos.size()),
+                 borrar);
+    borrar.insert(borrar.begin() + 3, tabla);
     base.ejecuta(
-        "DELETE FROM explicaciones WHERE empresa = ? AND nombre = ? AND fecha = ? AND tabla = ?",
-        conTabla);
+        "DELETE FROM explicaciones WHERE empresa = ? AND nombre = ? AND fecha = ? AND tabla = ?" +
+            codigoEn(codigos.size()),
+        borrar);
 
     std::vector<const FilaMes*> filas, explicadas;
     for (const auto& f : libro.filas(t, mes)) {
+        if (!codigos.count(f.codigo)) continue;
         filas.push_back(&f);
         if (!f.explicacion.empty()) explicadas.push_back(&f);
     }
@@ -147,9 +163,10 @@ void escribirLibro(store::Conexion& base, LibroPersona& libro) {
     store::Transaccion t(base);
     // Las claves en un orden fijo (el del conjunto): dos puestos no se cruzan.
     std::set<common::Mes> meses;
-    for (const auto& [tabla, mes] : libro.cambiados()) meses.insert(mes);
+    for (const auto& [cambio, codigos] : libro.cambiados()) meses.insert(cambio.second);
     for (const auto& mes : meses) bloquearMes(base, libro.empresa(), libro.nombre(), mes);
-    for (const auto& [tabla, mes] : libro.cambiados()) reescribirMes(base, libro, tabla, mes);
+    for (const auto& [cambio, codigos] : libro.cambiados())
+        reescribirCodigos(base, libro, cambio.first, cambio.second, codigos);
     t.confirmar();
     libro.escritos();
 }

@@ -1,6 +1,6 @@
 #pragma once
 // El último paso de una liquidación: llevar a la base lo que cambió en el libro
-// de una persona. Cada mes de tabla que cambió se reescribe entero, filas y
+// de una persona. Las filas de cada código que cambió se reescriben con sus
 // explicaciones, en una transacción y bajo la clave de empresa, persona y mes:
 // dos puestos que liquidan a la misma persona a la vez quedan uno después del
 // otro, como si hubieran liquidado uno tras otro.

@@ -98,19 +98,20 @@ bool LibroPersona::tiene(TablaLiquidacion t, const common::Mes& mes,
     return std::any_of(f.begin(), f.end(), [&](const FilaMes& x) { return x.tipo == tipo; });
 }
 
-std::vector<FilaMes>& LibroPersona::paraCambiar(TablaLiquidacion t, const common::Mes& mes) {
+std::vector<FilaMes>& LibroPersona::paraCambiar(TablaLiquidacion t, const common::Mes& mes,
+                                                long codigo) {
     if (t == TablaLiquidacion::Aguinaldos)
         throw common::Fallo(5, "Las filas de aguinaldos no se escriben en el mes");
     filas(t, mes);  // que se haya leído
     if (escribible_ != mes)
         throw common::Fallo(5, std::string("No se leyeron las explicaciones de ") +
                                    nombreTabla(t) + " del " + mes.texto() + " de " + nombre_);
-    cambiados_.insert({t, mes});
+    cambiados_[{t, mes}].insert(codigo);
     return filas_[{t, mes}];
 }
 
 void LibroPersona::escribir(TablaLiquidacion t, const common::Mes& mes, const FilaMes& f) {
-    auto& filas = paraCambiar(t, mes);
+    auto& filas = paraCambiar(t, mes, f.codigo);
     bool habia = false;
     for (auto& x : filas) {
         if (x.codigo != f.codigo) continue;
@@ -140,14 +141,19 @@ std::size_t LibroPersona::borrar(TablaLiquidacion t, const common::Mes& mes,
     filas(t, mes);  // que se haya leído
     const auto it = filas_.find({t, mes});
     if (it == filas_.end()) return 0;
-    const auto borradas = std::erase_if(it->second, quitar);
-    if (borradas > 0) paraCambiar(t, mes);
+    std::size_t borradas = 0;
+    for (const auto& f : it->second)
+        if (quitar(f)) {
+            paraCambiar(t, mes, f.codigo);
+            ++borradas;
+        }
+    std::erase_if(it->second, quitar);
     return borradas;
 }
 
 void LibroPersona::explicar(TablaLiquidacion t, const common::Mes& mes, long codigo,
                             const std::string& texto) {
-    for (auto& f : paraCambiar(t, mes))
+    for (auto& f : paraCambiar(t, mes, codigo))
         if (f.codigo == codigo) f.explicacion = texto;
 }
 

@@ -75,18 +75,19 @@ class LibroPersona {
     void explicar(TablaLiquidacion t, const common::Mes& mes, long codigo,
                   const std::string& texto);
 
-    // Los meses de cada tabla que cambiaron desde la última vez que se escribió.
+    // Los códigos que cambiaron en cada mes de cada tabla desde la última vez que
+    // se escribió (escritos, borrados o explicados).
     using MesDeTabla = std::pair<TablaLiquidacion, common::Mes>;
-    const std::set<MesDeTabla>& cambiados() const { return cambiados_; }
+    const std::map<MesDeTabla, std::set<long>>& cambiados() const { return cambiados_; }
     void escritos() { cambiados_.clear(); }
 
   private:
-    std::vector<FilaMes>& paraCambiar(TablaLiquidacion t, const common::Mes& mes);
+    std::vector<FilaMes>& paraCambiar(TablaLiquidacion t, const common::Mes& mes, long codigo);
 
     std::string empresa_, nombre_;
     std::map<MesDeTabla, std::vector<FilaMes>> filas_;
     std::array<std::optional<std::pair<common::Mes, common::Mes>>, kCantTablas> leidos_;
-    std::set<MesDeTabla> cambiados_;
+    std::map<MesDeTabla, std::set<long>> cambiados_;
     std::optional<common::Mes> escribible_;
 };
 
