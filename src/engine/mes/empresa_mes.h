@@ -29,7 +29,7 @@ using ProgresoEmpresa =
 using CancelarEmpresa = std::function<bool()>;
 
 struct ResultadoEmpresa {
-    std::vector<ResultadoPersona> personas;  // las generadas, ya confirmadas al volver
+    std::vector<ResultadoPersona> personas;  // las generadas y confirmadas
     std::vector<std::string> inactivas;      // fuera del mes por ingreso o egreso
     bool cancelado = false;
     // Un fallo detiene el recorrido: lo de esa persona se deshizo, lo anterior queda.
@@ -37,10 +37,14 @@ struct ResultadoEmpresa {
     std::string personaFallida;
 };
 
+// Confirmar una transacción por persona costaba más que calcularla: se
+// confirman tandas de este número de personas, cada persona en su punto de
+// guardado dentro de la tanda. Un fallo deshace sólo a esa persona y confirma a
+// las anteriores; otro puesto espera a lo sumo una tanda para escribir lo mismo.
+inline constexpr std::size_t kPersonasPorTanda = 20;
+
 // Recorre las personas de lo leído en su orden: a cada una la calcula y
-// escribe sus filas en su propia transacción, bajo su clave (ver
-// escritura.h), así un fallo no deja a medias a nadie ni pierde a los
-// terminados, y otro puesto espera a lo sumo una persona para escribir.
+// escribe sus filas bajo su clave (ver escritura.h), por tandas.
 ResultadoEmpresa recorrerEmpresa(store::Conexion& base, std::shared_ptr<Lectura> lectura,
                                  const PorPersona& porPersona, const ProgresoEmpresa& progreso = {},
                                  const CancelarEmpresa& cancelar = {});
