@@ -7,6 +7,7 @@
 #include "engine/calculos/explicacion.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 namespace {
 
@@ -125,4 +126,5 @@ common::Dinero CalculoDtosobreHaberesNew(common::Dinero monto, double sumaDeTasa
     return common::Dinero::desdeDouble(monto.aDouble() * (1 - sumaDeTasas / 100));
 }
 
+}  // namespace calculos
 }  // namespace nomira::engine

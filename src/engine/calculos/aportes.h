@@ -12,6 +12,7 @@
 #include "engine/calculos/psnis.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 // El tope del montepío cuando no hay variable TOPEAFAP (o TOPEAFAPA).
 inline constexpr double kTopeAfapPorDefecto = 106549;
@@ -90,4 +91,5 @@ double sumaTasas(double psnis, double pmontepio, double pfrl);
 // CalculoDtosobreHaberesNew: el monto menos los tres aportes.
 common::Dinero CalculoDtosobreHaberesNew(common::Dinero monto, double sumaDeTasas);
 
+}  // namespace calculos
 }  // namespace nomira::engine

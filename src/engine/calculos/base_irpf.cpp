@@ -3,6 +3,7 @@
 #include "engine/calculos/explicacion.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 bool vinculoSinAdicion(const std::string& v) {
     const bool sas = v.size() >= 3 && v.compare(v.size() - 3, 3, "SAS") == 0;
@@ -72,4 +73,5 @@ void volcarEnContexto(const BaseMes& b, ContextoFormula& ctx) {
     ctx.montogravalim = b.liquido.montogravalim;
 }
 
+}  // namespace calculos
 }  // namespace nomira::engine

@@ -12,6 +12,7 @@
 #include "engine/mes/libro.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 struct EntradaDesglose {
     std::vector<FilaMes> filas;    // habydesc del mes, haberes y descuentos
@@ -46,4 +47,5 @@ BaseMes leerDesglose(const LibroPersona& libro, const common::Mes& mes,
 // y los tres líquidos.
 void volcarEnContexto(const BaseMes& b, ContextoFormula& ctx);
 
+}  // namespace calculos
 }  // namespace nomira::engine

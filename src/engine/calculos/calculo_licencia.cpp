@@ -14,6 +14,7 @@
 #include "store/like.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 namespace {
 
@@ -181,4 +182,5 @@ ImporteLicencia CalculoLicencia(const ContextoFormula& ctx, const std::string& t
     return calcularLicencia(e, evaluar);
 }
 
+}  // namespace calculos
 }  // namespace nomira::engine

@@ -14,6 +14,7 @@
 #include "store/conexion.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 // Grupo y subgrupo del consejo de salarios de la empresa: los textos que guarda
 // (vacíos como "NADA") y sus códigos, lo anterior al guion en grupoconsal y en
@@ -91,4 +92,5 @@ ImporteLicencia CalculoLicencia(const ContextoFormula& ctx,
                                 const std::string& textoDias, int grupo, int subgrupo,
                                 common::Dialogo& dialogo);
 
+}  // namespace calculos
 }  // namespace nomira::engine

@@ -9,6 +9,7 @@
 #include "common/numeros.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 inline std::string pesos(common::Dinero d) {
     return common::formatear(d.aDouble(), "##,##0.00");
@@ -20,4 +21,5 @@ inline std::string numero(double x) {
     return common::numeroATexto(x);
 }
 
+}  // namespace calculos
 }  // namespace nomira::engine

@@ -8,6 +8,7 @@
 #include "engine/mes/maestros.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 namespace {
 
@@ -60,4 +61,5 @@ ResultadoIRP CalculoIRP(ContextoFormula& ctx) {
     return r;
 }
 
+}  // namespace calculos
 }  // namespace nomira::engine

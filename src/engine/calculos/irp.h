@@ -8,6 +8,7 @@
 #include "engine/calculos/irpf.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 // El impuesto de un monto sobre todas las franjas (por número de franja).
 // Fuera de toda franja, 0.
@@ -21,4 +22,5 @@ struct ResultadoIRP {
 // RELIQUIDACION del mes de la persona.
 ResultadoIRP CalculoIRP(ContextoFormula& ctx);
 
+}  // namespace calculos
 }  // namespace nomira::engine

@@ -4,6 +4,7 @@
 #include "engine/calculos/explicacion.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 using common::Dinero;
 
@@ -188,4 +189,5 @@ std::string textoFilaIRPF(const std::string& concepto, const ResultadoIRPF& r, D
     return concepto + bruto + " - " + credito;
 }
 
+}  // namespace calculos
 }  // namespace nomira::engine

@@ -12,6 +12,7 @@
 #include "engine/mes/filas_mes.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 struct FilaEscala {
     long franja = 0;
@@ -106,4 +107,5 @@ ResultadoIRPF calcularIRPF(const EntradaIRPF& e, const OpcionesIRPF& op);
 std::string textoFilaIRPF(const std::string& concepto, const ResultadoIRPF& r,
                           common::Dinero montoirpf);
 
+}  // namespace calculos
 }  // namespace nomira::engine

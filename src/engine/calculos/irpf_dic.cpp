@@ -5,6 +5,7 @@
 #include "engine/calculos/explicacion.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 using common::Dinero;
 
@@ -87,4 +88,5 @@ ResultadoIRPFDic calcularIRPFDic(const EntradaIRPFDic& e) {
     return r;
 }
 
+}  // namespace calculos
 }  // namespace nomira::engine

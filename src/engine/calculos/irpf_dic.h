@@ -9,6 +9,7 @@
 #include "engine/calculos/irpf.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 // Meses del año que cuentan desde una fecha "desde" (vacía: 12). El año de
 // dos cifras es 19yy de 50 a 99.
@@ -36,4 +37,5 @@ struct ResultadoIRPFDic {
 
 ResultadoIRPFDic calcularIRPFDic(const EntradaIRPFDic& e);
 
+}  // namespace calculos
 }  // namespace nomira::engine

@@ -11,6 +11,7 @@
 #include "common/texto.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 namespace {
 
@@ -187,4 +188,5 @@ DiasLicencia calcularDiasLicencia(const EntradaDiasLicencia& e) {
     return r;
 }
 
+}  // namespace calculos
 }  // namespace nomira::engine

@@ -9,6 +9,7 @@
 #include "master/personal.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 // Una fecha tal como la cuentan estas rutinas: día, mes y año de dos cifras.
 struct FechaCorta {
@@ -78,4 +79,5 @@ struct DiasLicencia {
 
 DiasLicencia calcularDiasLicencia(const EntradaDiasLicencia& e);
 
+}  // namespace calculos
 }  // namespace nomira::engine

@@ -3,6 +3,7 @@
 #include "engine/calculos/explicacion.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 OpcionesLiquido opcionesLiquidoForm42() {
     return {TablaLiquidacion::Habydesc, false, true};
@@ -57,4 +58,5 @@ AntAlim antAlim(const std::vector<FilaMes>& filas) {
     return r;
 }
 
+}  // namespace calculos
 }  // namespace nomira::engine

@@ -11,6 +11,7 @@
 
 
 namespace nomira::engine {
+inline namespace calculos {
 
 struct OpcionesLiquido {
     TablaLiquidacion tabla = TablaLiquidacion::Habydesc;
@@ -40,4 +41,5 @@ struct AntAlim {
 };
 AntAlim antAlim(const std::vector<FilaMes>& filas);
 
+}  // namespace calculos
 }  // namespace nomira::engine

@@ -9,6 +9,7 @@
 #include "engine/calculos/licencia_dias.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 namespace {
 
@@ -130,4 +131,5 @@ std::optional<PrimaAntiguedad> calcularPrimaAntiguedad(const master::Persona& p,
     return r;
 }
 
+}  // namespace calculos
 }  // namespace nomira::engine

@@ -16,6 +16,7 @@
 #include "store/conexion.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 // ¿Es una de las tres filas de antigüedad? (nombre en mayúsculas)
 bool esConceptoAntiguedad(const std::string& concepto);
@@ -59,4 +60,5 @@ std::optional<PrimaAntiguedad> calcularPrimaAntiguedad(const master::Persona& p,
                                                        const BaseDeMiembro& baseDe);
 
 
+}  // namespace calculos
 }  // namespace nomira::engine

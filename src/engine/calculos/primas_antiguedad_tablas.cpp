@@ -6,6 +6,7 @@
 #include "common/fallo.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 namespace {
 
@@ -142,4 +143,5 @@ double porcentajeAntiguedad(const MiembroAntiguedad& m, double anios) {
     return 0;
 }
 
+}  // namespace calculos
 }  // namespace nomira::engine

@@ -7,6 +7,7 @@
 #include <span>
 
 namespace nomira::engine {
+inline namespace calculos {
 
 // Sobre qué se aplica el porcentaje.
 enum class BaseAntiguedad {
@@ -46,4 +47,5 @@ std::optional<int> miembroPorConsejo(int grupo, int subgrupo);
 // El porcentaje de la tabla del miembro para esos años; 0 debajo del primer tramo.
 double porcentajeAntiguedad(const MiembroAntiguedad& m, double anios);
 
+}  // namespace calculos
 }  // namespace nomira::engine

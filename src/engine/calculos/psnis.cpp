@@ -7,6 +7,7 @@
 #include "common/texto.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 namespace {
 
@@ -54,4 +55,5 @@ void calcularPSNIS(ContextoFormula& ctx, double bpc, common::Dialogo& dialogo) {
     ctx.psnis = porcentajeSNIS(d);
 }
 
+}  // namespace calculos
 }  // namespace nomira::engine

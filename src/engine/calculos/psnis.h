@@ -9,6 +9,7 @@
 #include "engine/formulas/formula.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 struct DatosSNIS {
     double montograv = 0;
@@ -31,4 +32,5 @@ void conyugeEHijosSNIS(DatosSNIS& d, const master::Persona& p, const common::Mes
 // ctx.esmayor.
 void calcularPSNIS(ContextoFormula& ctx, double bpc, common::Dialogo& dialogo);
 
+}  // namespace calculos
 }  // namespace nomira::engine

@@ -11,6 +11,7 @@
 #include "engine/mes/maestros.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 namespace {
 
@@ -56,4 +57,5 @@ std::optional<SalarioVacacional> CalculoSalarioVacacionalNew(
     return s;
 }
 
+}  // namespace calculos
 }  // namespace nomira::engine

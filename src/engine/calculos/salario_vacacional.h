@@ -11,6 +11,7 @@
 #include "engine/formulas/formula.h"
 
 namespace nomira::engine {
+inline namespace calculos {
 
 // "SALARIO VACACIONAL", "SALARIO VACACIONAL 2DA ACT"... según la licencia.
 std::string conceptoVacacionalDe(const std::string& conceptoLicencia);
@@ -30,4 +31,5 @@ std::optional<SalarioVacacional> CalculoSalarioVacacionalNew(
     common::Dinero monto, const std::string& desde, const std::string& hasta,
     common::Dialogo& dialogo);
 
+}  // namespace calculos
 }  // namespace nomira::engine

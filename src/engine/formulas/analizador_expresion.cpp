@@ -10,7 +10,7 @@
 #include "common/dinero.h"
 #include "common/fallo.h"
 
-namespace nomira::engine::detalle {
+namespace nomira::engine::inline formulas::detalle {
 
 namespace {
 
@@ -394,4 +394,4 @@ void Lexico::leerNombre() {
     }
 }
 
-}  // namespace nomira::engine::detalle
+}  // namespace nomira::engine::formulas::detalle

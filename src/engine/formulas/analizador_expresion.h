@@ -9,7 +9,7 @@
 
 #include "engine/formulas/evaluador.h"
 
-namespace nomira::engine::detalle {
+namespace nomira::engine::inline formulas::detalle {
 
 enum class Operador : std::uint8_t {
     Potencia,
@@ -317,4 +317,4 @@ class Analizador {
     int anidamiento_ = 0;
 };
 
-}  // namespace nomira::engine::detalle
+}  // namespace nomira::engine::formulas::detalle

@@ -7,6 +7,7 @@
 #include "engine/formulas/analizador_expresion.h"
 
 namespace nomira::engine {
+inline namespace formulas {
 
 using detalle::Analizador;
 using detalle::Funcion;
@@ -143,4 +144,5 @@ double Expresion::evaluar() const {
     return pila[tope - 1];
 }
 
+}  // namespace formulas
 }  // namespace nomira::engine

@@ -15,6 +15,7 @@
 #include <vector>
 
 namespace nomira::engine {
+inline namespace formulas {
 
 // Paréntesis y llamadas que pueden ir uno dentro de otro. Una fórmula de
 // concepto usa pocos; el tope cuida la pila, holgado aun con 1 MB.
@@ -51,4 +52,5 @@ class Expresion {
     friend class Compilador;
 };
 
+}  // namespace formulas
 }  // namespace nomira::engine

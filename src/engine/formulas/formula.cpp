@@ -8,6 +8,7 @@
 #include "engine/calculos/psnis.h"
 
 namespace nomira::engine {
+inline namespace formulas {
 
 namespace {
 
@@ -188,4 +189,5 @@ void calcularFormula(ContextoFormula& ctx, const OpcionesFormula& op, common::Di
     ctx.total = total;
 }
 
+}  // namespace formulas
 }  // namespace nomira::engine

@@ -19,6 +19,12 @@
 #include "master/variables.h"
 
 namespace nomira::engine {
+// Lo que la corrida leyó (mes/), al que el contexto apunta.
+inline namespace mes {
+class LibroPersona;
+struct Maestros;
+}  // namespace mes
+inline namespace formulas {
 
 // Los tokens propios, en el orden en que se comparan.
 enum class Token : std::uint8_t {
@@ -63,9 +69,6 @@ OpcionesFormula opcionesForm42();           // CalculoFormula y CalculoFormula3
 OpcionesFormula opcionesCalculoFormula2();  // sin paso de cantidad ni PFOCER
 OpcionesFormula opcionesForm44();           // cantidad vacía = 1
 OpcionesFormula opcionesForm76();           // sin BPC ni cantidad, cinco tokens
-
-class LibroPersona;
-struct Maestros;
 
 // Lo que la fórmula lee y escribe: los valores de los tokens, la cantidad y el
 // total, y de dónde salen los demás (la ficha de la persona, sus filas del mes y
@@ -122,4 +125,5 @@ inline void CalculoFormula2(ContextoFormula& ctx, common::Dialogo& dialogo) {
     calcularFormula(ctx, opcionesCalculoFormula2(), dialogo);
 }
 
+}  // namespace formulas
 }  // namespace nomira::engine

@@ -8,6 +8,7 @@
 #include "engine/formulas/evaluador.h"
 
 namespace nomira::engine {
+inline namespace formulas {
 
 namespace {
 
@@ -125,4 +126,5 @@ RevisionFormula revisarFormula(std::string_view f) {
     return {};
 }
 
+}  // namespace formulas
 }  // namespace nomira::engine

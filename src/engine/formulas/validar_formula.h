@@ -8,6 +8,7 @@
 #include <string_view>
 
 namespace nomira::engine {
+inline namespace formulas {
 
 struct RevisionFormula {
     bool valida = true;
@@ -19,4 +20,5 @@ struct RevisionFormula {
 
 RevisionFormula revisarFormula(std::string_view formula);
 
+}  // namespace formulas
 }  // namespace nomira::engine

@@ -7,6 +7,7 @@
 #include "engine/calculos/psnis.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 using common::Dinero;
 
@@ -137,4 +138,5 @@ DescuentoGenerado generarDescuento(ContextoFormula& ctx, const ConceptoDescuento
     return r;
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

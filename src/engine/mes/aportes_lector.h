@@ -12,6 +12,7 @@
 #include "engine/mes/maestros.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 struct OpcionesAportes {
     TablaLiquidacion tabla = TablaLiquidacion::Habydesc;  // donde se lee y escribe
@@ -58,4 +59,5 @@ double tasasSobre(ContextoFormula& ctx, double montograv, common::Dialogo& dialo
 // fila AGUINALDO). Con la casilla del período vacía la pantalla pasa el mes 01/01.
 double CalculoTasasDesNewAguinaldo(ContextoFormula& ctx, common::Dialogo& dialogo);
 
+}  // namespace mes
 }  // namespace nomira::engine

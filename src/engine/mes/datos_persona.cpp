@@ -9,6 +9,7 @@
 #include "store/like.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 namespace {
 
@@ -66,4 +67,5 @@ Deducciones deduccionesDe(const Maestros& maestros, const DatosPersona& p,
     return d;
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

@@ -13,6 +13,7 @@
 #include "engine/mes/maestros.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 struct DatosPersona {
     // La fila entera (sexocon, causaben y fechanacben para la escalera).
@@ -31,4 +32,5 @@ std::optional<DatosPersona> datosPersona(const ContextoFormula& ctx);
 Deducciones deduccionesDe(const Maestros& maestros, const DatosPersona& p,
                           const common::Mes& periodo, common::Dialogo* dialogo);
 
+}  // namespace mes
 }  // namespace nomira::engine

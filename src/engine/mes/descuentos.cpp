@@ -16,6 +16,7 @@
 #include "engine/calculos/liquido.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 using common::Dinero;
 
@@ -293,4 +294,5 @@ long eliminarHaberesDelMes(store::Conexion& base, const std::string& empresa,
     return static_cast<long>(borrarTipoDelMes(base, empresa, nombre, mes, "Hab"));
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

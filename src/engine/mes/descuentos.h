@@ -16,6 +16,7 @@
 #include "store/conexion.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 inline constexpr const char* kFaltanCamposMes =
     "Debe completar los campos Empresa, Nombre del Personal y FMesCargo.";
@@ -73,4 +74,5 @@ long eliminarHaberesDelMes(store::Conexion& base, const std::string& empresa,
                            const std::string& nombre, const common::Mes& mes,
                            common::Dialogo& dialogo);
 
+}  // namespace mes
 }  // namespace nomira::engine

@@ -5,6 +5,7 @@
 #include "engine/mes/escritura.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 ResultadoEmpresa recorrerEmpresa(store::Conexion& base, std::shared_ptr<Lectura> lectura,
                                  const PorPersona& porPersona, const ProgresoEmpresa& progreso,
@@ -56,4 +57,5 @@ ResultadoEmpresa recorrerEmpresa(store::Conexion& base, std::shared_ptr<Lectura>
     return r;
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

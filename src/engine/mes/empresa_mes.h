@@ -16,6 +16,7 @@
 #include "store/conexion.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 // La generación de una persona de la corrida sobre lo leído, en memoria; activa
 // dice si trabaja en el mes (ver activaEnElMes). Lo que cambie en sus filas lo
@@ -49,4 +50,5 @@ ResultadoEmpresa recorrerEmpresa(store::Conexion& base, std::shared_ptr<Lectura>
                                  const PorPersona& porPersona, const ProgresoEmpresa& progreso = {},
                                  const CancelarEmpresa& cancelar = {});
 
+}  // namespace mes
 }  // namespace nomira::engine

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 namespace nomira::engine {
+inline namespace mes {
 
 namespace {
 
@@ -171,4 +172,5 @@ void escribirLibro(store::Conexion& base, LibroPersona& libro) {
     libro.escritos();
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

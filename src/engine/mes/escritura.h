@@ -11,6 +11,7 @@
 #include "store/conexion.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 // La clave que toman quienes escriben el mes de una persona.
 void bloquearMes(store::Conexion& base, const std::string& empresa, const std::string& nombre,
@@ -30,4 +31,5 @@ std::int64_t borrarTipoDelMes(store::Conexion& base, const std::string& empresa,
                               const std::string& nombre, const common::Mes& mes,
                               const std::string& tipo);
 
+}  // namespace mes
 }  // namespace nomira::engine

@@ -1,6 +1,7 @@
 #include "engine/mes/explicaciones.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 std::string leerExplicacion(store::Conexion& base, TablaLiquidacion tabla,
                             const std::string& empresa, const std::string& nombre,
@@ -13,4 +14,5 @@ std::string leerExplicacion(store::Conexion& base, TablaLiquidacion tabla,
     return r.vacio() ? std::string() : r.primera().texto(std::size_t{0});
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

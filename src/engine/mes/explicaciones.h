@@ -9,10 +9,12 @@
 #include "store/conexion.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 // La explicación de la fila de ese código en el mes; vacía si no hay.
 std::string leerExplicacion(store::Conexion& base, TablaLiquidacion tabla,
                             const std::string& empresa, const std::string& nombre,
                             const common::Mes& mes, long codigo);
 
+}  // namespace mes
 }  // namespace nomira::engine

@@ -1,6 +1,7 @@
 #include "engine/mes/filas_mes.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 const char* nombreTabla(TablaLiquidacion t) {
     switch (t) {
@@ -54,4 +55,5 @@ common::Dinero sumaAportes(const std::vector<FilaMes>& filas) {
     return s;
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

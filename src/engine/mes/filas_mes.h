@@ -8,6 +8,7 @@
 #include "common/dinero.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 // Las tablas de filas liquidadas: Form42 habydesc, Form43 aguinaldos, Form44
 // salvacacional, Form45 egresos.
@@ -45,4 +46,5 @@ common::Dinero sumaPrefijo(const std::vector<FilaMes>& filas, const char* tipo,
 common::Dinero sumaConPrefijo(const std::vector<FilaMes>& filas, const char* prefijo);
 common::Dinero sumaAportes(const std::vector<FilaMes>& filas);  // Des MONTEPIO/SNIS/FRL
 
+}  // namespace mes
 }  // namespace nomira::engine

@@ -5,6 +5,7 @@
 #include "engine/mes/mes_persona.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 std::optional<master::Concepto> conceptoPorNombre(store::Conexion& base,
                                                   const std::string& concepto) {
@@ -36,4 +37,5 @@ std::optional<FilaGenerada> actualizarJornadas(LibroPersona& libro, const Maestr
     return fila;
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

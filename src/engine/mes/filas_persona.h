@@ -13,6 +13,7 @@
 #include "store/conexion.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 // La fila del mes como la muestran las grillas.
 struct FilaGuardada {
@@ -39,4 +40,5 @@ std::optional<FilaGenerada> actualizarJornadas(LibroPersona& libro, const Maestr
                                                const std::string& concepto, double cant,
                                                double htrab);
 
+}  // namespace mes
 }  // namespace nomira::engine

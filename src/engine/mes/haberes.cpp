@@ -13,6 +13,7 @@
 #include "engine/mes/primas_antiguedad_lector.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 namespace {
 
@@ -256,4 +257,5 @@ ResultadoEmpresa ActHamPermxEmpresa(store::Conexion& base, const std::string& em
     return recorrerEmpresa(base, std::move(lectura), porPersona, progreso, cancelar);
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

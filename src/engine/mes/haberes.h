@@ -14,6 +14,7 @@
 #include "store/conexion.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 // La importación del archivo de horas de la persona (CalculoCant), con las filas
 // que escribió. Sin ella, como cuando no hay archivo del mes, el paso no hace
@@ -75,4 +76,5 @@ ResultadoEmpresa ActHamPermxEmpresa(store::Conexion& base, const std::string& em
 inline constexpr const char* kYaEnEgresos =
     "El funcionario ya tiene liquidado conceptos en Egresos.";
 
+}  // namespace mes
 }  // namespace nomira::engine

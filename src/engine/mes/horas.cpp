@@ -17,6 +17,7 @@
 #include "master/personal.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 namespace fs = std::filesystem;
 using common::Dinero;
@@ -229,4 +230,5 @@ ImportacionHoras importarHoras(ContextoFormula& ctx, const ArchivoHoras& archivo
     return r;
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

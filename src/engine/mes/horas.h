@@ -15,6 +15,7 @@
 #include "engine/formulas/formula.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 // La primera línea de <raíz>/Software/Nomira/horas.txt: carpeta y prefijo de
 // los archivos ("" si no está). <raíz> es $NOMIRA_RAIZ, o $HOME. El motor no
@@ -66,4 +67,5 @@ ImportacionHoras CalculoCant2(ContextoFormula& ctx, common::Dialogo& dialogo);
 ImportacionHoras importarHoras(ContextoFormula& ctx, const ArchivoHoras& archivo, bool descuentos,
                                common::Dialogo& dialogo);
 
+}  // namespace mes
 }  // namespace nomira::engine

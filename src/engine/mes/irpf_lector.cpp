@@ -7,6 +7,7 @@
 #include "engine/mes/libro.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 using common::Dinero;
 
@@ -132,4 +133,5 @@ Dinero CalculomontodeduccionesIRPF(ContextoFormula& ctx, const OpcionesIRPF& op,
     return total;
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

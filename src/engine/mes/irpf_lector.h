@@ -12,6 +12,7 @@
 #include "engine/calculos/irpf_dic.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 ResultadoIRPF CalculoIRPF(ContextoFormula& ctx, common::Dinero montoirpf,
                           common::Dinero montonominal, const OpcionesIRPF& opciones,
@@ -25,4 +26,5 @@ ResultadoIRPFDic CalculoIRPFDic(ContextoFormula& ctx, bool conEgresos, common::D
 common::Dinero CalculomontodeduccionesIRPF(ContextoFormula& ctx, const OpcionesIRPF& opciones,
                                            common::Dialogo& dialogo);
 
+}  // namespace mes
 }  // namespace nomira::engine

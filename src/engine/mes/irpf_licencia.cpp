@@ -10,6 +10,7 @@
 #include "engine/mes/irpf_lector.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 using common::Dinero;
 
@@ -59,4 +60,5 @@ IRPFLicencia irpfConAportesDeLicencia(ContextoFormula& ctx, Dinero montoirpf, Di
     return r;
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

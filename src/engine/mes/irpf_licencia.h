@@ -12,6 +12,7 @@
 #include "engine/calculos/irpf.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 // Los aportes que lleva la licencia: con cantbfc 0 los tres, o SNIS y FRL con
 // la aportación "04"; con sueldo ficto MONTEPIO y FRL, o SNIS y FRL con "04".
@@ -28,4 +29,5 @@ IRPFLicencia irpfConAportesDeLicencia(ContextoFormula& ctx, common::Dinero monto
                                       common::Dinero montonominal, common::Dinero gravadoLicencia,
                                       common::Dialogo& dialogo);
 
+}  // namespace mes
 }  // namespace nomira::engine

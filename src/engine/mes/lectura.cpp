@@ -7,6 +7,7 @@
 #include "master/registro.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 namespace {
 
@@ -197,4 +198,5 @@ Lectura leerCorrida(store::Conexion& base, const std::string& empresa, const com
     return l;
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

@@ -17,6 +17,7 @@
 #include "store/conexion.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 // Los meses de cada tabla que lee una corrida, y el mes que puede escribir
 // (del que se leen también las explicaciones).
@@ -59,4 +60,5 @@ Lectura leerCorrida(store::Conexion& base, const std::string& empresa, const com
 std::vector<master::PersonaCompartida> personasPorCantbfc(store::Conexion& base,
                                                           const std::string& empresa);
 
+}  // namespace mes
 }  // namespace nomira::engine

@@ -5,6 +5,7 @@
 #include "common/fallo.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 namespace {
 
@@ -157,4 +158,5 @@ void LibroPersona::explicar(TablaLiquidacion t, const common::Mes& mes, long cod
         if (f.codigo == codigo) f.explicacion = texto;
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

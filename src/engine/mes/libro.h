@@ -18,6 +18,7 @@
 #include "engine/mes/filas_mes.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 class LibroPersona {
   public:
@@ -91,4 +92,5 @@ class LibroPersona {
     std::optional<common::Mes> escribible_;
 };
 
+}  // namespace mes
 }  // namespace nomira::engine

@@ -5,6 +5,7 @@
 #include "master/personal.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 namespace {
 
@@ -73,4 +74,5 @@ std::optional<DiasLicencia> CalculoDiasaGozar(const master::Persona& persona,
     return r;
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

@@ -10,6 +10,7 @@
 #include "master/personal.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 // Qué avisa quien pide los días: la liquidación del mes (Form42) avisa además
 // cuando lo gozado pasa lo generado; la de incidencias sólo muestra la traza.
@@ -24,4 +25,5 @@ std::optional<DiasLicencia> CalculoDiasaGozar(const master::Persona& persona,
                                               common::Dialogo& dialogo,
                                               PantallaLicencia pantalla = PantallaLicencia::Form42);
 
+}  // namespace mes
 }  // namespace nomira::engine

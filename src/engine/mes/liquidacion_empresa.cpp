@@ -4,6 +4,7 @@
 #include "engine/mes/descuentos.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 namespace {
 
@@ -43,4 +44,5 @@ TotalesEmpresa liquidarMesDeEmpresa(store::Conexion& base, const std::string& em
     return t;
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

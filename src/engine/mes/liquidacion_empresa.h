@@ -12,6 +12,7 @@
 #include "store/conexion.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 struct TotalesEmpresa {
     std::size_t personas = 0;  // las que quedaron con descuentos generados
@@ -24,4 +25,5 @@ TotalesEmpresa liquidarMesDeEmpresa(store::Conexion& base, const std::string& em
                                     const common::Mes& mes, common::Dialogo& dialogo,
                                     const OpcionesHaberes& opciones = {});
 
+}  // namespace mes
 }  // namespace nomira::engine

@@ -8,6 +8,7 @@
 #include "master/registro.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 namespace {
 
@@ -132,4 +133,5 @@ Maestros leerMaestros(store::Conexion& base, const std::string& empresa, const c
     return m;
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

@@ -20,6 +20,7 @@
 #include "store/conexion.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 // Todos los conceptos, por código (un código repetido, en el orden de la tabla).
 class Conceptos {
@@ -84,4 +85,5 @@ struct Maestros {
 Maestros leerMaestros(store::Conexion& base, const std::string& empresa, const common::Mes& mes,
                       bool conHoras = true);
 
+}  // namespace mes
 }  // namespace nomira::engine

@@ -7,6 +7,7 @@
 #include "engine/mes/mes_persona.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 std::vector<FilaGuardada> filasParaGrillas(store::Conexion& base, const std::string& empresa,
                                            const std::string& nombre, const common::Mes& mes) {
@@ -95,4 +96,5 @@ std::optional<master::Persona> personaVecina(store::Conexion& base, const std::s
     return *elegida;
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

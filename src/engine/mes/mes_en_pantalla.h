@@ -15,6 +15,7 @@
 #include "store/conexion.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 // Las filas del mes de la persona por código, haberes y descuentos juntos.
 std::vector<FilaGuardada> filasParaGrillas(store::Conexion& base, const std::string& empresa,
@@ -48,4 +49,5 @@ std::optional<master::Persona> personaVecina(store::Conexion& base, const std::s
                                              const std::string& nrofun, const common::Mes& mes,
                                              int paso);
 
+}  // namespace mes
 }  // namespace nomira::engine

@@ -4,6 +4,7 @@
 #include "common/texto.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 namespace {
 
@@ -104,4 +105,5 @@ bool activaEnElMes(const master::Persona& p, const common::Mes& mes) {
     return true;
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

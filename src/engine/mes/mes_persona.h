@@ -25,6 +25,7 @@
 #include "store/conexion.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 // La empresa y la persona tal como las usa el mes, sobre lo leído por la
 // corrida (que el mes comparte: el contexto de las fórmulas apunta ahí).
@@ -101,4 +102,5 @@ struct ResultadoPersona {
     std::vector<FilaLiquidada> filas;
 };
 
+}  // namespace mes
 }  // namespace nomira::engine

@@ -1,6 +1,7 @@
 #include "engine/mes/primas_antiguedad_lector.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 std::optional<PrimaAntiguedad> CalculoAntiguedad(const Maestros& maestros,
                                                  const master::Persona& persona,
@@ -35,4 +36,5 @@ std::optional<PrimaAntiguedad> CalculoAntiguedad(const Maestros& maestros,
     }
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

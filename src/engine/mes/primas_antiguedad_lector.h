@@ -10,6 +10,7 @@
 #include "master/personal.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 // CalculoAntiguedad: con el consejo de la empresa, BPC, SALMIN y el sueldo
 // mínimo de la categoría de los maestros. periodo es el del mes tecleado o,
@@ -22,4 +23,5 @@ std::optional<PrimaAntiguedad> CalculoAntiguedad(const Maestros& maestros,
                                                  common::Dialogo& dialogo,
                                                  const std::string& pantalla = "Form42");
 
+}  // namespace mes
 }  // namespace nomira::engine

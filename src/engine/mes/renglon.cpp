@@ -18,6 +18,7 @@
 #include "engine/calculos/salario_vacacional.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 using common::Dinero;
 
@@ -312,4 +313,5 @@ std::optional<std::string> eliminarRenglon(store::Conexion& base, MesPersona& mp
     return std::nullopt;
 }
 
+}  // namespace mes
 }  // namespace nomira::engine

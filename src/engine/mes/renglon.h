@@ -12,6 +12,7 @@
 #include "master/conceptos.h"
 
 namespace nomira::engine {
+inline namespace mes {
 
 inline constexpr const char* kLicenciaCero = "La cantidad de días de licencia no puede ser cero.";
 inline constexpr const char* kTituloMenosDias = "El funcionario tiene menos días a gozar";
@@ -70,4 +71,5 @@ std::optional<std::string> eliminarRenglon(store::Conexion& base, MesPersona& mp
                                            ContextoFormula& ctx, const master::Concepto& concepto,
                                            common::Dialogo& dialogo);
 
+}  // namespace mes
 }  // namespace nomira::engine
