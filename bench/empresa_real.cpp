@@ -240,14 +240,14 @@ Corrida liquidar(store::Conexion& base, const common::Mes& mes) {
     const auto cpu = std::clock();
     auto a = std::chrono::steady_clock::now();
     c.haberes =
-        engine::ActHamPermxEmpresa(base, kEmpresa, mes, dialogo, engine::conArchivoDeHoras());
+        engine::haberesDeLaEmpresa(base, kEmpresa, mes, dialogo, engine::conArchivoDeHoras());
     c.segHaberes = banco::segundosDesde(a);
     if (contar) {
         c.sentHaberes = sentenciasDesdeCero(base);
         ponerEnCero(base);
     }
     a = std::chrono::steady_clock::now();
-    c.descuentos = engine::ActDesPermxEmpresa(base, kEmpresa, mes, dialogo);
+    c.descuentos = engine::descuentosDeLaEmpresa(base, kEmpresa, mes, dialogo);
     c.segDescuentos = banco::segundosDesde(a);
     c.cpu = static_cast<double>(std::clock() - cpu) / CLOCKS_PER_SEC;
     if (contar) c.sentDescuentos = sentenciasDesdeCero(base);

@@ -92,10 +92,10 @@ void BM_LiquidacionDeLaEmpresa(benchmark::State& state) {
         auto base = empresaGenerada(dir / "liquidacion.db");
         state.ResumeTiming();
         auto a = std::chrono::steady_clock::now();
-        const auto hab = engine::ActHamPermxEmpresa(*base, "ACME", mes, dialogo);
+        const auto hab = engine::haberesDeLaEmpresa(*base, "ACME", mes, dialogo);
         segHaberes = segundosDesde(a);
         a = std::chrono::steady_clock::now();
-        const auto des = engine::ActDesPermxEmpresa(*base, "ACME", mes, dialogo);
+        const auto des = engine::descuentosDeLaEmpresa(*base, "ACME", mes, dialogo);
         segDescuentos = segundosDesde(a);
         if (hab.fallo || des.fallo || hab.personas.size() != kPersonas ||
             des.personas.size() != kPersonas)

@@ -44,12 +44,12 @@ int descuentos(const Contexto& ctx, const OpcionesMes& o) {
     const char* procedimiento = o.nombre ? "DescPerm_Click" : "ActDesPermxEmpresa_Click";
     try {
         if (o.nombre) {
-            const auto r = engine::DescPerm(*base, o.empresa, *o.nombre, *mes, dialogo);
+            const auto r = engine::descuentosDeUnaPersona(*base, o.empresa, *o.nombre, *mes, dialogo);
             for (const auto& f : r.filas) mostrar(f);
             return r.hecho ? 0 : 1;
         }
         const auto r =
-            engine::ActDesPermxEmpresa(*base, o.empresa, *mes, dialogo,
+            engine::descuentosDeLaEmpresa(*base, o.empresa, *mes, dialogo,
                                        [](std::size_t i, std::size_t n, const std::string& nombre) {
                                            std::cerr << i << "/" << n << " " << nombre << '\n';
                                        });
@@ -74,7 +74,7 @@ int renglon(const Contexto& ctx, const OpcionesRenglon& o) {
     auto dialogo = ctx.dialogo();
     if (o.periodo) dialogo.responderTexto(*o.periodo);
     engine::ContextoFormula c;
-    auto mp = engine::BuscarVerif(*base, o.empresa, o.nombre, *mes, c, dialogo);
+    auto mp = engine::leerMesDeLaPersona(*base, o.empresa, o.nombre, *mes, c, dialogo);
     if (!mp) return 1;
     try {
         const auto buscado = engine::buscarRenglon(*mp, c, o.codigo, dialogo);

@@ -54,7 +54,7 @@ int haberes(const Contexto& ctx, const OpcionesLiquidacion& o) {
             for (const auto& f : r.filas) mostrar(f, o.explicar);
             return r.hecho ? 0 : 1;
         }
-        const auto r = engine::ActHamPermxEmpresa(
+        const auto r = engine::haberesDeLaEmpresa(
             *base, o.empresa, *mes, dialogo, engine::conArchivoDeHoras(),
             [](std::size_t i, std::size_t n, const std::string& nombre) {
                 std::cerr << "persona " << i << " de " << n << ": " << nombre << '\n';
@@ -82,7 +82,7 @@ int liquidacion(const Contexto& ctx, const OpcionesLiquidacion& o) {
     auto dialogo = ctx.dialogo();
     engine::ContextoFormula c;
     const auto& nombre = o.nombre.value();
-    const auto mp = engine::BuscarVerif(*base, o.empresa, nombre, *mes, c, dialogo);
+    const auto mp = engine::leerMesDeLaPersona(*base, o.empresa, nombre, *mes, c, dialogo);
     if (!mp) return 1;
     // Los haberes primero, como las dos grillas.
     auto filas = engine::filasParaGrillas(*base, o.empresa, nombre, *mes);
@@ -134,7 +134,7 @@ int borrar(const Contexto& ctx, const OpcionesLiquidacion& o) {
             return 0;
         }
         engine::ContextoFormula c;
-        auto mp = engine::BuscarVerif(*base, o.empresa, nombre, *mes, c, dialogo);
+        auto mp = engine::leerMesDeLaPersona(*base, o.empresa, nombre, *mes, c, dialogo);
         if (!mp) return 1;
         const auto buscado = engine::buscarRenglon(*mp, c, o.codigo, dialogo);
         if (!buscado) return 1;

@@ -65,7 +65,7 @@ TEST_P(Descuentos, MensualBajoYSobreDosYMedioBPC) {
         "INSERT INTO concpermxpers (empresa, nombre, codigo, concepto, tipo) VALUES ('ACME', "
         "'PEREZ, JUAN', 520, 'CUOTA SINDICAL', 'Des')");
 
-    auto r = DescPerm(*base, "ACME", "PEREZ, JUAN", marzo, dialogo);
+    auto r = descuentosDeUnaPersona(*base, "ACME", "PEREZ, JUAN", marzo, dialogo);
     ASSERT_TRUE(r.hecho) << r.aviso;
     std::string texto;
     EXPECT_EQ(total("PEREZ, JUAN", marzo, 501, &texto), 2250);  // 15%
@@ -84,7 +84,7 @@ TEST_P(Descuentos, MensualBajoYSobreDosYMedioBPC) {
     EXPECT_EQ(r.filas[0].fila.codigo, 501);
     EXPECT_EQ(r.filas[4].fila.codigo, 520);
 
-    r = DescPerm(*base, "ACME", "GOMEZ, ANA", marzo, dialogo);
+    r = descuentosDeUnaPersona(*base, "ACME", "GOMEZ, ANA", marzo, dialogo);
     ASSERT_TRUE(r.hecho);
     EXPECT_EQ(total("GOMEZ, ANA", marzo, 501), 12000);
     EXPECT_EQ(total("GOMEZ, ANA", marzo, 502, &texto), 5200);  // cónyuge, sin hijos: 6.5%
@@ -97,7 +97,7 @@ TEST_P(Descuentos, MensualBajoYSobreDosYMedioBPC) {
     EXPECT_EQ(texto, "IRPF   4,483 -    2,419");
 
     // Generar otra vez reescribe por código: las mismas filas, ninguna más.
-    DescPerm(*base, "ACME", "GOMEZ, ANA", marzo, dialogo);
+    descuentosDeUnaPersona(*base, "ACME", "GOMEZ, ANA", marzo, dialogo);
     EXPECT_EQ(cuantas("nombre = 'GOMEZ, ANA' AND tipo = 'Des'"), 4);
     EXPECT_EQ(total("GOMEZ, ANA", marzo, 510), 2064);
 }
@@ -106,7 +106,7 @@ TEST_P(Descuentos, EmpresaCuatroSinMontepioYEgresosNoSeTocan) {
     empresa("RURAL", 8, "Rural - Otros");
     persona("PEREZ, JUAN", {{"sueldo", "15000"}, {"tiposueldo", "S"}, {"sexocon", "MNo"}}, "RURAL");
     fila("PEREZ, JUAN", marzo, 1, "SUELDO", "Hab", 1, 15000, "RURAL");
-    const auto r = DescPerm(*base, "RURAL", "PEREZ, JUAN", marzo, dialogo);
+    const auto r = descuentosDeUnaPersona(*base, "RURAL", "PEREZ, JUAN", marzo, dialogo);
     ASSERT_TRUE(r.hecho);
     std::string texto;
     EXPECT_FALSE(total("PEREZ, JUAN", marzo, 501));
@@ -121,7 +121,7 @@ TEST_P(Descuentos, EmpresaCuatroSinMontepioYEgresosNoSeTocan) {
         "INSERT INTO egresos (empresa, nombre, fecha, codigo, concepto, tipo, total) VALUES "
         "('ACME', 'GOMEZ, ANA', ?, 1, 'SUELDO', 'Hab', 100)",
         {marzo.primerDia().iso()});
-    const auto e = DescPerm(*base, "ACME", "GOMEZ, ANA", marzo, dialogo);
+    const auto e = descuentosDeUnaPersona(*base, "ACME", "GOMEZ, ANA", marzo, dialogo);
     EXPECT_FALSE(e.hecho);
     EXPECT_EQ(dialogo.ultimoMensaje(), "El funcionario ya tiene liquidado conceptos en Egresos.");
     EXPECT_EQ(cuantas("nombre = 'GOMEZ, ANA' AND tipo = 'Des'"), 0);
@@ -138,7 +138,7 @@ TEST_P(Descuentos, MesAnteriorNegativoPasaComoAdelantos) {
     fila("PEREZ, JUAN", marzo, 1, "SUELDO", "Hab", 1, 15000);
     fila("LOPEZ, EVA", marzo, 10, "HORAS", "Hab", 100, 10000);
 
-    DescPerm(*base, "ACME", "PEREZ, JUAN", marzo, dialogo);
+    descuentosDeUnaPersona(*base, "ACME", "PEREZ, JUAN", marzo, dialogo);
     double cant = 0;
     // Febrero cerró en 1000 - 1500 = -500.
     EXPECT_EQ(total("PEREZ, JUAN", marzo, 500, nullptr, &cant), 500);
@@ -148,7 +148,7 @@ TEST_P(Descuentos, MesAnteriorNegativoPasaComoAdelantos) {
     EXPECT_EQ(total("PEREZ, JUAN", marzo, 501), 2250);
 
     // Un jornalero o por hora con un solo haber no arrastra.
-    DescPerm(*base, "ACME", "LOPEZ, EVA", marzo, dialogo);
+    descuentosDeUnaPersona(*base, "ACME", "LOPEZ, EVA", marzo, dialogo);
     EXPECT_FALSE(total("LOPEZ, EVA", marzo, 500));
     EXPECT_EQ(total("LOPEZ, EVA", marzo, 501), 1500);
 }
@@ -158,7 +158,7 @@ TEST_P(Descuentos, MesAnteriorNegativoPasaComoAdelantos) {
 // licencia contados un momento y luego deshechos.
 TEST_P(Descuentos, AdelantoDeLicenciaSinAportesQueQuedenDeMas) {
     licenciaConVacacional();
-    const auto r = DescPerm(*base, "ACME", "LOPEZ, EVA", marzo, dialogo);
+    const auto r = descuentosDeUnaPersona(*base, "ACME", "LOPEZ, EVA", marzo, dialogo);
     ASSERT_TRUE(r.hecho);
     esperarAdelantoDeLicencia();
     ASSERT_FALSE(r.filas.empty());
@@ -171,7 +171,7 @@ TEST_P(Descuentos, EnLaCorridaDeLaEmpresaElVacacionalEsDeQuienLoTiene) {
     licenciaConVacacional();
     persona("SIN VACACIONAL, LUIS", {{"sueldo", "15000"}, {"tiposueldo", "S"}});
     fila("SIN VACACIONAL, LUIS", marzo, 1, "SUELDO", "Hab", 1, 15000);
-    ASSERT_FALSE(ActDesPermxEmpresa(*base, "ACME", marzo, dialogo).fallo);
+    ASSERT_FALSE(descuentosDeLaEmpresa(*base, "ACME", marzo, dialogo).fallo);
     esperarAdelantoDeLicencia();
     EXPECT_EQ(total("SIN VACACIONAL, LUIS", marzo, 501), 2250);
 }
@@ -191,23 +191,23 @@ TEST_P(Descuentos, PorHoraConUnSoloHaberEnJunioYDiciembre) {
             {m.primerDia().iso(), m.primerDia().iso()});
     }
     std::string texto;
-    DescPerm(*base, "ACME", "LOPEZ, EVA", junio, dialogo);
+    descuentosDeUnaPersona(*base, "ACME", "LOPEZ, EVA", junio, dialogo);
     EXPECT_EQ(total("LOPEZ, EVA", junio, 502, &texto), 4500);  // 100000 x 4.5%
     EXPECT_EQ(texto, "SNIS 4.5%");
     EXPECT_FALSE(total("LOPEZ, EVA", junio, 504));  // un solo haber: sin adelanto
     // 1100000 en el año pasa holgado los 10 BPC x 12 = 823680: por la escala
     // serían unos 66000 menos un crédito de unos 30000 y lo de junio; pero la
     // licencia sola no paga. Con otro haber, sí.
-    DescPerm(*base, "ACME", "LOPEZ, EVA", diciembre, dialogo);
+    descuentosDeUnaPersona(*base, "ACME", "LOPEZ, EVA", diciembre, dialogo);
     EXPECT_EQ(total("LOPEZ, EVA", diciembre, 510), 0);
     fila("LOPEZ, EVA", diciembre, 30, "PREMIO", "Hab", 1, 0);
-    DescPerm(*base, "ACME", "LOPEZ, EVA", diciembre, dialogo);
+    descuentosDeUnaPersona(*base, "ACME", "LOPEZ, EVA", diciembre, dialogo);
     EXPECT_GT(total("LOPEZ, EVA", diciembre, 510).value_or(0), 0);
 
     // Con otro haber en junio el SNIS completa el aguinaldo:
     // 4500 + 12000 / 12 x 4.5% - 30 = 4515.
     fila("LOPEZ, EVA", junio, 30, "PREMIO", "Hab", 1, 0);
-    DescPerm(*base, "ACME", "LOPEZ, EVA", junio, dialogo);
+    descuentosDeUnaPersona(*base, "ACME", "LOPEZ, EVA", junio, dialogo);
     EXPECT_EQ(total("LOPEZ, EVA", junio, 502, &texto), 4515);
     EXPECT_EQ(texto, "SNIS AG. 1.5% + MG. 4.5%");
 }
@@ -243,7 +243,7 @@ TEST_P(Descuentos, TodaLaEmpresaConAvance) {
         "('ACME', 'CON EGRESO, PIA', ?, 1, 'SUELDO', 'Hab', 100)",
         {marzo.primerDia().iso()});
     std::vector<std::string> avance;
-    const auto r = ActDesPermxEmpresa(
+    const auto r = descuentosDeLaEmpresa(
         *base, "ACME", marzo, dialogo,
         [&](std::size_t i, std::size_t n, const std::string& nombre) {
             avance.push_back(std::to_string(i) + "/" + std::to_string(n) + " " + nombre);

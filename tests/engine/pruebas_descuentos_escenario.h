@@ -119,7 +119,7 @@ class EscenarioMes : public store::prueba::BasePrueba {
     }
 
     std::optional<engine::MesPersona> mesDe(const std::string& nombre, const common::Mes& mes) {
-        return engine::BuscarVerif(*base, "ACME", nombre, mes, ctx, dialogo);
+        return engine::leerMesDeLaPersona(*base, "ACME", nombre, mes, ctx, dialogo);
     }
 
     CarpetaTemporal tmp;

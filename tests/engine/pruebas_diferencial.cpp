@@ -51,8 +51,8 @@ NOMIRA_PARA_CADA_MOTOR(Diferencial);
 
 TEST_P(Diferencial, LaEmpresaEnteraDaLoMismoQuePersonaPorPersona) {
     for (const auto& e : master::empresasDemo()) {
-        ASSERT_FALSE(ActHamPermxEmpresa(c(), e, kMes, dialogo, conArchivoDeHoras()).fallo);
-        ASSERT_FALSE(ActDesPermxEmpresa(c(), e, kMes, dialogo).fallo);
+        ASSERT_FALSE(haberesDeLaEmpresa(c(), e, kMes, dialogo, conArchivoDeHoras()).fallo);
+        ASSERT_FALSE(descuentosDeLaEmpresa(c(), e, kMes, dialogo).fallo);
     }
     const auto deLaEmpresa = delMes();
     ASSERT_NE(deLaEmpresa.find("SUELDO FICTO"), std::string::npos);
@@ -66,7 +66,7 @@ TEST_P(Diferencial, LaEmpresaEnteraDaLoMismoQuePersonaPorPersona) {
             ASSERT_TRUE(generarHaberesPermanentes(c(), e, n, kMes, dialogo, conArchivoDeHoras())
                             .hecho)
                 << n;
-        for (const auto& n : activas) DescPerm(c(), e, n, kMes, dialogo);
+        for (const auto& n : activas) descuentosDeUnaPersona(c(), e, n, kMes, dialogo);
     }
     EXPECT_EQ(delMes(), deLaEmpresa);
 }

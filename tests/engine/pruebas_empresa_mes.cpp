@@ -40,7 +40,7 @@ TEST_P(EmpresaMes, UnFalloNoDejaAMediasALaPersonaNiPierdeLasAnteriores) {
         "INSERT INTO concpermxpers (empresa, nombre, codigo, concepto, tipo) VALUES "
         "('ACME', 'P3', 2, 'CUOTA', 'Hab')");
     std::vector<std::string> avance;
-    const auto r = ActHamPermxEmpresa(
+    const auto r = haberesDeLaEmpresa(
         *base, "ACME", {2026, 2}, dialogo, {},
         [&](std::size_t i, std::size_t n, const std::string& nombre) {
             avance.push_back(std::to_string(i) + "/" + std::to_string(n) + " " + nombre);
@@ -64,7 +64,7 @@ TEST_P(EmpresaMes, CancelarEntrePersonasYLasQueNoEstanEnElMes) {
     base->ejecuta(
         "INSERT INTO habydesc (empresa, nombre, fecha, codigo, concepto, tipo, total) VALUES "
         "('ACME', 'P2', '2026-02-01', 9, 'IRPF', 'Des', 1)");
-    auto r = ActHamPermxEmpresa(*base, "ACME", {2026, 2}, dialogo);
+    auto r = haberesDeLaEmpresa(*base, "ACME", {2026, 2}, dialogo);
     EXPECT_FALSE(r.fallo);
     EXPECT_EQ(r.inactivas, (std::vector<std::string>{"P2", "P3"}));
     EXPECT_EQ(filasDe("P1"), 1);

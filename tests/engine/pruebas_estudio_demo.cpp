@@ -70,9 +70,9 @@ class EstudioDemo : public pruebas::BaseEstudioDemo {
 
     // Los dos botones de toda la empresa, con el archivo de horas del reloj.
     void liquidar(const std::string& empresa) {
-        const auto h = ActHamPermxEmpresa(c(), empresa, kMes, dialogo, conArchivoDeHoras());
+        const auto h = haberesDeLaEmpresa(c(), empresa, kMes, dialogo, conArchivoDeHoras());
         ASSERT_FALSE(h.fallo) << h.personaFallida;
-        const auto d = ActDesPermxEmpresa(c(), empresa, kMes, dialogo);
+        const auto d = descuentosDeLaEmpresa(c(), empresa, kMes, dialogo);
         ASSERT_FALSE(d.fallo) << d.personaFallida;
     }
 
@@ -110,7 +110,7 @@ TEST_P(EstudioDemo, CadaFormulaEstandarSeEvaluaSobreCadaPersona) {
     for (const auto& p : personal()) {
         ContextoFormula ctx;
         // El mes leído vive mientras el contexto apunta a él.
-        const auto mp = BuscarVerif(c(), p.empresa, p.nombre, kMes, ctx, dialogo);
+        const auto mp = leerMesDeLaPersona(c(), p.empresa, p.nombre, kMes, ctx, dialogo);
         ASSERT_TRUE(mp);
         for (const auto& f : conceptos.filas) {
             SCOPED_TRACE(p.nombre + " / " + f.texto("concepto"));

@@ -30,7 +30,7 @@ TEST_P(Explicaciones, AcompananALasFilasYSeVanConEllas) {
     EXPECT_NE(explicacion(1).find("[SUELDO]"), std::string::npos) << explicacion(1);
     EXPECT_NE(explicacion(1).find("30,000.00"), std::string::npos) << explicacion(1);
 
-    ASSERT_TRUE(DescPerm(*base, "ACME", "PEREZ, JUAN", marzo, dialogo).hecho);
+    ASSERT_TRUE(descuentosDeUnaPersona(*base, "ACME", "PEREZ, JUAN", marzo, dialogo).hecho);
     EXPECT_NE(explicacion(501).find("4,500.00"), std::string::npos) << explicacion(501);
 
     // Una licencia tecleada reescribe el SUELDO y dice por qué; el total
@@ -58,15 +58,15 @@ TEST_P(Explicaciones, AcompananALasFilasYSeVanConEllas) {
 TEST_P(Explicaciones, LaCorridaDeLaEmpresaBorraLasDeLosDescuentosYDejaLasDeLosHaberes) {
     for (const char* n : {"PEREZ, JUAN", "GOMEZ, ANA"})
         persona(n, {{"sueldo", "30000"}, {"tiposueldo", "S"}, {"fechaing", "2020-01-01"}});
-    ASSERT_FALSE(ActHamPermxEmpresa(*base, "ACME", marzo, dialogo).fallo);
-    ASSERT_FALSE(ActDesPermxEmpresa(*base, "ACME", marzo, dialogo).fallo);
+    ASSERT_FALSE(haberesDeLaEmpresa(*base, "ACME", marzo, dialogo).fallo);
+    ASSERT_FALSE(descuentosDeLaEmpresa(*base, "ACME", marzo, dialogo).fallo);
     const auto de = [&](const char* n, long codigo) {
         return leerExplicacion(*base, TablaLiquidacion::Habydesc, "ACME", n, marzo, codigo);
     };
     EXPECT_NE(de("GOMEZ, ANA", 501).find("4,500.00"), std::string::npos) << de("GOMEZ, ANA", 501);
 
     // Los haberes de la empresa borran antes los descuentos del mes.
-    ASSERT_FALSE(ActHamPermxEmpresa(*base, "ACME", marzo, dialogo).fallo);
+    ASSERT_FALSE(haberesDeLaEmpresa(*base, "ACME", marzo, dialogo).fallo);
     for (const char* n : {"PEREZ, JUAN", "GOMEZ, ANA"}) {
         EXPECT_EQ(de(n, 501), "") << n;
         EXPECT_EQ(de(n, 510), "") << n;
@@ -134,7 +134,7 @@ TEST_P(Explicaciones, LasJuntasDeLasVersiones3y4QuedanUnaPorFila) {
     EXPECT_NE(explicacion(1).find("30,000.00"), std::string::npos) << explicacion(1);
     // Los haberes borran los descuentos del mes, y la explicación se va con su fila.
     EXPECT_EQ(explicacion(501), "");
-    ASSERT_TRUE(DescPerm(*base, "ACME", "PEREZ, JUAN", marzo, dialogo).hecho);
+    ASSERT_TRUE(descuentosDeUnaPersona(*base, "ACME", "PEREZ, JUAN", marzo, dialogo).hecho);
     EXPECT_NE(explicacion(501).find("4,500.00"), std::string::npos) << explicacion(501);
     EXPECT_NE(explicacion(1).find("30,000.00"), std::string::npos) << explicacion(1);
 }

@@ -187,7 +187,7 @@ TEST_P(Haberes, SueldoFictoTomaElMayorSueldoDeLaEmpresa) {
 
     // Las de cantbfc van últimas: cuando llegan, ANA (30967) ya está escrita;
     // el dueño no cuenta.
-    const auto r = ActHamPermxEmpresa(*base, "ACME", {2026, 2}, dialogo);
+    const auto r = haberesDeLaEmpresa(*base, "ACME", {2026, 2}, dialogo);
     EXPECT_FALSE(r.fallo);
     ASSERT_EQ(r.personas.size(), 4u);
     EXPECT_EQ(r.personas[2].nombre, "FICTO");
@@ -210,7 +210,7 @@ TEST_P(Haberes, LosFictosVanPorElTextoDeCantbfc) {
     persona("ANA", {{"sueldo", "30000"}, {"tiposueldo", "S"}, {"fechaing", "2020-01-01"}});
     persona("SEIS", {{"cantbfc", "6"}, {"fechaing", "2020-01-01"}});
     persona("CINCUENTA", {{"cantbfc", "50"}, {"fechaing", "2020-01-01"}});
-    const auto r = ActHamPermxEmpresa(*base, "ACME", {2026, 2}, dialogo);
+    const auto r = haberesDeLaEmpresa(*base, "ACME", {2026, 2}, dialogo);
     EXPECT_FALSE(r.fallo);
     ASSERT_EQ(r.personas.size(), 3u);
     EXPECT_EQ(r.personas[1].nombre, "CINCUENTA");
@@ -235,7 +235,7 @@ TEST_P(Haberes, LasHorasLleganAntesDeVerSiTrabajaEnElMes) {
     std::ofstream(rutaArchivoHoras((tmp.ruta() / "HS").string(), {2026, 2}, "1")) << "7|9|12\n";
     concepto(8, "JORNAL", "H", "[SUELDO]*[CANT]", "Si");
     base->ejecuta("UPDATE conceptos SET formula = '[SUELDO]*[CANT]' WHERE codigo = 9");
-    const auto r = ActHamPermxEmpresa(*base, "ACME", {2026, 2}, dialogo, conArchivoDeHoras());
+    const auto r = haberesDeLaEmpresa(*base, "ACME", {2026, 2}, dialogo, conArchivoDeHoras());
     EXPECT_FALSE(r.fallo);
     EXPECT_EQ(r.inactivas, std::vector<std::string>{"IDO"});
     // 12 horas de 100; los permanentes (JORNAL) no se generan.

@@ -154,7 +154,7 @@ TEST_P(Horas, ImportarOtraVezNoSumaDosVeces) {
 
 // Sin archivo del mes, la corrida dice qué archivo buscó, una sola vez.
 TEST_P(Horas, SinArchivoLaCorridaLoDiceUnaVez) {
-    ASSERT_FALSE(ActHamPermxEmpresa(*base, "ACME", marzo, dialogo, conArchivoDeHoras()).fallo);
+    ASSERT_FALSE(haberesDeLaEmpresa(*base, "ACME", marzo, dialogo, conArchivoDeHoras()).fallo);
     const auto ruta = rutaArchivoHoras((tmp.ruta() / "HS").string(), marzo, "7").string();
     ASSERT_EQ(dialogo.mensajes.size(), 1u);
     EXPECT_EQ(dialogo.ultimoMensaje(), "No se encontró el archivo de horas del mes " + ruta +
@@ -162,7 +162,7 @@ TEST_P(Horas, SinArchivoLaCorridaLoDiceUnaVez) {
     // Con el archivo, nada que avisar.
     archivo(marzo, "12|10|1\n");
     dialogo.mensajes.clear();
-    ASSERT_FALSE(ActHamPermxEmpresa(*base, "ACME", marzo, dialogo, conArchivoDeHoras()).fallo);
+    ASSERT_FALSE(haberesDeLaEmpresa(*base, "ACME", marzo, dialogo, conArchivoDeHoras()).fallo);
     EXPECT_TRUE(dialogo.mensajes.empty()) << dialogo.ultimoMensaje();
 }
 

@@ -125,7 +125,7 @@ TEST_F(PantallaHaberes, UnMesEnteroDesdeElTeclado) {
     EXPECT_TRUE(w("codigo")->hasFocus());
     EXPECT_FALSE(w<QPushButton>("Agregar")->isEnabled());
 
-    pulsar("HabPerm");
+    pulsar("haberesDelMes");
     EXPECT_EQ(columna("haberes", 1), (std::vector<std::string>{"SUELDO", "ANTIGUEDAD"}));
     EXPECT_EQ(texto("totalhab"), "30,000.00");
 
@@ -168,7 +168,7 @@ TEST_F(PantallaHaberes, UnMesEnteroDesdeElTeclado) {
     EXPECT_EQ(columna("haberes", 4).back(), "1,400.00");
     EXPECT_EQ(texto("codigo"), "");
 
-    pulsar("DescPerm");
+    pulsar("descuentosDeUnaPersona");
     EXPECT_EQ(columna("descuentos", 0), (std::vector<std::string>{"701", "702", "703", "705"}));
     // TRANSPORTE no es gravado: 30000 x 15%, 4.5% y 0.10%; sin IRPF bajo 7 BPC.
     EXPECT_EQ(texto("totalhab"), "31,400.00");
@@ -180,7 +180,7 @@ TEST_F(PantallaHaberes, UnMesEnteroDesdeElTeclado) {
     EXPECT_EQ(texto("totaldes"), pesos(sumaTipo("PEREZ, JUAN", "Des")));
     engine::ContextoFormula ctx;
     const auto mp =
-        engine::BuscarVerif(*sesion.base, "ACME", "PEREZ, JUAN", febrero, ctx, dialogo);
+        engine::leerMesDeLaPersona(*sesion.base, "ACME", "PEREZ, JUAN", febrero, ctx, dialogo);
     ASSERT_TRUE(mp);
     const auto liquido =
         engine::liquidoNeto(mp->libro().filas(engine::TablaLiquidacion::Habydesc, febrero),
@@ -250,7 +250,7 @@ TEST_F(PantallaHaberes, UnMesEnteroDesdeElTeclado) {
 TEST_F(PantallaHaberes, LicenciaConSusPreguntasYElPeriodo) {
     persona("GOMEZ, ANA", "1", "30000", "2019-01-01");
     abrirMes("0226", "GOMEZ, ANA");
-    pulsar("HabPerm");
+    pulsar("haberesDelMes");
     const std::string menosDe10 =
         "La cantidad de días de licencia por período no puede ser menor que 10|¿Desea "
         "continuar?";
@@ -293,7 +293,7 @@ TEST_F(PantallaHaberes, DiciembreMuestraElCierreDelAnio) {
     teclear("empresa", "ACME");
     teclear("mes", "1225");  // Sí a la pregunta del mes
     teclear("nombre", "ROSSI, ANA");
-    pulsar("HabPerm");
+    pulsar("haberesDelMes");
     auto* detalle = pantalla->findChild<QWidget*>("detalleAnio");
     ASSERT_NE(detalle, nullptr);
     EXPECT_FALSE(detalle->isVisible());
@@ -318,7 +318,7 @@ TEST_F(PantallaHaberes, DiciembreMuestraElCierreDelAnio) {
     EXPECT_EQ(texto("totalhab"), "120,700.00");
 
     // Desc. Perm.: el recuadro con el cierre del año de la fila IRPF que escribió.
-    pulsar("DescPerm");
+    pulsar("descuentosDeUnaPersona");
     EXPECT_TRUE(detalle->isVisible());
     const auto conceptos = columna("descuentos", 1);
     const auto it = std::find_if(conceptos.begin(), conceptos.end(),
@@ -427,7 +427,7 @@ TEST_F(PantallaHaberes, TodaLaEmpresaConSuAvanceYDetener) {
     auto c = QObject::connect(avance, &QProgressBar::valueChanged, [&](int v) {
         vistos.push_back(v);
         EXPECT_TRUE(detener->isEnabled());
-        EXPECT_FALSE(w<QPushButton>("DescPerm")->isEnabled());  // lo demás, bloqueado
+        EXPECT_FALSE(w<QPushButton>("descuentosDeUnaPersona")->isEnabled());  // lo demás, bloqueado
         if (v == 1) detener->click();
     });
     dialogo.mensajes.clear();
@@ -437,7 +437,7 @@ TEST_F(PantallaHaberes, TodaLaEmpresaConSuAvanceYDetener) {
     EXPECT_EQ(filas("nombre = 'A, UNO' AND codigo = 1"), 1);
     EXPECT_EQ(filas("nombre <> 'A, UNO'"), 0);
     EXPECT_TRUE(dialogo.mensajes.empty());  // detenida: no dice finalizada
-    EXPECT_TRUE(w<QPushButton>("DescPerm")->isEnabled());
+    EXPECT_TRUE(w<QPushButton>("descuentosDeUnaPersona")->isEnabled());
     EXPECT_FALSE(detener->isEnabled());
     // Terminada la corrida, la línea de avance queda limpia.
     EXPECT_FALSE(avance->isTextVisible());
@@ -457,7 +457,7 @@ TEST_F(PantallaHaberes, TodaLaEmpresaConSuAvanceYDetener) {
 
     // Los descuentos de toda la empresa, con su aviso al final.
     dialogo.mensajes.clear();
-    pulsar("ActDesPermxEmpresa");
+    pulsar("descuentosDeLaEmpresa");
     EXPECT_EQ(filas("codigo = 701"), 3);
     EXPECT_EQ(dialogo.ultimoMensaje(),
               "Actualización finalizada.\n3 personas liquidadas del mes 02/26.");
@@ -482,11 +482,11 @@ TEST_F(PantallaHaberes, UnFalloDiceEnQueProcedimientoSeCorto) {
         << dialogo.ultimoMensaje();
     EXPECT_EQ(filas("nombre = 'A, UNO'"), 3);  // la primera persona quedó entera
     EXPECT_EQ(filas("nombre = 'B, DOS'"), 0);
-    EXPECT_TRUE(w<QPushButton>("HabPerm")->isEnabled());  // la pantalla vuelve a estar a mano
+    EXPECT_TRUE(w<QPushButton>("haberesDelMes")->isEnabled());  // la pantalla vuelve a estar a mano
 
     teclear("mes", "0226");
     teclear("nombre", "B, DOS");
-    pulsar("HabPerm");
+    pulsar("haberesDelMes");
     EXPECT_EQ(dialogo.ultimoMensaje().rfind("Error inesperado 11 en HabPerm_Click del Form42", 0),
               0u)
         << dialogo.ultimoMensaje();

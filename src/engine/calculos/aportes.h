@@ -8,8 +8,8 @@
 
 #include "common/dinero.h"
 #include "common/fechas.h"
-#include "engine/mes/filas_mes.h"
 #include "engine/calculos/psnis.h"
+#include "engine/mes/filas_mes.h"
 
 namespace nomira::engine {
 inline namespace calculos {

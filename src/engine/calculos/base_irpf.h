@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "common/dinero.h"
-#include "engine/mes/filas_mes.h"
-#include "engine/formulas/formula.h"
 #include "engine/calculos/liquido.h"
+#include "engine/formulas/formula.h"
+#include "engine/mes/filas_mes.h"
 #include "engine/mes/libro.h"
 
 namespace nomira::engine {

@@ -88,9 +88,8 @@ ImporteLicencia calcularLicencia(const EntradaLicencia& e, const EvaluarIncidenc
 
 // Sobre lo leído: ctx trae la persona, sus filas, el período, las variables y
 // los sueldos de la persona; textoDias es la casilla de cantidad (vacía = 1).
-ImporteLicencia CalculoLicencia(const ContextoFormula& ctx,
-                                const std::string& textoDias, int grupo, int subgrupo,
-                                common::Dialogo& dialogo);
+ImporteLicencia CalculoLicencia(const ContextoFormula& ctx, const std::string& textoDias, int grupo,
+                                int subgrupo, common::Dialogo& dialogo);
 
 }  // namespace calculos
 }  // namespace nomira::engine

@@ -50,8 +50,8 @@ ResultadoIRP CalculoIRP(ContextoFormula& ctx) {
     r.cant = ctx.textoCant.empty() ? 1 : common::textoANumero(ctx.textoCant);
     double reliquidacion = 0;
     if (!ctx.empresa.empty() && !ctx.nombre.empty())
-        if (const auto* f = libroDe(ctx).porConcepto(TablaLiquidacion::Habydesc, ctx.periodo,
-                                                     "RELIQUIDACION"))
+        if (const auto* f =
+                libroDe(ctx).porConcepto(TablaLiquidacion::Habydesc, ctx.periodo, "RELIQUIDACION"))
             reliquidacion = f->total.aDouble();
     const auto& franjas = maestros.franjas;
     const double bpc = variablesDe(ctx).valor("BPC");

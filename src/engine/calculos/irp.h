@@ -4,8 +4,8 @@
 // que el tope neto de la anterior. La RELIQUIDACION del mes va aparte.
 #include <vector>
 
-#include "engine/formulas/formula.h"
 #include "engine/calculos/irpf.h"
+#include "engine/formulas/formula.h"
 
 namespace nomira::engine {
 inline namespace calculos {

@@ -9,7 +9,6 @@
 #include "common/fechas.h"
 #include "engine/mes/filas_mes.h"
 
-
 namespace nomira::engine {
 inline namespace calculos {
 

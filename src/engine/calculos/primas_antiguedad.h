@@ -59,6 +59,5 @@ std::optional<PrimaAntiguedad> calcularPrimaAntiguedad(const master::Persona& p,
                                                        const common::Mes& periodo,
                                                        const BaseDeMiembro& baseDe);
 
-
 }  // namespace calculos
 }  // namespace nomira::engine

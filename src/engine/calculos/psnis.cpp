@@ -50,8 +50,7 @@ void conyugeEHijosSNIS(DatosSNIS& d, const master::Persona& p, const common::Mes
 
 void calcularPSNIS(ContextoFormula& ctx, double bpc, common::Dialogo& dialogo) {
     DatosSNIS d{ctx.montograv.aDouble(), bpc, false, false, ctx.tipoaporte};
-    if (const auto* p = ctx.persona)
-        conyugeEHijosSNIS(d, *p, ctx.periodo, &dialogo, &ctx.esmayor);
+    if (const auto* p = ctx.persona) conyugeEHijosSNIS(d, *p, ctx.periodo, &dialogo, &ctx.esmayor);
     ctx.psnis = porcentajeSNIS(d);
 }
 

@@ -5,8 +5,8 @@
 #include "common/fechas.h"
 #include "common/numeros.h"
 #include "engine/calculos/aportes.h"
-#include "engine/mes/aportes_lector.h"
 #include "engine/calculos/explicacion.h"
+#include "engine/mes/aportes_lector.h"
 #include "engine/mes/libro.h"
 #include "engine/mes/maestros.h"
 
@@ -29,9 +29,8 @@ std::string conceptoVacacionalDe(const std::string& conceptoLicencia) {
 }
 
 std::optional<SalarioVacacional> CalculoSalarioVacacionalNew(
-    ContextoFormula& ctx, const std::string& conceptoLicencia, double dias,
-    common::Dinero monto, const std::string& desde, const std::string& hasta,
-    common::Dialogo& dialogo) {
+    ContextoFormula& ctx, const std::string& conceptoLicencia, double dias, common::Dinero monto,
+    const std::string& desde, const std::string& hasta, common::Dialogo& dialogo) {
     SalarioVacacional s;
     s.concepto = conceptoVacacionalDe(conceptoLicencia);
     const auto* concepto = maestrosDe(ctx).conceptos.porNombre(s.concepto);

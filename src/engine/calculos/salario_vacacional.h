@@ -27,9 +27,8 @@ struct SalarioVacacional {
 // falta el concepto.
 // `monto` es lo que vale la licencia; desde y hasta, "dd/mm/yy" (vacías: Null).
 std::optional<SalarioVacacional> CalculoSalarioVacacionalNew(
-    ContextoFormula& ctx, const std::string& conceptoLicencia, double dias,
-    common::Dinero monto, const std::string& desde, const std::string& hasta,
-    common::Dialogo& dialogo);
+    ContextoFormula& ctx, const std::string& conceptoLicencia, double dias, common::Dinero monto,
+    const std::string& desde, const std::string& hasta, common::Dialogo& dialogo);
 
 }  // namespace calculos
 }  // namespace nomira::engine

@@ -4,8 +4,8 @@
 
 #include "common/numeros.h"
 #include "common/texto.h"
-#include "engine/formulas/evaluador.h"
 #include "engine/calculos/psnis.h"
+#include "engine/formulas/evaluador.h"
 
 namespace nomira::engine {
 inline namespace formulas {

@@ -2,9 +2,9 @@
 
 #include "common/empaquetados.h"
 #include "common/numeros.h"
+#include "engine/calculos/psnis.h"
 #include "engine/mes/datos_persona.h"
 #include "engine/mes/libro.h"
-#include "engine/calculos/psnis.h"
 
 namespace nomira::engine {
 inline namespace mes {
@@ -103,8 +103,8 @@ DescuentoGenerado generarDescuento(ContextoFormula& ctx, const ConceptoDescuento
         e.cantbfc = common::textoANumero(persona->cantbfc);
         e.tafap = common::SocMedica::leer(persona->socmedica).tafap == "Si";
         e.tope = topeAfap(maestrosDe(ctx), persona->socmedica);
-        e.excepcionLicencia = excepcionLicencia(
-            persona->tiposueldo, libro.filas(TablaLiquidacion::Habydesc, mes));
+        e.excepcionLicencia =
+            excepcionLicencia(persona->tiposueldo, libro.filas(TablaLiquidacion::Habydesc, mes));
     }
     for (const auto& f : libro.filas(TablaLiquidacion::Aguinaldos, mes)) {
         if (f.tipo == "Hab") e.aguinaldosHab += f.total;

@@ -7,8 +7,8 @@
 
 #include "common/dialogo.h"
 #include "engine/calculos/aportes.h"
-#include "engine/formulas/formula.h"
 #include "engine/calculos/liquido.h"
+#include "engine/formulas/formula.h"
 #include "engine/mes/maestros.h"
 
 namespace nomira::engine {

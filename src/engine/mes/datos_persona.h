@@ -6,11 +6,11 @@
 
 #include "common/dialogo.h"
 #include "common/fechas.h"
-#include "engine/formulas/formula.h"
 #include "engine/calculos/irpf.h"
+#include "engine/formulas/formula.h"
+#include "engine/mes/maestros.h"
 #include "master/personal.h"
 #include "master/variables.h"
-#include "engine/mes/maestros.h"
 
 namespace nomira::engine {
 inline namespace mes {

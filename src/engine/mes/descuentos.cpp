@@ -6,14 +6,14 @@
 #include "common/numeros.h"
 #include "common/texto.h"
 #include "engine/calculos/aportes.h"
-#include "engine/mes/aportes_lector.h"
 #include "engine/calculos/explicacion.h"
+#include "engine/calculos/irp.h"
+#include "engine/calculos/liquido.h"
+#include "engine/mes/aportes_lector.h"
 #include "engine/mes/escritura.h"
 #include "engine/mes/horas.h"
-#include "engine/calculos/irp.h"
 #include "engine/mes/irpf_lector.h"
 #include "engine/mes/irpf_licencia.h"
-#include "engine/calculos/liquido.h"
 
 namespace nomira::engine {
 inline namespace mes {
@@ -117,7 +117,8 @@ ImporteImpuesto calcularImpuesto(const MesPersona& mp, ContextoFormula& ctx,
     }
     r.cant = ctx.textoCant.empty() ? 1 : common::textoANumero(ctx.textoCant);
     if (mp.mes.mes == 12) {
-        if (excepcionLicencia(mp.tiposueldo, mp.libro().filas(TablaLiquidacion::Habydesc, mp.mes))) {
+        if (excepcionLicencia(mp.tiposueldo,
+                              mp.libro().filas(TablaLiquidacion::Habydesc, mp.mes))) {
             r.explicacion = "diciembre: su único haber es una licencia, sin IRPF";
             return r;
         }
@@ -196,9 +197,9 @@ std::vector<FilaLiquidada> generarDescuentos(MesPersona& mp, ContextoFormula& ct
     return hechas;
 }
 
-ResultadoPersona DescPerm(store::Conexion& base, const std::string& empresa,
-                          const std::string& nombre, const common::Mes& mes,
-                          common::Dialogo& dialogo) {
+ResultadoPersona descuentosDeUnaPersona(store::Conexion& base, const std::string& empresa,
+                                        const std::string& nombre, const common::Mes& mes,
+                                        common::Dialogo& dialogo) {
     ResultadoPersona r;
     r.empresa = empresa;
     r.nombre = nombre;
@@ -211,7 +212,7 @@ ResultadoPersona DescPerm(store::Conexion& base, const std::string& empresa,
     store::Transaccion t(base);
     bloquearMes(base, empresa, nombre, mes);
     ContextoFormula ctx;
-    auto mp = BuscarVerif(base, empresa, nombre, mes, ctx, dialogo);
+    auto mp = leerMesDeLaPersona(base, empresa, nombre, mes, ctx, dialogo);
     if (!mp) {
         r.aviso = "sin empresa o persona";
         return r;
@@ -233,10 +234,10 @@ ResultadoPersona DescPerm(store::Conexion& base, const std::string& empresa,
     return r;
 }
 
-ResultadoEmpresa ActDesPermxEmpresa(store::Conexion& base, const std::string& empresa,
-                                    const common::Mes& mes, common::Dialogo& dialogo,
-                                    const ProgresoEmpresa& progreso,
-                                    const CancelarEmpresa& cancelar) {
+ResultadoEmpresa descuentosDeLaEmpresa(store::Conexion& base, const std::string& empresa,
+                                       const common::Mes& mes, common::Dialogo& dialogo,
+                                       const ProgresoEmpresa& progreso,
+                                       const CancelarEmpresa& cancelar) {
     auto lectura = std::make_shared<Lectura>(leerCorrida(base, empresa, mes, mesesDelMes(mes)));
     auto porPersona = [&](const std::shared_ptr<Lectura>& l, PersonaDelMes& p, bool activa) {
         ResultadoPersona r;

@@ -9,9 +9,9 @@
 
 #include "common/dialogo.h"
 #include "common/fechas.h"
-#include "engine/mes/empresa_mes.h"
 #include "engine/calculos/irpf.h"
 #include "engine/calculos/irpf_dic.h"
+#include "engine/mes/empresa_mes.h"
 #include "engine/mes/mes_persona.h"
 #include "store/conexion.h"
 
@@ -25,11 +25,12 @@ inline constexpr const char* kConEgresos =
 inline constexpr const char* kSoloEmpresa = "Debe completar solamente el campo Empresa.";
 inline constexpr const char* kActualizacionFinalizada = "Actualización finalizada.";
 
-// Los descuentos de una persona. Con egresos en el mes no escribe nada y lo avisa.
-// Leídos, calculados y escritos en una transacción bajo su clave.
-ResultadoPersona DescPerm(store::Conexion& base, const std::string& empresa,
-                          const std::string& nombre, const common::Mes& mes,
-                          common::Dialogo& dialogo);
+// DescPerm_Click: los descuentos de una persona, leídos, calculados y escritos
+// en una transacción bajo su clave. Con egresos en el mes no escribe nada y lo
+// avisa.
+ResultadoPersona descuentosDeUnaPersona(store::Conexion& base, const std::string& empresa,
+                                        const std::string& nombre, const common::Mes& mes,
+                                        common::Dialogo& dialogo);
 
 // Los pasos de la generación sobre el mes ya leído, en memoria.
 std::vector<FilaLiquidada> generarDescuentos(MesPersona& mp, ContextoFormula& ctx,
@@ -50,14 +51,14 @@ struct ImporteImpuesto {
 ImporteImpuesto calcularImpuesto(const MesPersona& mp, ContextoFormula& ctx,
                                  const std::string& concepto, common::Dialogo& dialogo);
 
-// Toda la empresa: cada persona activa con haberes y sin egresos en el mes, en
-// su transacción; antes, lo que traiga para ella el archivo de horas
-// (CalculoCant2). Al final avisa "Actualización finalizada." si no se canceló
-// ni falló.
-ResultadoEmpresa ActDesPermxEmpresa(store::Conexion& base, const std::string& empresa,
-                                    const common::Mes& mes, common::Dialogo& dialogo,
-                                    const ProgresoEmpresa& progreso = {},
-                                    const CancelarEmpresa& cancelar = {});
+// ActDesPermxEmpresa_Click: toda la empresa, cada persona activa con haberes y
+// sin egresos en el mes; antes, lo que traiga para ella el archivo de horas
+// (CalculoCant2). Al final avisa "Actualización finalizada." con cuántas se
+// liquidaron, si no se canceló ni falló.
+ResultadoEmpresa descuentosDeLaEmpresa(store::Conexion& base, const std::string& empresa,
+                                       const common::Mes& mes, common::Dialogo& dialogo,
+                                       const ProgresoEmpresa& progreso = {},
+                                       const CancelarEmpresa& cancelar = {});
 
 // "Actualización finalizada." y cuántas personas se liquidaron, y de qué mes.
 std::string textoActualizacionFinalizada(const ResultadoEmpresa& r);

@@ -21,8 +21,8 @@ inline namespace mes {
 // La generación de una persona de la corrida sobre lo leído, en memoria; activa
 // dice si trabaja en el mes (ver activaEnElMes). Lo que cambie en sus filas lo
 // escribe el recorrido al volver.
-using PorPersona = std::function<ResultadoPersona(const std::shared_ptr<Lectura>&,
-                                                  PersonaDelMes&, bool activa)>;
+using PorPersona =
+    std::function<ResultadoPersona(const std::shared_ptr<Lectura>&, PersonaDelMes&, bool activa)>;
 // Antes de cada persona: i de n (desde 1) y su nombre.
 using ProgresoEmpresa =
     std::function<void(std::size_t i, std::size_t n, const std::string& nombre)>;

@@ -11,8 +11,8 @@ namespace {
 std::vector<std::string> columnasDe(TablaLiquidacion t) {
     if (t == TablaLiquidacion::Salvacacional)
         return {"codigo", "concepto", "unidad", "cant", "total", "desdelic", "hastalic"};
-    return {"codigo",    "concepto", "tipo", "unidad", "permanente", "gravado",
-            "aguinaldo", "cant",     "total", "lic",   "ipd"};
+    return {"codigo",    "concepto", "tipo",  "unidad", "permanente", "gravado",
+            "aguinaldo", "cant",     "total", "lic",    "ipd"};
 }
 
 void agregarValores(TablaLiquidacion t, const FilaMes& f, std::vector<store::Valor>& v) {

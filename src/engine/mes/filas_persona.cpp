@@ -20,9 +20,8 @@ bool esConceptoHoras(const std::string& concepto) {
 }
 
 std::optional<FilaGenerada> actualizarJornadas(LibroPersona& libro, const Maestros& maestros,
-                                               const common::Mes& mes,
-                                               const std::string& concepto, double cant,
-                                               double htrab) {
+                                               const common::Mes& mes, const std::string& concepto,
+                                               double cant, double htrab) {
     if (esConceptoHoras(concepto)) {
         const std::string otra = concepto == "HORAS" ? "HORAS NOCTURNAS" : "HORAS";
         if (const auto* f = libro.porConcepto(TablaLiquidacion::Habydesc, mes, otra))

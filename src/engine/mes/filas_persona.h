@@ -36,9 +36,8 @@ bool esConceptoHoras(const std::string& concepto);
 // Sin concepto "JORNADAS EN EL MES" no hace nada; htrab 0 es división por cero.
 // Devuelve la fila escrita.
 std::optional<FilaGenerada> actualizarJornadas(LibroPersona& libro, const Maestros& maestros,
-                                               const common::Mes& mes,
-                                               const std::string& concepto, double cant,
-                                               double htrab);
+                                               const common::Mes& mes, const std::string& concepto,
+                                               double cant, double htrab);
 
 }  // namespace mes
 }  // namespace nomira::engine

@@ -77,8 +77,7 @@ std::vector<const master::Concepto*> conceptosPermanentes(const Maestros& maestr
     for (const auto& c : maestros.conceptos.todos()) {
         const bool permanente = (c.especificode == mp.tiposueldo || c.especificode == "G") &&
                                 c.tipo == "Hab" && c.permanente == "Si";
-        const bool propio =
-            std::find(propios.begin(), propios.end(), codigoDe(c)) != propios.end();
+        const bool propio = std::find(propios.begin(), propios.end(), codigoDe(c)) != propios.end();
         if (!permanente && !propio) continue;
         if (!lista.empty() && codigoDe(*lista.back()) == codigoDe(c)) continue;
         lista.push_back(&c);
@@ -130,8 +129,8 @@ MayorSueldo mayorSueldoDeLaEmpresa(const Lectura& lectura) {
     return mayor;
 }
 
-ResultadoPersona HabPerm(MesPersona& mp, ContextoFormula& ctx, common::Dialogo& dialogo,
-                         const OpcionesHaberes& opciones) {
+ResultadoPersona haberesDelMes(MesPersona& mp, ContextoFormula& ctx, common::Dialogo& dialogo,
+                               const OpcionesHaberes& opciones) {
     ResultadoPersona r{mp.empresa, mp.nombre, mp.mes, false, "", {}};
     auto& libro = mp.libro();
     if (libro.hayEgresos(mp.mes)) {
@@ -144,9 +143,8 @@ ResultadoPersona HabPerm(MesPersona& mp, ContextoFormula& ctx, common::Dialogo& 
         r.aviso = *m;
         return r;
     }
-    const auto borradas = opciones.borrarDescuentos
-                              ? libro.borrarTipo(TablaLiquidacion::Habydesc, mp.mes, "Des")
-                              : 0;
+    const auto borradas =
+        opciones.borrarDescuentos ? libro.borrarTipo(TablaLiquidacion::Habydesc, mp.mes, "Des") : 0;
     const bool conHoras = opciones.calculoCant && !opciones.calculoCant(ctx, dialogo).filas.empty();
     // La base del mes sólo cambia si se fue algo o llegaron horas.
     if (borradas > 0 || conHoras) refrescarDesglose(mp, ctx);
@@ -174,8 +172,8 @@ ResultadoPersona HabPerm(MesPersona& mp, ContextoFormula& ctx, common::Dialogo& 
             total = common::Dinero::desdeDouble(std::floor(ctx.total));
             expl += " Sin decimales: " + pesos(total) + ".";
         } else if (esConceptoAntiguedad(nombre)) {
-            if (auto prima = CalculoAntiguedad(mp.maestros(), *mp.persona, ctx.textoCant, mp.mes,
-                                               dialogo)) {
+            if (auto prima =
+                    CalculoAntiguedad(mp.maestros(), *mp.persona, ctx.textoCant, mp.mes, dialogo)) {
                 cant = prima->cant;
                 total = prima->total;
                 expl = prima->explicacion;
@@ -220,17 +218,17 @@ ResultadoPersona generarHaberesPermanentes(store::Conexion& base, const std::str
     store::Transaccion t(base);
     bloquearMes(base, empresa, nombre, mes);
     ContextoFormula ctx;
-    auto mp = BuscarVerif(base, empresa, nombre, mes, ctx, dialogo);
+    auto mp = leerMesDeLaPersona(base, empresa, nombre, mes, ctx, dialogo);
     if (!mp) return ResultadoPersona{empresa, nombre, mes, false, "", {}};
     if (opciones.calculoCant && jornaleroOPorHora(mp->tiposueldo))
         avisarSinArchivoDeHoras(mp->maestros(), dialogo);
-    auto r = HabPerm(*mp, ctx, dialogo, opciones);
+    auto r = haberesDelMes(*mp, ctx, dialogo, opciones);
     escribirLibro(base, mp->libro());
     t.confirmar();
     return r;
 }
 
-ResultadoEmpresa ActHamPermxEmpresa(store::Conexion& base, const std::string& empresa,
+ResultadoEmpresa haberesDeLaEmpresa(store::Conexion& base, const std::string& empresa,
                                     const common::Mes& mes, common::Dialogo& dialogo,
                                     const OpcionesHaberes& opciones,
                                     const ProgresoEmpresa& progreso,
@@ -245,11 +243,10 @@ ResultadoEmpresa ActHamPermxEmpresa(store::Conexion& base, const std::string& em
         avisarSinArchivoDeHoras(lectura->maestros, dialogo);
     auto deLaCorrida = opciones;
     deLaCorrida.borrarDescuentos = false;
-    const auto porPersona = [&](const std::shared_ptr<Lectura>& l, PersonaDelMes& p,
-                                bool activa) {
+    const auto porPersona = [&](const std::shared_ptr<Lectura>& l, PersonaDelMes& p, bool activa) {
         ContextoFormula ctx;
         auto mp = mesDeLaPersona(l, p, ctx);
-        if (activa) return HabPerm(mp, ctx, dialogo, deLaCorrida);
+        if (activa) return haberesDelMes(mp, ctx, dialogo, deLaCorrida);
         // Quien no trabaja en el mes igual recibe lo que el reloj le marcó.
         if (opciones.calculoCant) opciones.calculoCant(ctx, dialogo);
         return ResultadoPersona{empresa, p.ficha->nombre, mes, false, "", {}};

@@ -54,11 +54,11 @@ MayorSueldo mayorSueldoDeLaEmpresa(const Lectura& lectura);
 
 // Pasos 3 a 8 de HabPerm_Click sobre el mes ya leído, en memoria: las filas
 // quedan en el libro de la persona para que alguien las escriba.
-ResultadoPersona HabPerm(MesPersona& mp, ContextoFormula& ctx, common::Dialogo& dialogo,
-                         const OpcionesHaberes& opciones = {});
+ResultadoPersona haberesDelMes(MesPersona& mp, ContextoFormula& ctx, common::Dialogo& dialogo,
+                               const OpcionesHaberes& opciones = {});
 
 // HabPerm_Click: una persona, leída, calculada y escrita en una transacción
-// bajo su clave. Sin empresa o persona, el mensaje de BuscarVerif y nada escrito.
+// bajo su clave. Sin empresa o persona, el mensaje de leerMesDeLaPersona y nada escrito.
 ResultadoPersona generarHaberesPermanentes(store::Conexion& base, const std::string& empresa,
                                            const std::string& nombre, const common::Mes& mes,
                                            common::Dialogo& dialogo,
@@ -67,7 +67,7 @@ ResultadoPersona generarHaberesPermanentes(store::Conexion& base, const std::str
 // ActHamPermxEmpresa_Click: borra los descuentos del mes de toda la empresa y
 // genera los haberes de cada persona activa, escribiendo persona por persona.
 // A las que no trabajan en el mes sólo les llega el archivo de horas.
-ResultadoEmpresa ActHamPermxEmpresa(store::Conexion& base, const std::string& empresa,
+ResultadoEmpresa haberesDeLaEmpresa(store::Conexion& base, const std::string& empresa,
                                     const common::Mes& mes, common::Dialogo& dialogo,
                                     const OpcionesHaberes& opciones = {},
                                     const ProgresoEmpresa& progreso = {},

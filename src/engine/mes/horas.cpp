@@ -11,9 +11,9 @@
 #include "common/texto.h"
 #include "engine/calculos/explicacion.h"
 #include "engine/mes/filas_persona.h"
-#include "engine/mes/mes_persona.h"
 #include "engine/mes/libro.h"
 #include "engine/mes/maestros.h"
+#include "engine/mes/mes_persona.h"
 #include "master/personal.h"
 
 namespace nomira::engine {
@@ -176,8 +176,8 @@ ImportacionHoras importarHoras(ContextoFormula& ctx, const ArchivoHoras& archivo
         CalculoFormula3(ctx, dialogo);
         double cant = ctx.cant, total = ctx.total;
         std::string exp = concepto->concepto + ": archivo " + numero(l->cantidad) + " / " +
-                          pesos(l->importe) + ", fórmula " + concepto->formula +
-                          " con cantidad " + numero(cant) + ": " + pesos(total);
+                          pesos(l->importe) + ", fórmula " + concepto->formula + " con cantidad " +
+                          numero(cant) + ": " + pesos(total);
 
         if (descuentos) {
             const bool unicoHaber = (tiposueldo == "H" || tiposueldo == "J") && cantHab == 1;
@@ -222,9 +222,8 @@ ImportacionHoras importarHoras(ContextoFormula& ctx, const ArchivoHoras& archivo
         r.explicacion += exp + "\n";
 
         if (!descuentos && esConceptoHoras(common::mayusculas(concepto->concepto)))
-            if (auto j =
-                    actualizarJornadas(libro, maestros, mes,
-                                       common::mayusculas(concepto->concepto), cant, ctx.htrab))
+            if (auto j = actualizarJornadas(
+                    libro, maestros, mes, common::mayusculas(concepto->concepto), cant, ctx.htrab))
                 r.filas.push_back(*j);
     }
     return r;

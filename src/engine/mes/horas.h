@@ -11,8 +11,8 @@
 #include "common/dialogo.h"
 #include "common/dinero.h"
 #include "common/fechas.h"
-#include "engine/mes/filas_mes.h"
 #include "engine/formulas/formula.h"
+#include "engine/mes/filas_mes.h"
 
 namespace nomira::engine {
 inline namespace mes {

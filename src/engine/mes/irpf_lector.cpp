@@ -54,8 +54,8 @@ ResultadoIRPF CalculoIRPF(ContextoFormula& ctx, Dinero montoirpf, Dinero montono
     e.bpc = vars.valor("BPC");
     e.exclusion = vars.valor("EXCLUSIONIRPF");
     if (persona) e.deducciones = deduccionesDe(maestros, *persona, mes, &dialogo);
-    e.escala = op.escalaAguinaldoEnJunio && mes.mes == 6 ? maestros.escalaAguinaldo
-                                                          : maestros.escala;
+    e.escala =
+        op.escalaAguinaldoEnJunio && mes.mes == 6 ? maestros.escalaAguinaldo : maestros.escala;
     const auto b = banderas(persona);
     e.multiEmp = b.multiEmp;
     e.nfam = b.nfam;

@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "common/dialogo.h"
-#include "engine/formulas/formula.h"
 #include "engine/calculos/irpf.h"
 #include "engine/calculos/irpf_dic.h"
+#include "engine/formulas/formula.h"
 
 namespace nomira::engine {
 inline namespace mes {

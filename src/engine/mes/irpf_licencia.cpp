@@ -1,13 +1,13 @@
 #include "engine/mes/irpf_licencia.h"
 
 #include "common/empaquetados.h"
+#include "common/numeros.h"
 #include "engine/calculos/aportes.h"
+#include "engine/calculos/explicacion.h"
 #include "engine/mes/aportes_lector.h"
 #include "engine/mes/datos_persona.h"
-#include "engine/calculos/explicacion.h"
-#include "common/numeros.h"
-#include "engine/mes/libro.h"
 #include "engine/mes/irpf_lector.h"
+#include "engine/mes/libro.h"
 
 namespace nomira::engine {
 inline namespace mes {

@@ -8,8 +8,8 @@
 
 #include "common/dialogo.h"
 #include "common/dinero.h"
-#include "engine/formulas/formula.h"
 #include "engine/calculos/irpf.h"
+#include "engine/formulas/formula.h"
 
 namespace nomira::engine {
 inline namespace mes {

@@ -122,9 +122,8 @@ void leerFilas(store::Conexion& base, const std::string& empresa, const MesesALe
                       if (it == libros.end()) return;
                       for (const auto t : kTablas)
                           if (f.texto(1) == nombreTabla(t))
-                              it->second->explicacionLeida(t, meses.escrito,
-                                                           static_cast<long>(f.entero(2)),
-                                                           f.texto(3));
+                              it->second->explicacionLeida(
+                                  t, meses.escrito, static_cast<long>(f.entero(2)), f.texto(3));
                   });
 }
 

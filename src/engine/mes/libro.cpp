@@ -105,8 +105,8 @@ std::vector<FilaMes>& LibroPersona::paraCambiar(TablaLiquidacion t, const common
         throw common::Fallo(5, "Las filas de aguinaldos no se escriben en el mes");
     filas(t, mes);  // que se haya leído
     if (escribible_ != mes)
-        throw common::Fallo(5, std::string("No se leyeron las explicaciones de ") +
-                                   nombreTabla(t) + " del " + mes.texto() + " de " + nombre_);
+        throw common::Fallo(5, std::string("No se leyeron las explicaciones de ") + nombreTabla(t) +
+                                   " del " + mes.texto() + " de " + nombre_);
     cambiados_[{t, mes}].insert(codigo);
     return filas_[{t, mes}];
 }

@@ -29,8 +29,8 @@ std::vector<double> periodosGozados(const LibroPersona& libro, int anio) {
     // Sin goce en el año: lo no gozado que dejó un egreso ocupa el primero.
     double noGozado = 0;
     bool hay = false;
-    for (const auto& f : libro.filas(TablaLiquidacion::Egresos, common::Mes{anio, 1},
-                                     common::Mes{anio, 12})) {
+    for (const auto& f :
+         libro.filas(TablaLiquidacion::Egresos, common::Mes{anio, 1}, common::Mes{anio, 12})) {
         if (!esLicenciaNoGozadaEgreso(common::mayusculas(f.concepto))) continue;
         noGozado += f.cant;
         hay = true;

@@ -25,10 +25,9 @@ TotalesEmpresa liquidarMesDeEmpresa(store::Conexion& base, const std::string& em
                                     const common::Mes& mes, common::Dialogo& dialogo,
                                     const OpcionesHaberes& opciones) {
     correr("ActHamPermxEmpresa_Click",
-           [&] { return ActHamPermxEmpresa(base, empresa, mes, dialogo, opciones); });
-    const auto d = correr("ActDesPermxEmpresa_Click", [&] {
-        return ActDesPermxEmpresa(base, empresa, mes, dialogo);
-    });
+           [&] { return haberesDeLaEmpresa(base, empresa, mes, dialogo, opciones); });
+    const auto d = correr("ActDesPermxEmpresa_Click",
+                          [&] { return descuentosDeLaEmpresa(base, empresa, mes, dialogo); });
     TotalesEmpresa t;
     for (const auto& p : d.personas) t.personas += p.hecho;
     for (const auto& f :

@@ -18,11 +18,11 @@ long codigoDe(const master::Concepto& c) {
 
 std::vector<FilaEscala> leerFranjas(store::Conexion& base) {
     std::vector<FilaEscala> franjas;
-    base.recorrer("SELECT franja, min, max, tasa FROM franjasirp ORDER BY franja", {},
-                  [&](const store::FilaAlPaso& f) {
-                      franjas.push_back(
-                          {static_cast<long>(f.entero(0)), f.real(1), f.real(2), f.real(3)});
-                  });
+    base.recorrer(
+        "SELECT franja, min, max, tasa FROM franjasirp ORDER BY franja", {},
+        [&](const store::FilaAlPaso& f) {
+            franjas.push_back({static_cast<long>(f.entero(0)), f.real(1), f.real(2), f.real(3)});
+        });
     return franjas;
 }
 

@@ -46,9 +46,9 @@ MesPersona mesDeLaPersona(std::shared_ptr<Lectura> lectura, PersonaDelMes& perso
     return mp;
 }
 
-std::optional<MesPersona> BuscarVerif(store::Conexion& base, const std::string& empresa,
-                                      const std::string& nombre, const common::Mes& mes,
-                                      ContextoFormula& ctx, common::Dialogo& dialogo) {
+std::optional<MesPersona> leerMesDeLaPersona(store::Conexion& base, const std::string& empresa,
+                                             const std::string& nombre, const common::Mes& mes,
+                                             ContextoFormula& ctx, common::Dialogo& dialogo) {
     auto lectura =
         std::make_shared<Lectura>(leerCorrida(base, empresa, mes, mesesDelRenglon(mes), nombre));
     if (!lectura->maestros.empresa) {
@@ -64,7 +64,8 @@ std::optional<MesPersona> BuscarVerif(store::Conexion& base, const std::string& 
 }
 
 void refrescarDesglose(MesPersona& mp, ContextoFormula& ctx) {
-    mp.desglose = leerDesglose(mp.libro(), mp.mes, mp.tipoaporte, mp.vinculofun, ctx.sueldo, mp.bpc);
+    mp.desglose =
+        leerDesglose(mp.libro(), mp.mes, mp.tipoaporte, mp.vinculofun, ctx.sueldo, mp.bpc);
     volcarEnContexto(mp.desglose, ctx);
 }
 

@@ -1,5 +1,5 @@
 #pragma once
-// El mes de una persona en Form42: lo que BuscarVerif lee de la empresa y de la
+// El mes de una persona en Form42: lo que leerMesDeLaPersona lee de la empresa y de la
 // persona, cargado en el contexto de las fórmulas, y lo que devuelve una
 // generación (las filas escritas con la explicación de cada importe).
 #include <memory>
@@ -13,11 +13,11 @@
 #include "common/fechas.h"
 #include "engine/calculos/base_irpf.h"
 #include "engine/calculos/calculo_licencia.h"
-#include "engine/mes/filas_mes.h"
-#include "engine/mes/lectura.h"
-#include "engine/formulas/formula.h"
 #include "engine/calculos/irpf.h"
 #include "engine/calculos/irpf_dic.h"
+#include "engine/formulas/formula.h"
+#include "engine/mes/filas_mes.h"
+#include "engine/mes/lectura.h"
 #include "master/conceptos.h"
 #include "master/empresas.h"
 #include "master/personal.h"
@@ -55,9 +55,9 @@ MesPersona mesDeLaPersona(std::shared_ptr<Lectura> lectura, PersonaDelMes& perso
 // BuscarVerif: lee la empresa y la persona con sus filas del mes y del año de
 // la licencia (mesesDelRenglon), y arma su mes. Sin empresa o sin persona avisa
 // con el mensaje de la pantalla y devuelve nada.
-std::optional<MesPersona> BuscarVerif(store::Conexion& base, const std::string& empresa,
-                                      const std::string& nombre, const common::Mes& mes,
-                                      ContextoFormula& ctx, common::Dialogo& dialogo);
+std::optional<MesPersona> leerMesDeLaPersona(store::Conexion& base, const std::string& empresa,
+                                             const std::string& nombre, const common::Mes& mes,
+                                             ContextoFormula& ctx, common::Dialogo& dialogo);
 
 // Vuelve a calcular la base del mes sobre las filas (después de cambiarlas) y la
 // vuelca en ctx.

@@ -3,12 +3,9 @@
 namespace nomira::engine {
 inline namespace mes {
 
-std::optional<PrimaAntiguedad> CalculoAntiguedad(const Maestros& maestros,
-                                                 const master::Persona& persona,
-                                                 const std::string& textoCant,
-                                                 const common::Mes& periodo,
-                                                 common::Dialogo& dialogo,
-                                                 const std::string& pantalla) {
+std::optional<PrimaAntiguedad> CalculoAntiguedad(
+    const Maestros& maestros, const master::Persona& persona, const std::string& textoCant,
+    const common::Mes& periodo, common::Dialogo& dialogo, const std::string& pantalla) {
     const auto& consejo = maestros.consejo;
     const int miembro = miembroPorConsejo(consejo.grupo, consejo.subgrupo).value_or(0);
     try {

@@ -16,12 +16,9 @@ inline namespace mes {
 // mínimo de la categoría de los maestros. periodo es el del mes tecleado o,
 // vacío, el anterior. Un fallo se avisa como "Error inesperado" con el miembro
 // y deja la fórmula.
-std::optional<PrimaAntiguedad> CalculoAntiguedad(const Maestros& maestros,
-                                                 const master::Persona& persona,
-                                                 const std::string& textoCant,
-                                                 const common::Mes& periodo,
-                                                 common::Dialogo& dialogo,
-                                                 const std::string& pantalla = "Form42");
+std::optional<PrimaAntiguedad> CalculoAntiguedad(
+    const Maestros& maestros, const master::Persona& persona, const std::string& textoCant,
+    const common::Mes& periodo, common::Dialogo& dialogo, const std::string& pantalla = "Form42");
 
 }  // namespace mes
 }  // namespace nomira::engine

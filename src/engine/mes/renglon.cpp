@@ -6,16 +6,15 @@
 #include "common/numeros.h"
 #include "common/texto.h"
 #include "engine/calculos/aportes.h"
-#include "engine/mes/aportes_lector.h"
 #include "engine/calculos/calculo_licencia.h"
-#include "engine/mes/descuentos.h"
 #include "engine/calculos/explicacion.h"
+#include "engine/calculos/salario_vacacional.h"
+#include "engine/mes/aportes_lector.h"
+#include "engine/mes/descuentos.h"
 #include "engine/mes/escritura.h"
-#include "engine/mes/filas_persona.h"
 #include "engine/mes/filas_persona.h"
 #include "engine/mes/licencia_lector.h"
 #include "engine/mes/primas_antiguedad_lector.h"
-#include "engine/calculos/salario_vacacional.h"
 
 namespace nomira::engine {
 inline namespace mes {
@@ -132,7 +131,8 @@ CalculoRenglon calcularConFormula(MesPersona& mp, ContextoFormula& ctx, CalculoR
     r.explicacion = a.explicacion;
 
     if (esConceptoAntiguedad(nombre))
-        if (const auto p = CalculoAntiguedad(mp.maestros(), *mp.persona, textoCant, mp.mes, dialogo)) {
+        if (const auto p =
+                CalculoAntiguedad(mp.maestros(), *mp.persona, textoCant, mp.mes, dialogo)) {
             r.cant = p->cant;
             r.total = p->total;
             r.explicacion = p->explicacion;
@@ -143,10 +143,9 @@ CalculoRenglon calcularConFormula(MesPersona& mp, ContextoFormula& ctx, CalculoR
 // Lo que se guarda o borra se calcula sobre las filas como están ahora en la
 // base, bajo la clave de la persona: otra generación pudo escribirlas desde que
 // la pantalla las leyó.
-bool releer(store::Conexion& base, MesPersona& mp, ContextoFormula& ctx,
-            common::Dialogo& dialogo) {
+bool releer(store::Conexion& base, MesPersona& mp, ContextoFormula& ctx, common::Dialogo& dialogo) {
     bloquearMes(base, mp.empresa, mp.nombre, mp.mes);
-    auto nuevo = BuscarVerif(base, mp.empresa, mp.nombre, mp.mes, ctx, dialogo);
+    auto nuevo = leerMesDeLaPersona(base, mp.empresa, mp.nombre, mp.mes, ctx, dialogo);
     if (!nuevo) return false;
     mp = std::move(*nuevo);
     return true;

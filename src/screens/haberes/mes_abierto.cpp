@@ -11,14 +11,14 @@ bool MesAbierto::abrir(const std::string& empresa, const std::string& nombre,
     // Cada lectura trae las filas, las variables y los conceptos como están
     // ahora: otra PC pudo cambiarlos.
     ctx_ = {};
-    mp_ = engine::BuscarVerif(base_, empresa, nombre, mes, ctx_, dialogo_);
+    mp_ = engine::leerMesDeLaPersona(base_, empresa, nombre, mes, ctx_, dialogo_);
     return mp_.has_value();
 }
 
 MesAbierto::Vista MesAbierto::consultar() {
     // Las filas como están ahora: una generación u otra PC pudo cambiarlas.
     if (auto nuevo =
-            engine::BuscarVerif(base_, mp_->empresa, mp_->nombre, mp_->mes, ctx_, dialogo_))
+            engine::leerMesDeLaPersona(base_, mp_->empresa, mp_->nombre, mp_->mes, ctx_, dialogo_))
         mp_ = std::move(nuevo);
     Vista v;
     v.filas = engine::filasParaGrillas(base_, mp_->empresa, mp_->nombre, mp_->mes);

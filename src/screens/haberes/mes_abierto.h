@@ -1,6 +1,6 @@
 #pragma once
 // El mes de la persona en Form42 y todo lo que la pantalla le pide al motor sobre
-// él: leerlo (BuscarVerif), las filas y cifras de las grillas, y la fila en mano
+// él: leerlo (leerMesDeLaPersona), las filas y cifras de las grillas, y la fila en mano
 // (buscarla, calcularla, guardarla, eliminarla, su explicación).
 #include <memory>
 #include <optional>
@@ -19,7 +19,7 @@ class MesAbierto {
   public:
     MesAbierto(store::Conexion& base, common::Dialogo& dialogo) : base_(base), dialogo_(dialogo) {}
 
-    // BuscarVerif: lee de nuevo la empresa, la persona y la base del mes. Sin
+    // leerMesDeLaPersona: lee de nuevo la empresa, la persona y la base del mes. Sin
     // empresa o sin persona el motor ya avisó y el mes queda cerrado.
     bool abrir(const std::string& empresa, const std::string& nombre, const common::Mes& mes);
     void cerrar() { mp_.reset(); }

@@ -45,13 +45,13 @@ PanelGeneraciones::PanelGeneraciones(ventana::Pantalla& pantalla, CabeceraMes& c
     auto* marco = new QGroupBox("Haberes y descuentos permanentes");
     auto* botones = new QGridLayout(marco);
     const std::tuple<const char*, const char*, void (PanelGeneraciones::*)()> kBotones[] = {
-        {"HabPerm", "&Hab. Perm.", &PanelGeneraciones::HabPerm_Click},
+        {"haberesDelMes", "&Hab. Perm.", &PanelGeneraciones::HabPerm_Click},
         {"HabPerm2", "E&lim. Hab. Perm.", &PanelGeneraciones::HabPerm2_Click},
-        {"DescPerm", "&Desc. Perm.", &PanelGeneraciones::DescPerm_Click},
+        {"descuentosDeUnaPersona", "&Desc. Perm.", &PanelGeneraciones::DescPerm_Click},
         {"DescPerm2", "Eli&m. Desc. Perm.", &PanelGeneraciones::DescPerm2_Click},
         {"ActHabPermxEmpresa", "Act. Hab. Perm. x &Empresa",
          &PanelGeneraciones::ActHamPermxEmpresa_Click},
-        {"ActDesPermxEmpresa", "Act. Des. Perm. x Empre&sa",
+        {"descuentosDeLaEmpresa", "Act. Des. Perm. x Empre&sa",
          &PanelGeneraciones::ActDesPermxEmpresa_Click},
         {"ComoSeCalculo", "¿&Cómo se calculó?", &PanelGeneraciones::comoSeCalculo},
     };
@@ -87,7 +87,7 @@ void PanelGeneraciones::HabPerm_Click() {
 void PanelGeneraciones::DescPerm_Click() {
     pantalla_.intentar("DescPerm_Click", [this] {
         if (!cabecera_.completa()) return;
-        const auto r = engine::DescPerm(pantalla_.base(), cabecera_.empresa(),
+        const auto r = engine::descuentosDeUnaPersona(pantalla_.base(), cabecera_.empresa(),
                                         cabecera_.nombre(), *cabecera_.mes(), pantalla_.dialogo());
         emit mesCambiado();
         for (const auto& f : r.filas)
@@ -146,7 +146,7 @@ std::optional<engine::ResultadoEmpresa> PanelGeneraciones::correrEmpresa(
 void PanelGeneraciones::ActHamPermxEmpresa_Click() {
     pantalla_.intentar("ActHamPermxEmpresa_Click", [this] {
         const auto r = correrEmpresa([this](const common::Mes& m) {
-            return engine::ActHamPermxEmpresa(pantalla_.base(), cabecera_.empresa(), m,
+            return engine::haberesDeLaEmpresa(pantalla_.base(), cabecera_.empresa(), m,
                                               pantalla_.dialogo(), engine::conArchivoDeHoras(),
                                               avance_->progreso(), avance_->cancelar());
         });
@@ -158,7 +158,7 @@ void PanelGeneraciones::ActDesPermxEmpresa_Click() {
     pantalla_.intentar("ActDesPermxEmpresa_Click", [this] {
         // Al terminar sin detenerse el motor avisa "Actualización finalizada.".
         correrEmpresa([&](const common::Mes& m) {
-            return engine::ActDesPermxEmpresa(pantalla_.base(), cabecera_.empresa(), m,
+            return engine::descuentosDeLaEmpresa(pantalla_.base(), cabecera_.empresa(), m,
                                               pantalla_.dialogo(), avance_->progreso(),
                                               avance_->cancelar());
         });
