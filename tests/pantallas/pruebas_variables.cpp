@@ -118,6 +118,14 @@ TEST_F(PantallasVariables, FranjasAgregaBuscaYElimina) {
     EXPECT_EQ(campo("max")->text(), "15");
     tecla(Qt::Key_F7);
     EXPECT_FALSE(master::buscarFranja(*sesion.base, 3001));
+    // Una franja al revés no se agrega: lo dice la misma regla que la CLI.
+    escribir(campo("franja"), "3002");
+    escribir(campo("min"), "20");
+    escribir(campo("max"), "10");
+    escribir(campo("tasa"), "5");
+    tecla(Qt::Key_F5);
+    EXPECT_EQ(dialogo.ultimoMensaje(), "Min no puede ser mayor que Max.");
+    EXPECT_FALSE(master::buscarFranja(*sesion.base, 3002));
 }
 
 TEST_F(PantallasVariables, SueldosMinimosEncadenaLosCombosYAgrega) {

@@ -115,6 +115,8 @@ void PantallaAumentos::AumentarSueldosCategorias_Click() {
     if (!camposValidos()) return;
     intentar("AumentarSueldosCategorias_Click", [this] {
         if (deQt(porcentaje).empty()) return advertir("Debe completar el campo Porcentaje.");
+        if (const auto m = master::rechazoPorcentaje(porcentajeDe(porcentaje))) return advertir(*m);
+        if (!master::confirmarPorcentaje(dialogo(), porcentajeDe(porcentaje), false)) return;
         master::aumentarSueldosMinimos(base(), sector_.grupo, sector_.subgrupo, sector_.sector,
                                        porcentajeDe(porcentaje));
         finalizado("Aumento de Sueldos Mínimos x Categorías finalizado.");
@@ -133,6 +135,8 @@ void PantallaAumentos::AumentarSueldosEmpresa_Click(bool bajar) {
     intentar(bajar ? "Bajar_Click" : "AumentarSueldosEmpresa_Click", [this, bajar] {
         if (deQt(porcentaje).empty() || deQt(empresa).empty() || deQt(fsuevig).empty())
             return advertir("Debe completar los campos Porcentaje, Empresa y FSueVig.");
+        if (const auto m = master::rechazoPorcentaje(porcentajeDe(porcentaje))) return advertir(*m);
+        if (!master::confirmarPorcentaje(dialogo(), porcentajeDe(porcentaje), bajar)) return;
         const auto fecha = common::Fecha::desdeTexto(deQt(fsuevig));
         if (!fecha) throw common::Fallo(13, "No coinciden los tipos");
         master::PedidoAumento pedido{deQt(empresa), porcentajeDe(porcentaje), *fecha,

@@ -94,6 +94,9 @@ void PantallaFranjas::Consultar_Click() {
 void PantallaFranjas::Agregar_Click() {
     if (!camposValidos()) return;
     intentar("Agregar_Click", [this] {
+        if (const auto m =
+                master::rechazoFranja(numero(franja), numero(min), numero(max), numero(tasa)))
+            return advertir(*m);
         if (!confirmar("Agregar registro")) return;
         master::agregarFranja(
             base(), {static_cast<long>(numero(franja)), numero(min), numero(max), numero(tasa)});
