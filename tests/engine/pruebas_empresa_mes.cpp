@@ -5,6 +5,7 @@
 
 #include "engine/apoyo_formula.h"
 #include "engine/mes/haberes.h"
+#include "store/postgres.h"
 
 namespace nomira::engine {
 namespace {
@@ -88,6 +89,26 @@ TEST_P(EmpresaMes, CancelarEntrePersonasYLasQueNoEstanEnElMes) {
     EXPECT_EQ(r.personas.size(), 1u);
     EXPECT_EQ(filasDe("P1"), 1);
     EXPECT_EQ(filasDe("P2") + filasDe("P3") + filasDe("P4"), 0);
+}
+
+// El servidor corta la conexión en medio de la corrida: el liquidador lee el
+// aviso de la conexión perdida, no otro error, y no queda nadie a medias.
+TEST_P(EmpresaMes, LaConexionCortadaEnMediaCorridaDiceQueSePerdio) {
+    if (!esPostgres()) GTEST_SKIP() << "sólo un servidor corta la conexión";
+    const auto pid = base->consulta("SELECT pg_backend_pid()").primera().entero(0);
+    const auto cortar = [&](std::size_t i, std::size_t, const std::string&) {
+        if (i == 3)
+            otra()->consulta("SELECT pg_terminate_backend(CAST(? AS integer), 5000)", {pid});
+    };
+    const auto r = haberesDeLaEmpresa(*base, "ACME", {2026, 2}, dialogo, {}, cortar);
+    ASSERT_TRUE(r.fallo);
+    try {
+        std::rethrow_exception(r.fallo);
+    } catch (const common::Fallo& f) {
+        EXPECT_TRUE(f.descripcion().starts_with(store::kConexionPerdida)) << f.descripcion();
+    }
+    // Lo de la tanda sin confirmar no quedó: ni filas sueltas ni personas a medias.
+    for (const char* n : {"P1", "P2", "P3", "P4"}) EXPECT_EQ(filasDe(n), 0) << n;
 }
 
 }  // namespace
