@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QTest>
 
+#include "ventana/apoyo_registradas.h"
 #include "apoyo/carpeta_temporal.h"
 #include "apoyo/dialogo_guion.h"
 #include "frame/arranque.h"
@@ -73,26 +74,7 @@ TEST(CampoFecha, LaBarraTecleadaNoSeDuplicaYLaFechaDebeExistir) {
     EXPECT_FALSE(mes.esValida());
 }
 
-namespace {
-
-class CamposDeLasPantallas : public ::testing::Test {
-  protected:
-    void SetUp() override {
-        sesion.dialogo = &dialogo;
-        sesion.base = frame::crearBaseNueva(tmp.archivo("n.db"));
-        sesion.categoria = 1;
-        anterior = ventana::registroPantallas();
-        pantallas::registrarTodas();
-    }
-    // Las demás pruebas de esta carpeta cuentan con el registro del marco solo.
-    void TearDown() override { ventana::registroPantallas() = anterior; }
-    std::map<std::string, ventana::FabricaPantalla> anterior;
-    pruebas::CarpetaTemporal tmp;
-    pruebas::DialogoGuion dialogo;
-    frame::Sesion sesion;
-};
-
-}  // namespace
+class CamposDeLasPantallas : public pruebas::ConTodasLasPantallas {};
 
 // Cada número y cada fecha de cada pantalla registrada: "abc" y una fecha imposible no
 // pasan la revisión de antes de guardar, el aviso nombra el campo y el foco vuelve a él;

@@ -11,6 +11,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "ventana/apoyo_registradas.h"
 #include "apoyo/carpeta_temporal.h"
 #include "apoyo/dialogo_guion.h"
 #include "frame/arranque.h"
@@ -68,26 +69,7 @@ TEST(DialogoQt, ElTituloVaEnNegritaDentroYLoQueBorraRespondeNoConEnter) {
     EXPECT_TRUE(visto->texto.contains("Sueldo &lt; 0"));
 }
 
-namespace {
-
-class PantallasRegistradas : public ::testing::Test {
-  protected:
-    void SetUp() override {
-        sesion.dialogo = &dialogo;
-        sesion.base = frame::crearBaseNueva(tmp.archivo("n.db"));
-        sesion.categoria = 1;
-        anterior = ventana::registroPantallas();
-        pantallas::registrarTodas();
-    }
-    // Las demás pruebas de esta carpeta cuentan con el registro del marco solo.
-    void TearDown() override { ventana::registroPantallas() = anterior; }
-    std::map<std::string, ventana::FabricaPantalla> anterior;
-    pruebas::CarpetaTemporal tmp;
-    pruebas::DialogoGuion dialogo;
-    frame::Sesion sesion;
-};
-
-}  // namespace
+class PantallasRegistradas : public pruebas::ConTodasLasPantallas {};
 
 TEST_F(PantallasRegistradas, CadaUnaCabeEnElEscritorioYSeRecorreSiNoCabe) {
     // 1366x768 menos la barra de tareas (40) y el título de la ventana (30).

@@ -40,12 +40,11 @@ std::string dosCifras(int n) {
 // descuentos, cualquiera.
 const master::Concepto* conceptoDeLinea(const Maestros& maestros, long codigo, bool descuentos,
                                         const std::string& tiposueldo) {
-    for (const auto& c : maestros.conceptos.todos()) {
-        if (static_cast<long>(common::textoANumero(c.codigo)) != codigo) continue;
+    const auto mismos = maestros.conceptos.conCodigo(codigo);
+    for (const auto& c : mismos)
         if (descuentos ? c.tipo == "Des"
                        : c.tipo == "Hab" && (c.especificode == tiposueldo || c.especificode == "G"))
-            return maestros.conceptos.porCodigo(codigo);
-    }
+            return &mismos.front();
     return nullptr;
 }
 

@@ -52,11 +52,17 @@ Conceptos::Conceptos(std::vector<master::Concepto> todos) : todos_(std::move(tod
                      [](const auto& a, const auto& b) { return codigoDe(a) < codigoDe(b); });
 }
 
+std::span<const master::Concepto> Conceptos::conCodigo(long codigo) const {
+    const auto menor = [](const master::Concepto& c, long k) { return codigoDe(c) < k; };
+    const auto mayor = [](long k, const master::Concepto& c) { return k < codigoDe(c); };
+    const auto desde = std::lower_bound(todos_.begin(), todos_.end(), codigo, menor);
+    const auto hasta = std::upper_bound(desde, todos_.end(), codigo, mayor);
+    return {desde, hasta};
+}
+
 const master::Concepto* Conceptos::porCodigo(long codigo) const {
-    const auto it =
-        std::lower_bound(todos_.begin(), todos_.end(), codigo,
-                         [](const master::Concepto& c, long k) { return codigoDe(c) < k; });
-    return it != todos_.end() && codigoDe(*it) == codigo ? &*it : nullptr;
+    const auto mismos = conCodigo(codigo);
+    return mismos.empty() ? nullptr : &mismos.front();
 }
 
 const master::Concepto* Conceptos::porNombre(std::string_view concepto,

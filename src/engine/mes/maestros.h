@@ -6,6 +6,7 @@
 // al empezar: los cálculos no vuelven a la base.
 #include <map>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,6 +33,8 @@ class Conceptos {
     // El primero con ese código; el primero por código con ese nombre exacto
     // (y ese tipo, si se da).
     const master::Concepto* porCodigo(long codigo) const;
+    // Todos los de ese código, en el orden de la tabla.
+    std::span<const master::Concepto> conCodigo(long codigo) const;
     const master::Concepto* porNombre(std::string_view concepto, std::string_view tipo = {}) const;
 
   private:
