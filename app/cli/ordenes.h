@@ -8,6 +8,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "common/fechas.h"
 #include "frame/dialogo_consola.h"
 #include "store/conexion.h"
 
@@ -53,5 +54,11 @@ void registrarOrdenesVariables(CLI::App& app, Contexto& ctx);
 void registrarOrdenesDescuentos(CLI::App& app, Contexto& ctx);
 void registrarOrdenesLiquidacion(CLI::App& app, Contexto& ctx);
 void registrarOrdenesDemo(CLI::App& app, Contexto& ctx);
+void registrarOrdenesAguinaldo(CLI::App& app, Contexto& ctx);
+
+// Las filas del aguinaldo de una persona en el pago con sus cifras (liquidacion
+// --tabla aguinaldos).
+int mostrarAguinaldo(store::Conexion& base, const std::string& empresa, const std::string& nombre,
+                     const common::Mes& pago, bool explicar);
 
 }  // namespace nomira::cli

@@ -7,8 +7,8 @@
 #include "cli/ordenes.h"
 #include "common/numeros.h"
 #include "common/reloj.h"
-#include "engine/mes/descuentos.h"
 #include "engine/calculos/explicacion.h"
+#include "engine/mes/descuentos.h"
 #include "engine/mes/explicaciones.h"
 #include "engine/mes/haberes.h"
 #include "engine/mes/mes_en_pantalla.h"
@@ -24,6 +24,7 @@ struct OpcionesLiquidacion {
     bool explicar = false;
     long codigo = 0;
     bool haberes = false, descuentos = false;
+    std::string tabla = "habydesc";  // liquidacion: habydesc, aguinaldos o salvacacional
 };
 
 // El mes tecleado, o el anterior al de hoy.
@@ -79,9 +80,11 @@ int liquidacion(const Contexto& ctx, const OpcionesLiquidacion& o) {
     if (!mes) return 1;
     auto base = ctx.abrir();
     if (!empresaAceptada(*base, o.empresa)) return 1;
+    const auto& nombre = o.nombre.value();
+    if (o.tabla == "aguinaldos")
+        return mostrarAguinaldo(*base, o.empresa, nombre, *mes, o.explicar);
     auto dialogo = ctx.dialogo();
     engine::ContextoFormula c;
-    const auto& nombre = o.nombre.value();
     const auto mp = engine::leerMesDeLaPersona(*base, o.empresa, nombre, *mes, c, dialogo);
     if (!mp) return 1;
     // Los haberes primero, como las dos grillas.
@@ -168,6 +171,8 @@ void registrarOrdenesLiquidacion(CLI::App& app, Contexto& ctx) {
     li->add_option("--nombre", l.nombre, "Persona")->required();
     li->add_option("--mes", l.mes, "Mes, MM/aa; sin él, el mes anterior");
     li->add_flag("--explicar", l.explicar, "Muestra cómo se llegó a las cifras del desglose");
+    li->add_option("--tabla", l.tabla, "habydesc (el mes), aguinaldos o salvacacional")
+        ->check(CLI::IsMember({"habydesc", "aguinaldos", "salvacacional"}));
     li->callback([&ctx] { ctx.accion = [&ctx] { return liquidacion(ctx, l); }; });
 
     auto* bo = app.add_subcommand(

@@ -110,6 +110,10 @@ OpcionesFormula opcionesCalculoFormula2() {
     return {false, true, true, tokensForm45()};
 }
 
+OpcionesFormula opcionesForm43() {
+    return {true, false, true, tokensForm43(), true};
+}
+
 OpcionesFormula opcionesForm44() {
     return {true, false, true, tokensForm43()};
 }
@@ -172,7 +176,12 @@ void calcularFormula(ContextoFormula& ctx, const OpcionesFormula& op, common::Di
         // La variable se busca tal como se escribió; los propios, en mayúsculas.
         const double variable = variablesDe(ctx).valor(token);
         const std::string mayus = common::mayusculas(token);
-        if (mayus == "PSNIS" && conoce(op.tokens, Token::Psnis)) calcularPSNIS(ctx, bpc, dialogo);
+        if (mayus == "PSNIS" && conoce(op.tokens, Token::Psnis)) {
+            if (op.psnisAguinaldo)
+                ctx.psnis = ctx.tipoaporte == "04" ? 0 : 3;
+            else
+                calcularPSNIS(ctx, bpc, dialogo);
+        }
         if (mayus == "PFOCER" && conoce(op.tokens, Token::Pfocer)) {
             const auto* p = ctx.persona;
             ctx.pfocer = p ? common::Dinero::desdeDouble(common::textoANumero(p->otrotelefono))

@@ -63,10 +63,14 @@ struct OpcionesFormula {
     bool usaCantArchivo = true;  // textoCant vacío: cantarchivo si no es 0 (si no, siempre 1)
     bool leeBPC = true;          // la BPC para PSNIS se lee al empezar
     TokensFormula tokens;
+    // En el aguinaldo PSNIS es 3 para todos (0 con aportación "04"): el
+    // complemento por hijos y cónyuge lo paga el sueldo del mes.
+    bool psnisAguinaldo = false;
 };
 
 OpcionesFormula opcionesForm42();           // CalculoFormula y CalculoFormula3
 OpcionesFormula opcionesCalculoFormula2();  // sin paso de cantidad ni PFOCER
+OpcionesFormula opcionesForm43();           // PSNIS fijo
 OpcionesFormula opcionesForm44();           // cantidad vacía = 1
 OpcionesFormula opcionesForm76();           // sin BPC ni cantidad, cinco tokens
 

@@ -25,6 +25,10 @@ OpcionesAportes opcionesAportesForm42() {
     return {TablaLiquidacion::Habydesc, opcionesLiquidoForm42(), opcionesForm42()};
 }
 
+OpcionesAportes opcionesAportesForm43() {
+    return {TablaLiquidacion::Aguinaldos, opcionesLiquidoForm43(), opcionesForm43(), 0.5};
+}
+
 OpcionesAportes opcionesAportesForm45() {
     auto formula = opcionesForm42();
     formula.tokens = tokensForm45();
@@ -102,7 +106,7 @@ DescuentoGenerado generarDescuento(ContextoFormula& ctx, const ConceptoDescuento
         e.vinculofun = persona->vinculofun;
         e.cantbfc = common::textoANumero(persona->cantbfc);
         e.tafap = common::SocMedica::leer(persona->socmedica).tafap == "Si";
-        e.tope = topeAfap(maestrosDe(ctx), persona->socmedica);
+        e.tope = topeAfap(maestrosDe(ctx), persona->socmedica) * op.factorTope;
         e.excepcionLicencia =
             excepcionLicencia(persona->tiposueldo, libro.filas(TablaLiquidacion::Habydesc, mes));
     }
@@ -133,6 +137,7 @@ DescuentoGenerado generarDescuento(ContextoFormula& ctx, const ConceptoDescuento
     fila.cant = ctx.cant;
     fila.total = r.fila.total;
     fila.explicacion = r.fila.explicacion;
+    if (op.tabla == TablaLiquidacion::Aguinaldos) fila.mes = mes.texto().substr(0, 2);
     libro.escribir(op.tabla, mes, fila);
     r.escrita = true;
     return r;

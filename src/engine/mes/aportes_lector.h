@@ -18,8 +18,11 @@ struct OpcionesAportes {
     TablaLiquidacion tabla = TablaLiquidacion::Habydesc;  // donde se lee y escribe
     OpcionesLiquido liquido;
     OpcionesFormula formula;
+    // El tope del montepío es la mitad en el aguinaldo: se paga sobre medio año.
+    double factorTope = 1;
 };
 OpcionesAportes opcionesAportesForm42();
+OpcionesAportes opcionesAportesForm43();
 OpcionesAportes opcionesAportesForm45();
 
 // El concepto que se genera, como está en conceptos.

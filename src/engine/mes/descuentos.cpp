@@ -87,9 +87,8 @@ std::optional<FilaLiquidada> arrastreNegativo(const MesPersona& mp) {
     return escribir(mp, fila, exp);
 }
 
-// Paso 5: los permanentes de todos, menos el excluido por su aportación y
-// vínculo, y los que concpermxpers le da a la persona; por código y cada código
-// una vez.
+}  // namespace
+
 std::vector<long> codigosDescuento(const MesPersona& mp, double cantbfc) {
     const auto& m = mp.maestros();
     const auto excluido = conceptoExcluido(cantbfc, mp.tipoaporte, mp.vinculofun);
@@ -102,7 +101,23 @@ std::vector<long> codigosDescuento(const MesPersona& mp, double cantbfc) {
     return {codigos.begin(), codigos.end()};
 }
 
-}  // namespace
+FilaLiquidada descuentoDeConcepto(ContextoFormula& ctx, const master::Concepto& c,
+                                  const OpcionesAportes& opciones, common::Dialogo& dialogo) {
+    const auto codigo = static_cast<long>(common::textoANumero(c.codigo));
+    ConceptoDescuento d{codigo,    c.concepto,  c.formula, c.unidad, c.permanente,
+                        c.gravado, c.aguinaldo, c.lic,     c.ipd};
+    DescuentoGenerado g;
+    try {
+        g = generarDescuento(ctx, d, opciones, dialogo);
+    } catch (const common::Fallo& f) {
+        throw fallaEnConcepto(f, c);
+    }
+    auto fila = filaDeConcepto(c, "Des");
+    fila.concepto = g.fila.concepto;
+    fila.cant = ctx.cant;
+    fila.total = g.fila.total;
+    return {fila, g.fila.explicacion};
+}
 
 ImporteImpuesto calcularImpuesto(const MesPersona& mp, ContextoFormula& ctx,
                                  const std::string& concepto, common::Dialogo& dialogo) {
@@ -180,19 +195,7 @@ std::vector<FilaLiquidada> generarDescuentos(MesPersona& mp, ContextoFormula& ct
             hechas.push_back(std::move(hecha));
             continue;
         }
-        ConceptoDescuento d{codigo,     c->concepto,  c->formula, c->unidad, c->permanente,
-                            c->gravado, c->aguinaldo, c->lic,     c->ipd};
-        DescuentoGenerado g;
-        try {
-            g = generarDescuento(ctx, d, opciones, dialogo);
-        } catch (const common::Fallo& f) {
-            throw fallaEnConcepto(f, *c);
-        }
-        auto fila = filaDeConcepto(*c, "Des");
-        fila.concepto = g.fila.concepto;
-        fila.cant = ctx.cant;
-        fila.total = g.fila.total;
-        hechas.push_back({fila, g.fila.explicacion});
+        hechas.push_back(descuentoDeConcepto(ctx, *c, opciones, dialogo));
     }
     return hechas;
 }

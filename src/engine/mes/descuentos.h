@@ -11,6 +11,7 @@
 #include "common/fechas.h"
 #include "engine/calculos/irpf.h"
 #include "engine/calculos/irpf_dic.h"
+#include "engine/mes/aportes_lector.h"
 #include "engine/mes/empresa_mes.h"
 #include "engine/mes/mes_persona.h"
 #include "store/conexion.h"
@@ -31,6 +32,16 @@ inline constexpr const char* kActualizacionFinalizada = "Actualización finaliza
 ResultadoPersona descuentosDeUnaPersona(store::Conexion& base, const std::string& empresa,
                                         const std::string& nombre, const common::Mes& mes,
                                         common::Dialogo& dialogo);
+
+// Los descuentos permanentes de la persona: los de todos, menos el que excluye
+// su aportación y vínculo (conceptoExcluido), y los que concpermxpers le da;
+// por código y cada código una vez.
+std::vector<long> codigosDescuento(const MesPersona& mp, double cantbfc);
+
+// Un descuento que no es IRP ni IRPF: su fórmula y sus aportes, escrito en la
+// tabla de las opciones. Un fallo de la fórmula nombra el concepto.
+FilaLiquidada descuentoDeConcepto(ContextoFormula& ctx, const master::Concepto& c,
+                                  const OpcionesAportes& opciones, common::Dialogo& dialogo);
 
 // Los pasos de la generación sobre el mes ya leído, en memoria.
 std::vector<FilaLiquidada> generarDescuentos(MesPersona& mp, ContextoFormula& ctx,

@@ -9,6 +9,7 @@ namespace {
 
 // Las columnas que se escriben de cada tabla, después de empresa, nombre y fecha.
 std::vector<std::string> columnasDe(TablaLiquidacion t) {
+    if (t == TablaLiquidacion::Aguinaldos) return {"mes", "concepto", "total", "tipo", "aclab"};
     if (t == TablaLiquidacion::Salvacacional)
         return {"codigo", "concepto", "unidad", "cant", "total", "desdelic", "hastalic"};
     return {"codigo",    "concepto", "tipo",  "unidad", "permanente", "gravado",
@@ -17,6 +18,11 @@ std::vector<std::string> columnasDe(TablaLiquidacion t) {
 
 void agregarValores(TablaLiquidacion t, const FilaMes& f, std::vector<store::Valor>& v) {
     const std::int64_t codigo = f.codigo;
+    if (t == TablaLiquidacion::Aguinaldos) {
+        v.insert(v.end(),
+                 {f.mes, f.concepto, f.total.aDouble(), f.tipo, store::textoONulo(f.aclab)});
+        return;
+    }
     if (t == TablaLiquidacion::Salvacacional) {
         v.insert(v.end(), {codigo, f.concepto, f.unidad, f.cant, f.total.aDouble(),
                            store::textoONulo(f.desdelic), store::textoONulo(f.hastalic)});
@@ -101,6 +107,35 @@ void reescribirCodigos(store::Conexion& base, const LibroPersona& libro, TablaLi
                   });
 }
 
+// El mes de aguinaldos de la persona entero, con las explicaciones por la
+// posición de cada fila en el mes (ver LibroPersona).
+void reescribirAguinaldos(store::Conexion& base, const LibroPersona& libro,
+                          const common::Mes& mes) {
+    const std::vector<store::Valor> clave = {libro.empresa(), libro.nombre(),
+                                             mes.primerDia().iso()};
+    base.ejecuta("DELETE FROM aguinaldos WHERE empresa = ? AND nombre = ? AND fecha = ?", clave);
+    auto borrar = clave;
+    borrar.emplace_back(std::string("aguinaldos"));
+    base.ejecuta(
+        "DELETE FROM explicaciones WHERE empresa = ? AND nombre = ? AND fecha = ? AND tabla = ?",
+        borrar);
+    const auto& delMes = libro.filas(TablaLiquidacion::Aguinaldos, mes);
+    std::vector<const FilaMes*> filas, explicadas;
+    for (const auto& f : delMes) {
+        filas.push_back(&f);
+        if (!f.explicacion.empty()) explicadas.push_back(&f);
+    }
+    insertarFilas(base, "aguinaldos", columnasDe(TablaLiquidacion::Aguinaldos), clave, filas,
+                  [](const FilaMes& f, std::vector<store::Valor>& v) {
+                      agregarValores(TablaLiquidacion::Aguinaldos, f, v);
+                  });
+    insertarFilas(base, "explicaciones", {"tabla", "codigo", "texto"}, clave, explicadas,
+                  [&](const FilaMes& f, std::vector<store::Valor>& v) {
+                      const auto posicion = static_cast<std::int64_t>(&f - delMes.data());
+                      v.insert(v.end(), {std::string("aguinaldos"), posicion, f.explicacion});
+                  });
+}
+
 }  // namespace
 
 void bloquearMes(store::Conexion& base, const std::string& empresa, const std::string& nombre,
@@ -166,8 +201,12 @@ void escribirLibro(store::Conexion& base, LibroPersona& libro) {
     std::set<common::Mes> meses;
     for (const auto& [cambio, codigos] : libro.cambiados()) meses.insert(cambio.second);
     for (const auto& mes : meses) bloquearMes(base, libro.empresa(), libro.nombre(), mes);
-    for (const auto& [cambio, codigos] : libro.cambiados())
-        reescribirCodigos(base, libro, cambio.first, cambio.second, codigos);
+    for (const auto& [cambio, codigos] : libro.cambiados()) {
+        if (cambio.first == TablaLiquidacion::Aguinaldos)
+            reescribirAguinaldos(base, libro, cambio.second);
+        else
+            reescribirCodigos(base, libro, cambio.first, cambio.second, codigos);
+    }
     t.confirmar();
     libro.escritos();
 }

@@ -1,6 +1,8 @@
 #include "engine/mes/libro.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <tuple>
 
 #include "common/fallo.h"
 
@@ -20,6 +22,29 @@ void insertarPorCodigo(std::vector<FilaMes>& filas, FilaMes f) {
         std::upper_bound(filas.begin(), filas.end(), f.codigo,
                          [](long codigo, const FilaMes& x) { return codigo < x.codigo; });
     filas.insert(pos, std::move(f));
+}
+
+// Las de aguinaldos no tienen código: se ordenan por lo que las distingue (los
+// haberes por actividad y mes del semestre, los descuentos por su texto), así
+// la posición de cada una en el mes no depende del orden en que la base las
+// devuelva, y con esa posición se guarda su explicación.
+bool antesEnAguinaldos(const FilaMes& a, const FilaMes& b) {
+    const auto clave = [](const FilaMes& f) {
+        const int mes = std::atoi(f.mes.c_str());
+        return std::make_tuple(f.tipo != "Hab", f.aclab, mes == 12 ? 0 : mes, f.concepto);
+    };
+    return clave(a) < clave(b);
+}
+
+void insertarEnAguinaldos(std::vector<FilaMes>& filas, FilaMes f) {
+    filas.insert(std::upper_bound(filas.begin(), filas.end(), f, antesEnAguinaldos), std::move(f));
+}
+
+// La fila de aguinaldos que ocupa el lugar de `f`: el haber de esa actividad y
+// mes, o el descuento de ese texto.
+bool mismaFilaDeAguinaldo(const FilaMes& a, const FilaMes& f) {
+    if (a.tipo != f.tipo) return false;
+    return f.tipo == "Hab" ? a.mes == f.mes && a.aclab == f.aclab : a.concepto == f.concepto;
 }
 
 const std::vector<FilaMes>& ninguna() {
@@ -46,6 +71,8 @@ void LibroPersona::agregarLeida(TablaLiquidacion t, const common::Mes& mes, Fila
     auto& filas = filas_[{t, mes}];
     if (porCodigoEnLaTabla(t))
         insertarPorCodigo(filas, std::move(f));
+    else if (t == TablaLiquidacion::Aguinaldos)
+        insertarEnAguinaldos(filas, std::move(f));
     else
         filas.push_back(std::move(f));
 }
@@ -54,6 +81,11 @@ void LibroPersona::explicacionLeida(TablaLiquidacion t, const common::Mes& mes, 
                                     const std::string& texto) {
     const auto it = filas_.find({t, mes});
     if (it == filas_.end()) return;
+    if (t == TablaLiquidacion::Aguinaldos) {
+        if (codigo >= 0 && static_cast<std::size_t>(codigo) < it->second.size())
+            it->second[static_cast<std::size_t>(codigo)].explicacion = texto;
+        return;
+    }
     for (auto& f : it->second)
         if (f.codigo == codigo) f.explicacion = texto;
 }
@@ -101,8 +133,6 @@ bool LibroPersona::tiene(TablaLiquidacion t, const common::Mes& mes,
 
 std::vector<FilaMes>& LibroPersona::paraCambiar(TablaLiquidacion t, const common::Mes& mes,
                                                 long codigo) {
-    if (t == TablaLiquidacion::Aguinaldos)
-        throw common::Fallo(5, "Las filas de aguinaldos no se escriben en el mes");
     filas(t, mes);  // que se haya leído
     if (escribible_ != mes)
         throw common::Fallo(5, std::string("No se leyeron las explicaciones de ") + nombreTabla(t) +
@@ -112,6 +142,10 @@ std::vector<FilaMes>& LibroPersona::paraCambiar(TablaLiquidacion t, const common
 }
 
 void LibroPersona::escribir(TablaLiquidacion t, const common::Mes& mes, const FilaMes& f) {
+    if (t == TablaLiquidacion::Aguinaldos) {
+        escribirAguinaldo(mes, f);
+        return;
+    }
     auto& filas = paraCambiar(t, mes, f.codigo);
     bool habia = false;
     for (auto& x : filas) {
@@ -135,6 +169,22 @@ void LibroPersona::escribir(TablaLiquidacion t, const common::Mes& mes, const Fi
         insertarPorCodigo(filas, std::move(nueva));
     else
         filas.push_back(std::move(nueva));
+}
+
+void LibroPersona::escribirAguinaldo(const common::Mes& mes, const FilaMes& f) {
+    // El escritor reescribe el mes entero de aguinaldos: el código no importa.
+    auto& filas = paraCambiar(TablaLiquidacion::Aguinaldos, mes, 0);
+    auto nueva = f;
+    nueva.total = common::Dinero::desdeDouble(f.total.aDouble());
+    const auto it = std::find_if(filas.begin(), filas.end(),
+                                 [&](const FilaMes& a) { return mismaFilaDeAguinaldo(a, f); });
+    if (it == filas.end()) {
+        insertarEnAguinaldos(filas, std::move(nueva));
+        return;
+    }
+    it->concepto = nueva.concepto;
+    it->total = nueva.total;
+    if (!f.explicacion.empty()) it->explicacion = f.explicacion;
 }
 
 std::size_t LibroPersona::borrar(TablaLiquidacion t, const common::Mes& mes,

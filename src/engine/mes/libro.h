@@ -40,7 +40,8 @@ class LibroPersona {
     // Una fila leída, en el orden de la tabla; habydesc y egresos quedan por
     // código (en un mismo código, en el orden en que llegan).
     void agregarLeida(TablaLiquidacion t, const common::Mes& mes, FilaMes f);
-    // La explicación guardada de las filas del mes con ese código.
+    // La explicación guardada de las filas del mes con ese código (en
+    // aguinaldos, de la fila en esa posición del mes).
     void explicacionLeida(TablaLiquidacion t, const common::Mes& mes, long codigo,
                           const std::string& texto);
 
@@ -61,7 +62,9 @@ class LibroPersona {
     // --- Escritura, en memoria ---
     // Por código: si el mes ya tiene filas de ese código, cambian su concepto,
     // unidad, cant y total (y su explicación, si `f` trae una); si no, `f` entra
-    // en su lugar por código. En salvacacional reemplaza la fila entera.
+    // en su lugar por código. En salvacacional reemplaza la fila entera. En
+    // aguinaldos, que no tiene código, el haber se busca por actividad y mes
+    // (aclab y mes) y el descuento por su texto; cambian concepto y total.
     void escribir(TablaLiquidacion t, const common::Mes& mes, const FilaMes& f);
     // Borra las filas del mes que cumplen `quitar`; devuelve cuántas.
     std::size_t borrar(TablaLiquidacion t, const common::Mes& mes,
@@ -83,6 +86,7 @@ class LibroPersona {
     void escritos() { cambiados_.clear(); }
 
   private:
+    void escribirAguinaldo(const common::Mes& mes, const FilaMes& f);
     std::vector<FilaMes>& paraCambiar(TablaLiquidacion t, const common::Mes& mes, long codigo);
 
     std::string empresa_, nombre_;

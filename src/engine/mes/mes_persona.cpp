@@ -48,9 +48,10 @@ MesPersona mesDeLaPersona(std::shared_ptr<Lectura> lectura, PersonaDelMes& perso
 
 std::optional<MesPersona> leerMesDeLaPersona(store::Conexion& base, const std::string& empresa,
                                              const std::string& nombre, const common::Mes& mes,
-                                             ContextoFormula& ctx, common::Dialogo& dialogo) {
-    auto lectura =
-        std::make_shared<Lectura>(leerCorrida(base, empresa, mes, mesesDelRenglon(mes), nombre));
+                                             ContextoFormula& ctx, common::Dialogo& dialogo,
+                                             const std::optional<MesesALeer>& meses) {
+    auto lectura = std::make_shared<Lectura>(
+        leerCorrida(base, empresa, mes, meses ? *meses : mesesDelRenglon(mes), nombre));
     if (!lectura->maestros.empresa) {
         dialogo.avisar(common::TipoAviso::Advertencia, kSinEmpresa);
         return std::nullopt;

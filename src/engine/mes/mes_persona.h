@@ -53,11 +53,13 @@ MesPersona mesDeLaPersona(std::shared_ptr<Lectura> lectura, PersonaDelMes& perso
                           ContextoFormula& ctx);
 
 // BuscarVerif: lee la empresa y la persona con sus filas del mes y del año de
-// la licencia (mesesDelRenglon), y arma su mes. Sin empresa o sin persona avisa
-// con el mensaje de la pantalla y devuelve nada.
+// la licencia (mesesDelRenglon; otras liquidaciones dicen los suyos), y arma
+// su mes. Sin empresa o sin persona avisa con el mensaje de la pantalla y
+// devuelve nada.
 std::optional<MesPersona> leerMesDeLaPersona(store::Conexion& base, const std::string& empresa,
                                              const std::string& nombre, const common::Mes& mes,
-                                             ContextoFormula& ctx, common::Dialogo& dialogo);
+                                             ContextoFormula& ctx, common::Dialogo& dialogo,
+                                             const std::optional<MesesALeer>& meses = {});
 
 // Vuelve a calcular la base del mes sobre las filas (después de cambiarlas) y la
 // vuelca en ctx.
