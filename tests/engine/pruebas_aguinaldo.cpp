@@ -122,7 +122,7 @@ class Aguinaldo : public pruebas::EscenarioMes {
 NOMIRA_PARA_CADA_MOTOR(Aguinaldo);
 
 TEST_P(Aguinaldo, JunioDeQuienIngresoEnMarzoConSusDescuentos) {
-    persona("PEREZ, JUAN", {{"fechaing", "10/03/26"}, {"sueldo", "40000"}, {"tiposueldo", "S"}});
+    persona("PEREZ, JUAN", {{"fechaing", "2026-03-10"}, {"sueldo", "40000"}, {"tiposueldo", "S"}});
     sueldoDeMeses("PEREZ, JUAN", Mes{2026, 3}, Mes{2026, 5}, 40000);
     haber("PEREZ, JUAN", Mes{2026, 4}, 40, "VIATICOS", 1000, "No");             // no genera
     haber("PEREZ, JUAN", Mes{2026, 4}, 41, "HORAS EXTRA 2DA ACT", 5000, "Si");  // otra actividad
@@ -219,10 +219,10 @@ TEST_P(Aguinaldo, ElSalarioVacacionalEntraPorSuConceptoOPorElConvenio) {
 }
 
 TEST_P(Aguinaldo, LaEmpresaEnDiciembreConSusExcepciones) {
-    persona("AGOSTO, ANA", {{"fechaing", "05/08/26"}, {"sueldo", "30000"}});
+    persona("AGOSTO, ANA", {{"fechaing", "2026-08-05"}, {"sueldo", "30000"}});
     persona("FICTO, FEDE", {{"fechaing", "2010-01-01"}, {"cantbfc", "2"}});
-    persona("SALIO, SARA", {{"fechaing", "2010-01-01"}, {"fechaeg", "31/05/26"}});
-    persona("DICIEMBRE, DIEGO", {{"fechaing", "01/12/26"}, {"sueldo", "20000"}});
+    persona("SALIO, SARA", {{"fechaing", "2010-01-01"}, {"fechaeg", "2026-05-31"}});
+    persona("DICIEMBRE, DIEGO", {{"fechaing", "2026-12-01"}, {"sueldo", "20000"}});
     persona("EGRESO, ELSA", {{"fechaing", "2010-01-01"}, {"sueldo", "20000"}});
     sueldoDeMeses("AGOSTO, ANA", Mes{2026, 8}, Mes{2026, 11}, 30000);
     sueldoDeMeses("FICTO, FEDE", Mes{2026, 6}, Mes{2026, 11}, 13728);
