@@ -1,6 +1,7 @@
 #include "screens/registro.h"
 
 #include "frame/ventana/registro_pantallas.h"
+#include "screens/aguinaldo/registro_aguinaldo.h"
 #include "screens/catalogos/registro_catalogos.h"
 #include "screens/conceptos/registro_conceptos.h"
 #include "screens/empresas/registro_empresas.h"
@@ -14,6 +15,7 @@ namespace nomira::pantallas {
 // Una línea por carpeta de pantallas: cada una sabe qué formularios son suyos.
 void registrarTodas() {
     ventana::registrarPantallasDelMarco();
+    registrarPantallasAguinaldo();
     registrarPantallasCatalogos();
     registrarPantallasConceptos();
     registrarPantallasEmpresas();

@@ -10,6 +10,7 @@
 #include <iostream>
 
 #include "common/reloj.h"
+#include "engine/aguinaldo/aguinaldo.h"
 #include "engine/mes/liquidacion_empresa.h"
 #include "frame/arranque.h"
 #include "frame/carpeta.h"
@@ -46,8 +47,12 @@ int capturar(const std::string& carpeta, const std::string& base) {
         sesion.base = frame::crearBaseNueva(temporal.string());
         master::crearEstudioDemo(*sesion.base);
         const auto mes = *common::Mes::desdeTexto(common::CalculaMesAnterior(common::hoy()));
-        for (const auto& e : master::empresasDemo())
+        // Y el aguinaldo que cubre ese mes, para que su pantalla también tenga filas.
+        const common::Mes pago{mes.anio, mes.mes <= 6 ? 6 : 12};
+        for (const auto& e : master::empresasDemo()) {
             engine::liquidarMesDeEmpresa(*sesion.base, e, mes, dialogo);
+            engine::aguinaldoDeLaEmpresa(*sesion.base, e, pago, 1, dialogo);
+        }
     } else {
         sesion.base = frame::abrirBase(base);
     }

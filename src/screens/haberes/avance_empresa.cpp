@@ -2,8 +2,37 @@
 
 #include <QApplication>
 #include <QHBoxLayout>
+#include <vector>
 
 namespace nomira::pantallas {
+
+namespace {
+
+// Mientras corre toda la empresa sólo queda a mano el botón de detenerla: se
+// deshabilita todo lo que no lo contiene.
+class Bloqueo {
+  public:
+    Bloqueo(QWidget* raiz, QWidget* libre) { bloquear(raiz, libre); }
+    ~Bloqueo() {
+        for (auto* w : bloqueados_) w->setEnabled(true);
+    }
+
+  private:
+    void bloquear(QWidget* raiz, QWidget* libre) {
+        for (auto* w : raiz->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+            if (w == libre || !w->isEnabled() || w->isWindow()) continue;
+            if (w->isAncestorOf(libre)) {
+                bloquear(w, libre);
+                continue;
+            }
+            w->setEnabled(false);
+            bloqueados_.push_back(w);
+        }
+    }
+    std::vector<QWidget*> bloqueados_;
+};
+
+}  // namespace
 
 AvanceEmpresa::AvanceEmpresa(QWidget* padre)
     : QWidget(padre),
@@ -25,6 +54,19 @@ AvanceEmpresa::AvanceEmpresa(QWidget* padre)
     capa->addWidget(barra_, 1);
     capa->addWidget(persona_, 2);
     capa->addWidget(detener_);
+}
+
+engine::ResultadoEmpresa AvanceEmpresa::correr(
+    QWidget* pantalla, const std::function<engine::ResultadoEmpresa()>& corrida) {
+    engine::ResultadoEmpresa r;
+    {
+        Bloqueo bloqueo(pantalla, this);
+        empezar();
+        r = corrida();
+        terminar();
+    }
+    limpiar();
+    return r;
 }
 
 void AvanceEmpresa::empezar() {

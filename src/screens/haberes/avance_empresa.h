@@ -5,6 +5,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QWidget>
+#include <functional>
 
 #include "engine/mes/empresa_mes.h"
 
@@ -14,6 +15,11 @@ class AvanceEmpresa : public QWidget {
     Q_OBJECT
   public:
     explicit AvanceEmpresa(QWidget* padre = nullptr);
+    // Corre toda la empresa con la pantalla bloqueada salvo este avance (el
+    // botón Detener), y lo deja limpio al terminar. La corrida usa progreso()
+    // y cancelar().
+    engine::ResultadoEmpresa correr(QWidget* pantalla,
+                                    const std::function<engine::ResultadoEmpresa()>& corrida);
     // Prepara una corrida nueva: sin pedido de detenerse, el botón habilitado.
     void empezar();
     void terminar();

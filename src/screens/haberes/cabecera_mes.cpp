@@ -36,7 +36,8 @@ QPushButton* botonSuelto(const char* nombre, const QString& texto) {
 
 }  // namespace
 
-CabeceraMes::CabeceraMes(ventana::Pantalla& pantalla, MesAbierto& mes)
+CabeceraMes::CabeceraMes(ventana::Pantalla& pantalla, MesAbierto& mes, const char* rotuloMes,
+                         bool conReliquidacion)
     : pantalla_(pantalla), abierto_(mes), mesanterior_(common::CalculaMesAnterior(common::hoy())) {
     empresa_ = combo("empresa");
     nombre_ = combo("nombre");
@@ -47,9 +48,6 @@ CabeceraMes::CabeceraMes(ventana::Pantalla& pantalla, MesAbierto& mes)
     nrofun_->setMaximumWidth(nrofun_->fontMetrics().horizontalAdvance("000000") + 14);
     auto* ant = botonSuelto("Ant", "< &Ant");
     auto* prox = botonSuelto("Prox", "&Prox >");
-    auto* reliq = botonSuelto("Reliq", "Reliq por retro.");
-    reliq->setEnabled(false);  // su pantalla todavía no está
-    reliq->setToolTip("Todavía no disponible");
 
     connect(empresa_, &QComboBox::currentTextChanged, this, [this] {
         emit mesOlvidado();
@@ -75,9 +73,14 @@ CabeceraMes::CabeceraMes(ventana::Pantalla& pantalla, MesAbierto& mes)
     };
     capa->addWidget(rotulo("Empresa", empresa_), 0, 0);
     capa->addWidget(empresa_, 0, 1);
-    capa->addWidget(rotulo("FMesCargo", mes_), 0, 2, Qt::AlignRight);
+    capa->addWidget(rotulo(rotuloMes, mes_), 0, 2, Qt::AlignRight);
     capa->addWidget(mes_, 0, 3);
-    capa->addWidget(reliq, 0, 5);
+    if (conReliquidacion) {
+        auto* reliq = botonSuelto("Reliq", "Reliq por retro.");
+        reliq->setEnabled(false);  // su pantalla todavía no está
+        reliq->setToolTip("Todavía no disponible");
+        capa->addWidget(reliq, 0, 5);
+    }
     capa->addWidget(rotulo("Nombre del Personal", nombre_), 1, 0);
     capa->addWidget(nombre_, 1, 1);
     capa->addWidget(rotulo("Nro Fun.", nrofun_), 1, 2, Qt::AlignRight);
@@ -113,9 +116,9 @@ std::optional<common::Mes> CabeceraMes::mes() const {
     return common::Mes::desdeTexto(t.empty() ? mesanterior_ : t);
 }
 
-bool CabeceraMes::completa() {
+bool CabeceraMes::completa(const char* faltanCampos) {
     if (empresa().empty() || nombre().empty() || mesVacio()) {
-        pantalla_.advertir(engine::kFaltanCamposMes);
+        pantalla_.advertir(faltanCampos);
         return false;
     }
     if (!common::Mes::desdeTexto(deQt(mes_))) {

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "common/fechas.h"
+#include "engine/mes/descuentos.h"
 #include "frame/ventana/campo_fecha.h"
 #include "frame/ventana/pantalla.h"
 #include "screens/haberes/mes_abierto.h"
@@ -18,7 +19,10 @@ namespace nomira::pantallas {
 class CabeceraMes : public QWidget {
     Q_OBJECT
   public:
-    CabeceraMes(ventana::Pantalla& pantalla, MesAbierto& mes);
+    // El rótulo del mes es el de cada pantalla; la reliquidación por
+    // retroactividad se abre sólo desde la del mes.
+    CabeceraMes(ventana::Pantalla& pantalla, MesAbierto& mes, const char* rotuloMes = "FMesCargo",
+                bool conReliquidacion = true);
 
     std::string empresa() const;
     std::string nombre() const;
@@ -26,8 +30,9 @@ class CabeceraMes : public QWidget {
     std::optional<common::Mes> mes() const;
     bool mesVacio() const;
     const std::string& mesAnterior() const { return mesanterior_; }
-    // Empresa, persona y mes completos y bien escritos; si no, avisa.
-    bool completa();
+    // Empresa, persona y mes completos y bien escritos; si no, avisa (con el
+    // mensaje de la pantalla si faltan campos).
+    bool completa(const char* faltanCampos = engine::kFaltanCamposMes);
     // Abre de nuevo el mes de la persona en pantalla (después de escribir).
     bool releer();
     void cargarEmpresas();

@@ -5,40 +5,11 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <tuple>
-#include <vector>
 
 #include "engine/mes/descuentos.h"
 #include "engine/mes/haberes.h"
 
 namespace nomira::pantallas {
-
-namespace {
-
-// Mientras corre toda la empresa sólo queda a mano el botón de detenerla: se
-// deshabilita todo lo que no lo contiene.
-class Bloqueo {
-  public:
-    Bloqueo(QWidget* raiz, QWidget* libre) { bloquear(raiz, libre); }
-    ~Bloqueo() {
-        for (auto* w : bloqueados_) w->setEnabled(true);
-    }
-
-  private:
-    void bloquear(QWidget* raiz, QWidget* libre) {
-        for (auto* w : raiz->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-            if (w == libre || !w->isEnabled() || w->isWindow()) continue;
-            if (w->isAncestorOf(libre)) {
-                bloquear(w, libre);
-                continue;
-            }
-            w->setEnabled(false);
-            bloqueados_.push_back(w);
-        }
-    }
-    std::vector<QWidget*> bloqueados_;
-};
-
-}  // namespace
 
 PanelGeneraciones::PanelGeneraciones(ventana::Pantalla& pantalla, CabeceraMes& cabecera)
     : pantalla_(pantalla), cabecera_(cabecera) {
@@ -88,7 +59,8 @@ void PanelGeneraciones::DescPerm_Click() {
     pantalla_.intentar("DescPerm_Click", [this] {
         if (!cabecera_.completa()) return;
         const auto r = engine::descuentosDeUnaPersona(pantalla_.base(), cabecera_.empresa(),
-                                        cabecera_.nombre(), *cabecera_.mes(), pantalla_.dialogo());
+                                                      cabecera_.nombre(), *cabecera_.mes(),
+                                                      pantalla_.dialogo());
         emit mesCambiado();
         for (const auto& f : r.filas)
             if (f.irpfMes || f.irpfDiciembre) {
@@ -129,14 +101,8 @@ std::optional<engine::ResultadoEmpresa> PanelGeneraciones::correrEmpresa(
         pantalla_.advertir(engine::kSoloEmpresa);
         return std::nullopt;
     }
-    engine::ResultadoEmpresa r;
-    {
-        Bloqueo bloqueo(&pantalla_, avance_);
-        avance_->empezar();
-        r = correr(*common::Mes::desdeTexto(cabecera_.mesAnterior()));
-        avance_->terminar();
-    }
-    avance_->limpiar();
+    const auto mes = *common::Mes::desdeTexto(cabecera_.mesAnterior());
+    const auto r = avance_->correr(&pantalla_, [&] { return correr(mes); });
     emit empresaCorrida();
     // Lo de las personas anteriores quedó; el cuadro de error dice dónde se cortó.
     if (r.fallo) std::rethrow_exception(r.fallo);
@@ -159,8 +125,8 @@ void PanelGeneraciones::ActDesPermxEmpresa_Click() {
         // Al terminar sin detenerse el motor avisa "Actualización finalizada.".
         correrEmpresa([&](const common::Mes& m) {
             return engine::descuentosDeLaEmpresa(pantalla_.base(), cabecera_.empresa(), m,
-                                              pantalla_.dialogo(), avance_->progreso(),
-                                              avance_->cancelar());
+                                                 pantalla_.dialogo(), avance_->progreso(),
+                                                 avance_->cancelar());
         });
     });
 }

@@ -10,6 +10,7 @@
 #include "common/numeros.h"
 #include "frame/ventana/registro_pantallas.h"
 #include "frame/ventana/texto_qt.h"
+#include "screens/haberes/partes_liquidacion.h"
 
 namespace nomira::pantallas {
 
@@ -82,48 +83,27 @@ PantallaHaberes::PantallaHaberes(frame::Sesion& sesion, QWidget* padre)
 }
 
 QWidget* PantallaHaberes::armarGrillas() {
-    haberes_ = new ventana::Grilla;
-    haberes_->setObjectName("haberes");
-    descuentos_ = new ventana::Grilla;
-    descuentos_->setObjectName("descuentos");
-    auto* grillas = new QWidget;
-    auto* capa = new QHBoxLayout(grillas);
-    capa->setContentsMargins(0, 0, 0, 0);
-    for (auto [grilla, titulo] : {std::pair{haberes_, "Haberes"}, {descuentos_, "Descuentos"}}) {
-        auto* marco = new QGroupBox(titulo);
-        (new QVBoxLayout(marco))->addWidget(grilla);
-        capa->addWidget(marco, 1);
-        grilla->setFocusPolicy(Qt::ClickFocus);
+    const auto g = grillasLiquidacion("Haberes");
+    haberes_ = g.haberes;
+    descuentos_ = g.descuentos;
+    for (auto* grilla : {haberes_, descuentos_}) {
         // Elegir una fila la trae a la fila en mano.
-        connect(grilla, &QAbstractItemView::clicked, this, [this, grilla = grilla] {
+        connect(grilla, &QAbstractItemView::clicked, this, [this, grilla] {
             ultimaGrilla_ = grilla;
             renglon_->traer(grilla->elegida(0));
         });
     }
-    return grillas;
+    return g.contenedor;
 }
 
 QLayout* PantallaHaberes::armarCifras() {
-    auto* capa = new QHBoxLayout;
-    for (auto [nombre, rotulo] : {std::pair{"totalhab", "T.Haberes"},
-                                  {"totaldes", "Total Descuentos"},
-                                  {"liquidoneto", "Líquido Neto"},
-                                  {"liquidoacobrar", "Líquido a Cobrar"},
-                                  {"montoirpf", "M.Irpf"},
-                                  {"montodedu", "M.Dedu."}}) {
-        auto* c = new QLineEdit;
-        c->setObjectName(nombre);
-        c->setMaximumWidth(c->fontMetrics().horizontalAdvance(QString(12, '0')) + 14);
-        c->setReadOnly(true);
-        c->setFocusPolicy(Qt::NoFocus);
-        c->setAlignment(Qt::AlignRight);
-        cifras_[nombre] = c;
-        capa->addWidget(new QLabel(rotulo));
-        capa->addWidget(c);
-        capa->addSpacing(8);
-    }
-    capa->addStretch();
-    return capa;
+    return filaDeCifras({{"totalhab", "T.Haberes"},
+                         {"totaldes", "Total Descuentos"},
+                         {"liquidoneto", "Líquido Neto"},
+                         {"liquidoacobrar", "Líquido a Cobrar"},
+                         {"montoirpf", "M.Irpf"},
+                         {"montodedu", "M.Dedu."}},
+                        cifras_);
 }
 
 QWidget* PantallaHaberes::armarTeclas() {
@@ -147,11 +127,7 @@ QWidget* PantallaHaberes::armarTeclas() {
         {Qt::Key_F12, "F12 Validar", [] {}},
     }));
     // Los recibos, la copia y la validación llegan con sus pantallas.
-    for (const char* pendiente : {"Imp.", "Copiar", "Validar"}) {
-        auto* b = teclas->findChild<QPushButton*>(pendiente);
-        b->setEnabled(false);
-        b->setToolTip("Todavía no disponible");
-    }
+    teclasPendientes(teclas, {"Imp.", "Copiar", "Validar"});
     return teclas;
 }
 

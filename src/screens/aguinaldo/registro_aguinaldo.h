@@ -1,0 +1,8 @@
+#pragma once
+// Aguinaldos (Form43).
+
+namespace nomira::pantallas {
+
+void registrarPantallasAguinaldo();
+
+}  // namespace nomira::pantallas
