@@ -22,6 +22,7 @@ int main(int argc, char** argv) {
     cli::registrarOrdenesVariables(app, ctx);
     cli::registrarOrdenesDescuentos(app, ctx);
     cli::registrarOrdenesLiquidacion(app, ctx);
+    cli::registrarOrdenesVacacional(app, ctx);
     cli::registrarOrdenesDemo(app, ctx);
     cli::registrarOrdenesUsuario(app, ctx);
     cli::enCastellano(app);
