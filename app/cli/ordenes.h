@@ -53,6 +53,7 @@ void registrarOrdenesDatos(CLI::App& app, Contexto& ctx);
 void registrarOrdenesVariables(CLI::App& app, Contexto& ctx);
 void registrarOrdenesDescuentos(CLI::App& app, Contexto& ctx);
 void registrarOrdenesLiquidacion(CLI::App& app, Contexto& ctx);
+void registrarOrdenesVacacional(CLI::App& app, Contexto& ctx);
 void registrarOrdenesDemo(CLI::App& app, Contexto& ctx);
 void registrarOrdenesAguinaldo(CLI::App& app, Contexto& ctx);
 

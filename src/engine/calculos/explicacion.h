@@ -7,6 +7,7 @@
 #include "common/dinero.h"
 #include "common/formato.h"
 #include "common/numeros.h"
+#include "engine/formulas/formula.h"
 
 namespace nomira::engine {
 inline namespace calculos {
@@ -19,6 +20,13 @@ inline std::string pesos(double x) {
 }
 inline std::string numero(double x) {
     return common::numeroATexto(x);
+}
+
+// Una fila que sale sólo de su fórmula: la fórmula, lo que se evaluó, la
+// cantidad y el importe.
+inline std::string explicarFormula(const ContextoFormula& ctx) {
+    return "Fórmula " + ctx.formula + " = " + ctx.formulaSustituida + " con cantidad " +
+           numero(ctx.cant) + ": " + pesos(ctx.total) + ".";
 }
 
 }  // namespace calculos

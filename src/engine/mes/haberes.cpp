@@ -38,11 +38,6 @@ std::vector<double> cantidadesDe(const MesPersona& mp, const std::string& concep
     return cants;
 }
 
-std::string explicarFormula(const ContextoFormula& ctx) {
-    return "Fórmula " + ctx.formula + " = " + ctx.formulaSustituida + " con cantidad " +
-           numero(ctx.cant) + ": " + pesos(ctx.total) + ".";
-}
-
 // La fila de DIASNOTRABAJADOS de un ingreso a mitad de mes.
 void escribirDiasNoTrabajados(const MesPersona& mp, double sueldo, int dias, ResultadoPersona& r) {
     const auto* c = mp.maestros().conceptos.porNombre("DIASNOTRABAJADOS");

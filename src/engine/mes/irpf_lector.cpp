@@ -127,6 +127,8 @@ Dinero CalculomontodeduccionesIRPF(ContextoFormula& ctx, const OpcionesIRPF& op,
     if (persona)
         total = deduccionesDelMes(deduccionesDe(maestrosDe(ctx), *persona, ctx.periodo, &dialogo),
                                   variablesDe(ctx).valor("BPC"), op.factorSlot08);
+    // Sin aportes en las deducciones (Form44), tampoco se muestran aquí.
+    if (!op.conAportes) return total;
     total += sumaAportes(libro.filas(TablaLiquidacion::Habydesc, ctx.periodo));
     if (ctx.periodo.mes != 6)
         total += sumaAportes(libro.filas(TablaLiquidacion::Aguinaldos, ctx.periodo));

@@ -22,7 +22,8 @@ ResultadoIRPF CalculoIRPF(ContextoFormula& ctx, common::Dinero montoirpf,
 ResultadoIRPFDic CalculoIRPFDic(ContextoFormula& ctx, bool conEgresos, common::Dialogo& dialogo);
 
 // Las deducciones del mes más los aportes del mes (y los de aguinaldos salvo
-// en junio), como las muestra "M.Dedu.".
+// en junio), como las muestra "M.Dedu."; sin aportes si las opciones no los
+// deducen.
 common::Dinero CalculomontodeduccionesIRPF(ContextoFormula& ctx, const OpcionesIRPF& opciones,
                                            common::Dialogo& dialogo);
 

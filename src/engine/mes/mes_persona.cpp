@@ -2,6 +2,7 @@
 
 #include "common/numeros.h"
 #include "common/texto.h"
+#include "engine/mes/escritura.h"
 
 namespace nomira::engine {
 inline namespace mes {
@@ -62,6 +63,15 @@ std::optional<MesPersona> leerMesDeLaPersona(store::Conexion& base, const std::s
         return std::nullopt;
     }
     return mesDeLaPersona(std::move(lectura), *p, ctx);
+}
+
+bool releerBajoClave(store::Conexion& base, MesPersona& mp, ContextoFormula& ctx,
+                     common::Dialogo& dialogo) {
+    bloquearMes(base, mp.empresa, mp.nombre, mp.mes);
+    auto nuevo = leerMesDeLaPersona(base, mp.empresa, mp.nombre, mp.mes, ctx, dialogo);
+    if (!nuevo) return false;
+    mp = std::move(*nuevo);
+    return true;
 }
 
 void refrescarDesglose(MesPersona& mp, ContextoFormula& ctx) {

@@ -61,6 +61,13 @@ std::optional<MesPersona> leerMesDeLaPersona(store::Conexion& base, const std::s
                                              ContextoFormula& ctx, common::Dialogo& dialogo,
                                              const std::optional<MesesALeer>& meses = {});
 
+// Lo que se guarda o borra se calcula sobre las filas como están ahora en la
+// base: toma la clave de la persona (dentro de la transacción de quien llama) y
+// vuelve a leer su mes en mp y ctx, porque otro puesto pudo escribirlo desde que
+// la pantalla lo leyó. false si la empresa o la persona ya no están (avisado).
+bool releerBajoClave(store::Conexion& base, MesPersona& mp, ContextoFormula& ctx,
+                     common::Dialogo& dialogo);
+
 // Vuelve a calcular la base del mes sobre las filas (después de cambiarlas) y la
 // vuelca en ctx.
 void refrescarDesglose(MesPersona& mp, ContextoFormula& ctx);

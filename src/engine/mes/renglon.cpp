@@ -140,17 +140,6 @@ CalculoRenglon calcularConFormula(MesPersona& mp, ContextoFormula& ctx, CalculoR
     return r;
 }
 
-// Lo que se guarda o borra se calcula sobre las filas como están ahora en la
-// base, bajo la clave de la persona: otra generación pudo escribirlas desde que
-// la pantalla las leyó.
-bool releer(store::Conexion& base, MesPersona& mp, ContextoFormula& ctx, common::Dialogo& dialogo) {
-    bloquearMes(base, mp.empresa, mp.nombre, mp.mes);
-    auto nuevo = leerMesDeLaPersona(base, mp.empresa, mp.nombre, mp.mes, ctx, dialogo);
-    if (!nuevo) return false;
-    mp = std::move(*nuevo);
-    return true;
-}
-
 }  // namespace
 
 std::string mensajeHayDescuentos(const std::string& accion) {
@@ -224,7 +213,7 @@ std::optional<std::string> guardarRenglon(store::Conexion& base, MesPersona& mp,
     };
     if (textoTotal.empty()) return rechazar(kFaltaTotal);
     store::Transaccion t(base);
-    if (!releer(base, mp, ctx, dialogo)) return std::string();
+    if (!releerBajoClave(base, mp, ctx, dialogo)) return std::string();
     auto& libro = mp.libro();
     const auto& c = calculo.concepto;
     const long codigo = codigoDe(c);
@@ -291,7 +280,7 @@ std::optional<std::string> eliminarRenglon(store::Conexion& base, MesPersona& mp
     }
     if (!dialogo.confirmar("Eliminar Concepto", "¿Desea continuar?")) return "";
     store::Transaccion t(base);
-    if (!releer(base, mp, ctx, dialogo)) return std::string();
+    if (!releerBajoClave(base, mp, ctx, dialogo)) return std::string();
     auto& libro = mp.libro();
     const auto nombre = common::mayusculas(c.concepto);
     const long codigo = codigoDe(c);
