@@ -75,10 +75,10 @@ CabeceraMes::CabeceraMes(ventana::Pantalla& pantalla, MesAbierto& mes)
     };
     capa->addWidget(rotulo("Empresa", empresa_), 0, 0);
     capa->addWidget(empresa_, 0, 1);
-    capa->addWidget(rotulo("FMesCargo", mes_), 0, 2, Qt::AlignRight);
+    capa->addWidget(rotulo("&FMesCargo", mes_), 0, 2, Qt::AlignRight);
     capa->addWidget(mes_, 0, 3);
     capa->addWidget(reliq, 0, 5);
-    capa->addWidget(rotulo("Nombre del Personal", nombre_), 1, 0);
+    capa->addWidget(rotulo("&Nombre del Personal", nombre_), 1, 0);
     capa->addWidget(nombre_, 1, 1);
     capa->addWidget(rotulo("Nro Fun.", nrofun_), 1, 2, Qt::AlignRight);
     capa->addWidget(nrofun_, 1, 3);
