@@ -61,5 +61,9 @@ void registrarOrdenesAguinaldo(CLI::App& app, Contexto& ctx);
 // --tabla aguinaldos).
 int mostrarAguinaldo(store::Conexion& base, const std::string& empresa, const std::string& nombre,
                      const common::Mes& pago, bool explicar);
+// Las filas del salario vacacional de una persona en el mes con su desglose
+// (liquidacion --tabla salvacacional y vacacional sin --codigo).
+int mostrarVacacional(store::Conexion& base, common::Dialogo& dialogo, const std::string& empresa,
+                      const std::string& nombre, const common::Mes& mes, bool explicar);
 
 }  // namespace nomira::cli

@@ -99,13 +99,8 @@ int vacacional(const Contexto& ctx, const OpcionesVacacional& o) {
     engine::ContextoFormula c;
     const char* procedimiento = o.borrar ? "Eliminar_Click" : "Buscar_Click";
     try {
-        if (!o.codigo) {
-            auto mp = engine::leerMesDeLaPersona(*base, o.empresa, o.nombre, *mes, c, dialogo);
-            if (!mp) return 1;
-            mostrarFilas(*mp, o.explicar);
-            mostrarDesglose(engine::desgloseVacacional(*mp, c, dialogo));
-            return 0;
-        }
+        if (!o.codigo)
+            return mostrarVacacional(*base, dialogo, o.empresa, o.nombre, *mes, o.explicar);
         auto r = engine::buscarVacacional(*base, {o.empresa, o.nombre, mes, *o.codigo}, c, dialogo);
         if (!r.buscado) return 1;
         procedimiento = o.borrar ? "Eliminar_Click" : "Text5_KeyPress";
@@ -121,6 +116,16 @@ int vacacional(const Contexto& ctx, const OpcionesVacacional& o) {
 }
 
 }  // namespace
+
+int mostrarVacacional(store::Conexion& base, common::Dialogo& dialogo, const std::string& empresa,
+                      const std::string& nombre, const common::Mes& mes, bool explicar) {
+    engine::ContextoFormula c;
+    auto mp = engine::leerMesDeLaPersona(base, empresa, nombre, mes, c, dialogo);
+    if (!mp) return 1;
+    mostrarFilas(*mp, explicar);
+    mostrarDesglose(engine::desgloseVacacional(*mp, c, dialogo));
+    return 0;
+}
 
 void registrarOrdenesVacacional(CLI::App& app, Contexto& ctx) {
     static OpcionesVacacional v;

@@ -6,7 +6,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
@@ -115,6 +117,37 @@ class PantallaHaberes : public pruebas::PantallaAbierta {
 
     const common::Mes febrero{2026, 2};
 };
+
+// Las teclas Alt de la pantalla llegan a su botón o a su campo aunque el foco esté
+// en una línea de texto (que aceptaría la letra), y ninguna letra se repite: una
+// letra repetida sólo pasa el foco de uno a otro sin pulsar ninguno.
+TEST_F(PantallaHaberes, LasTeclasAltPulsanSuBotonDesdeLosCampos) {
+    persona("PEREZ, JUAN", "1", "30000", "2020-01-01");
+    abrirMes("0226", "PEREZ, JUAN");
+    EXPECT_TRUE(dialogo.mensajes.empty()) << dialogo.ultimoMensaje();
+    ASSERT_TRUE(w("codigo")->hasFocus());
+    QTest::keyClick(w("codigo"), Qt::Key_H, Qt::AltModifier);
+    QTest::qWait(250);  // la tecla de un botón lo pulsa y lo suelta 100 ms después
+    EXPECT_EQ(columna("haberes", 1), (std::vector<std::string>{"SUELDO", "ANTIGUEDAD"}));
+    EXPECT_TRUE(texto("codigo").isEmpty());
+    // Alt+N vuelve a la persona (para dejarla vacía y correr toda la empresa).
+    QTest::keyClick(w("codigo"), Qt::Key_N, Qt::AltModifier);
+    EXPECT_TRUE(w<QComboBox>("nombre")->hasFocus());
+
+    std::map<QChar, QString> letras;
+    auto anotar = [&](const QString& texto) {
+        const auto i = texto.indexOf('&');
+        if (i < 0 || i + 1 >= texto.size()) return;
+        const QChar letra = texto.at(i + 1).toUpper();
+        EXPECT_FALSE(letras.count(letra))
+            << letras[letra].toStdString() << " y " << texto.toStdString();
+        letras[letra] = texto;
+    };
+    for (auto* b : pantalla->findChildren<QAbstractButton*>()) anotar(b->text());
+    for (auto* l : pantalla->findChildren<QLabel*>())
+        if (l->buddy()) anotar(l->text());
+    EXPECT_GE(letras.size(), 8u);
+}
 
 TEST_F(PantallaHaberes, UnMesEnteroDesdeElTeclado) {
     persona("PEREZ, JUAN", "1", "30000", "2020-01-01");

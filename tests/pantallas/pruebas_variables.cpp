@@ -7,19 +7,21 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTableView>
 #include <QTest>
+#include <functional>
 
-#include "pantallas/apoyo_pantallas.h"
 #include "master/franjas.h"
 #include "master/sueldos_minimos.h"
 #include "master/variables.h"
+#include "pantallas/apoyo_pantallas.h"
 
 using namespace nomira;
 
 namespace {
 
 class PantallasVariables : public pruebas::PantallaAbierta {
-protected:
+  protected:
     template <class T = QLineEdit>
     T* campo(const char* nombre) {
         auto* c = pantalla->findChild<T*>(nombre);
@@ -32,6 +34,21 @@ protected:
         QTest::keyClick(c, Qt::Key_Return);
     }
     void tecla(Qt::Key k) { QTest::keyClick(QApplication::focusWidget(), k); }
+    // Grupo, subgrupo y sector de comercio con sus categorías.
+    void catalogoDeTiendas(std::initializer_list<const char*> categorias) {
+        auto& b = *sesion.base;
+        b.ejecuta("INSERT INTO grupoconsal (nombre) VALUES ('10-Comercio')");
+        b.ejecuta(
+            "INSERT INTO subgrupoconsal (nombre, nombre2) VALUES ('10-Comercio', '01-General')");
+        b.ejecuta(
+            "INSERT INTO sectores (nombre, nombre2, nombre3) VALUES "
+            "('10-Comercio', '01-General', '1-Tiendas')");
+        for (const char* c : categorias)
+            b.ejecuta(
+                "INSERT INTO categorias (nombre, nombre2, nombre3, nombre4) VALUES "
+                "('10-Comercio', '01-General', '1-Tiendas', ?)",
+                {std::string(c)});
+    }
     int grillaFilas() {
         return pantalla->findChild<QAbstractItemView*>("grilla")->model()->rowCount();
     }
@@ -130,12 +147,7 @@ TEST_F(PantallasVariables, FranjasAgregaBuscaYElimina) {
 
 TEST_F(PantallasVariables, SueldosMinimosEncadenaLosCombosYAgrega) {
     auto& b = *sesion.base;
-    b.ejecuta("INSERT INTO grupoconsal (nombre) VALUES ('10-Comercio')");
-    b.ejecuta("INSERT INTO subgrupoconsal (nombre, nombre2) VALUES ('10-Comercio', '01-General')");
-    b.ejecuta("INSERT INTO sectores (nombre, nombre2, nombre3) VALUES "
-              "('10-Comercio', '01-General', '1-Tiendas')");
-    b.ejecuta("INSERT INTO categorias (nombre, nombre2, nombre3, nombre4) VALUES "
-              "('10-Comercio', '01-General', '1-Tiendas', '02-Vendedor')");
+    catalogoDeTiendas({"02-Vendedor"});
     abrir("Form407");
     auto* grupo = campo<QComboBox>("grupo");
     escribir(grupo, "");
@@ -179,6 +191,103 @@ TEST_F(PantallasVariables, SueldosMinimosEncadenaLosCombosYAgrega) {
     EXPECT_DOUBLE_EQ(master::ultimoSueldoMinimo(b, m->categoria)->sueldo, 25000);
     aumentos->findChild<QPushButton*>("AumentarSueldosEmpresa")->click();
     EXPECT_EQ(dialogo.ultimoMensaje(), "Debe completar los campos Porcentaje, Empresa y FSueVig.");
+}
+
+// Un clic en la segunda fila lleva sus claves a los campos (y deja de valer lo
+// hallado antes); Enter o doble clic la busca y trae su valor.
+TEST_F(PantallasVariables, ElClicEnUnaFilaLlenaLasClavesYAbrirlaLaBusca) {
+    using master::agregarSueldoMinimo;
+    struct Caso {
+        const char* formulario;
+        std::function<void()> preparar;  // los datos y, si hace falta, la lista
+        std::vector<std::pair<const char*, QString>> claves;
+        const char* valor;  // el campo que trae la búsqueda
+        QString esperado;
+    };
+    const master::CategoriaLaboral tiendas{"Comercio", "General", "Tiendas", ""};
+    auto categoria = [&](const char* c) {
+        auto r = tiendas;
+        r.categoria = c;
+        return r;
+    };
+    const std::vector<Caso> casos = {
+        {"Form400",
+         [&] {
+             master::agregarVariable(*sesion.base, "AAB", {2026, 6, 1}, 20);
+             master::agregarVariable(*sesion.base, "AAA", {2026, 1, 1}, 10);
+         },
+         {{"nombre", "AAB"}, {"fecha", "01/06/26"}},
+         "valor",
+         "20"},
+        {"Form401",
+         [&] {
+             sesion.base->ejecuta("DELETE FROM definiciondevariables WHERE nombre = 'BPC'");
+             master::agregarVariable(*sesion.base, "BPC", {2025, 1, 1}, 6576);
+             master::agregarVariable(*sesion.base, "BPC", {2026, 1, 1}, 6864);
+         },
+         {{"nombre", "BPC"}, {"fecha", "01/01/26"}},
+         "valor",
+         "6864"},
+        {"Form406",
+         [&] {
+             sesion.base->ejecuta("DELETE FROM franjasirp");
+             master::agregarFranja(*sesion.base, {11, 0, 7, 0});
+             master::agregarFranja(*sesion.base, {12, 7, 10, 10});
+         },
+         {{"franja", "12"}},
+         "max",
+         "10"},
+        {"Form407",
+         [&] {
+             catalogoDeTiendas({"01-Cajero", "02-Vendedor"});
+             agregarSueldoMinimo(*sesion.base,
+                                 {categoria("Vendedor"), {2026, 7, 1}, {2026, 12, 31}, 27000});
+             agregarSueldoMinimo(*sesion.base,
+                                 {categoria("Cajero"), {2026, 1, 1}, {2026, 6, 30}, 24000});
+             agregarSueldoMinimo(*sesion.base,
+                                 {categoria("Vendedor"), {2026, 1, 1}, {2026, 6, 30}, 25000});
+         },
+         // La categoría en la lista del combo, con su código.
+         {{"categoria", "02-Vendedor"}, {"fechaini", "01/01/26"}, {"fechafin", "30/06/26"}},
+         "sueldo",
+         "25000"},
+    };
+    for (const auto& caso : casos) {
+        SCOPED_TRACE(caso.formulario);
+        // Cada pantalla sobre una base nueva.
+        pantalla.reset();
+        sesion.base = frame::crearBaseNueva(tmp.archivo(std::string(caso.formulario) + ".db"));
+        caso.preparar();
+        abrir(caso.formulario);
+        if (std::string(caso.formulario) == "Form407") {
+            // La lista es la del sector: se elige tecleando hasta él.
+            for (const char* combo : {"grupo", "subgrupo", "sector"}) {
+                campo<QComboBox>(combo)->setCurrentIndex(1);
+                escribir(campo<QComboBox>(combo), "");
+            }
+        }
+        auto* grilla = campo<QTableView>("grilla");
+        ASSERT_GE(grilla->model()->rowCount(), 2);
+        // Lo hallado antes no debe quedar a la vista al elegir otra fila.
+        campo(caso.valor)->setText("999");
+        campo<QPushButton>("Eliminar")->setEnabled(true);
+
+        const auto celda = grilla->visualRect(grilla->model()->index(1, 1)).center();
+        QTest::mouseClick(grilla->viewport(), Qt::LeftButton, {}, celda);
+        for (const auto& [nombre, texto] : caso.claves) {
+            auto* combo = pantalla->findChild<QComboBox*>(nombre);
+            EXPECT_EQ(combo ? combo->currentText() : campo(nombre)->text(), texto) << nombre;
+        }
+        EXPECT_TRUE(campo(caso.valor)->text().isEmpty());
+        EXPECT_FALSE(campo<QPushButton>("Eliminar")->isEnabled());
+
+        QTest::keyClick(grilla, Qt::Key_Return);
+        EXPECT_EQ(campo(caso.valor)->text(), caso.esperado);
+        EXPECT_TRUE(campo<QPushButton>("Eliminar")->isEnabled());
+        campo(caso.valor)->clear();
+        QTest::mouseDClick(grilla->viewport(), Qt::LeftButton, {}, celda);
+        EXPECT_EQ(campo(caso.valor)->text(), caso.esperado);
+    }
 }
 
 }  // namespace

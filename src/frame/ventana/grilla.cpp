@@ -1,7 +1,11 @@
 #include "frame/ventana/grilla.h"
 
+#include <QComboBox>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLineEdit>
+
+#include "common/texto.h"
 
 namespace nomira::ventana {
 
@@ -43,6 +47,41 @@ void Grilla::mostrar(const std::vector<std::string>& encabezados,
         modelo_->appendRow(celdas);
     }
     resizeColumnsToContents();
+}
+
+void Grilla::llenarAlElegir(std::vector<std::pair<int, QWidget*>> campos) {
+    if (campos_.empty()) connect(this, &QAbstractItemView::clicked, this, &Grilla::llenarCampos);
+    campos_ = std::move(campos);
+}
+
+namespace {
+
+// En un combo de catálogo la grilla muestra el texto guardado ("Vendedor") y la
+// lista lo tiene con su código ("02-Vendedor"): se elige ese renglón.
+int renglonDe(const QComboBox* combo, const QString& texto) {
+    if (const int i = combo->findText(texto); i >= 0) return i;
+    const auto buscado = texto.toStdString();
+    for (int i = 0; i < combo->count(); ++i)
+        if (common::textoDeCatalogo(combo->itemText(i).toStdString()) == buscado) return i;
+    return -1;
+}
+
+}  // namespace
+
+void Grilla::llenarCampos() {
+    const auto indice = currentIndex();
+    if (!indice.isValid()) return;
+    for (const auto& [columna, campo] : campos_) {
+        const QString texto = modelo_->item(indice.row(), columna)->text();
+        if (auto* linea = qobject_cast<QLineEdit*>(campo)) {
+            linea->setText(texto);
+        } else if (auto* combo = qobject_cast<QComboBox*>(campo)) {
+            if (const int i = renglonDe(combo, texto); i >= 0)
+                combo->setCurrentIndex(i);
+            else
+                combo->setCurrentText(texto);
+        }
+    }
 }
 
 std::string Grilla::elegida(int columna) const {

@@ -1,11 +1,12 @@
 #pragma once
 // Grillas de las pantallas: encabezados y filas de texto, los importes alineados a
-// la derecha. En todas las listas un clic elige la fila y un doble clic o Enter la
-// abre (la señal abrir).
+// la derecha. En todas las listas un clic elige la fila y lleva sus claves a los
+// campos de la pantalla; un doble clic o Enter la abre (la señal abrir).
 #include <QStandardItemModel>
 #include <QTableView>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace nomira::ventana {
@@ -21,6 +22,9 @@ class Grilla : public QTableView {
     // Texto de la celda de la fila elegida, "" si no hay.
     std::string elegida(int columna) const;
     int filas() const { return modelo_->rowCount(); }
+    // Al elegir una fila (clic o Enter), la celda de cada columna va a su campo: una
+    // línea de texto o un combo. Lo conectado después a clicked ya los ve llenos.
+    void llenarAlElegir(std::vector<std::pair<int, QWidget*>> campos);
 
   signals:
     void abrir();
@@ -29,7 +33,10 @@ class Grilla : public QTableView {
     void keyPressEvent(QKeyEvent* e) override;
 
   private:
+    void llenarCampos();
+
     QStandardItemModel* modelo_;
+    std::vector<std::pair<int, QWidget*>> campos_;
 };
 
 }  // namespace nomira::ventana

@@ -69,6 +69,12 @@ void Pantalla::habilitarSegunHallado(bool hallado) {
     if (auto* b = boton("Eliminar")) b->setEnabled(hallado);
 }
 
+void Pantalla::olvidarHallado(std::initializer_list<QLineEdit*> mostrados) {
+    for (auto* c : mostrados) c->clear();
+    if (auto* b = boton("Agregar")) b->setEnabled(false);
+    if (auto* b = boton("Eliminar")) b->setEnabled(false);
+}
+
 void Pantalla::abrirHija(QWidget* hija, std::function<void()> alCerrar) {
     hija->setAttribute(Qt::WA_DeleteOnClose);
     hijas_.push_back(connect(hija, &QObject::destroyed, this, std::move(alCerrar)));

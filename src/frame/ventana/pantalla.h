@@ -5,10 +5,12 @@
 // que entra en el escritorio (lo que no entra se recorre con barras).
 #include <QHBoxLayout>
 #include <QKeySequence>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QWidget>
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <set>
 #include <string>
@@ -63,6 +65,9 @@ class Pantalla : public QWidget {
     QPushButton* boton(const QString& nombre) const;
     // Habilita sólo Agregar, o sólo Modificar y Eliminar, según se haya encontrado la fila.
     void habilitarSegunHallado(bool hallado);
+    // Lo que mostraba la última búsqueda ya no vale (otra clave, una fila elegida sin
+    // abrir): vacía esos campos y apaga Agregar y Eliminar hasta buscar de nuevo.
+    void olvidarHallado(std::initializer_list<QLineEdit*> mostrados);
     // Muestra una pantalla hija que se borra al cerrarla; `alCerrar` corre entonces,
     // salvo que la que se cierre sea esta (sus hijas mueren con ella).
     void abrirHija(QWidget* hija, std::function<void()> alCerrar);

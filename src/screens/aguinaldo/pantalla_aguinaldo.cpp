@@ -26,7 +26,7 @@ std::string pesos(common::Dinero d) {
 
 PantallaAguinaldo::PantallaAguinaldo(frame::Sesion& sesion, QWidget* padre)
     : Pantalla(sesion, "Form43", "Aguinaldos", padre), mes_(base(), dialogo()) {
-    cabecera_ = new CabeceraMes(*this, mes_, "F.MesAct.", false);
+    cabecera_ = new CabeceraMes(*this, mes_, "&F.MesAct.", false);
     auto* todo = new QVBoxLayout(lienzo());
     todo->addWidget(cabecera_);
     todo->addWidget(armarActividad());

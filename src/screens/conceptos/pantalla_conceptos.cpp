@@ -23,8 +23,7 @@ PantallaConceptos::PantallaConceptos(frame::Sesion& sesion, QWidget* padre)
     for (const auto& c : master::criteriosBusquedaConceptos()) criterio->addItem(c.etiqueta);
     grilla->setObjectName("grilla");
     // Un clic trae el código; doble clic o Enter abre su ficha para modificarla.
-    connect(grilla, &QAbstractItemView::clicked, this,
-            [this] { textoCodigo->setText(QString::fromStdString(grilla->elegida(0))); });
+    grilla->llenarAlElegir({{0, textoCodigo}});
     connect(grilla, &ventana::Grilla::abrir, this, [this] { abrirConcepto(1); });
 
     auto* campos = new QFormLayout;

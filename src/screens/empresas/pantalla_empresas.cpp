@@ -83,8 +83,7 @@ PantallaEmpresas::PantallaEmpresas(frame::Sesion& sesion, QWidget* padre)
         return false;
     });
     // Elegir una fila de la grilla elige la empresa.
-    connect(grilla_, &QAbstractItemView::clicked, this,
-            [this] { empresa_->setCurrentText(QString::fromStdString(grilla_->elegida(1))); });
+    grilla_->llenarAlElegir({{1, empresa_}});
     // Doble clic o Enter la abre.
     connect(grilla_, &ventana::Grilla::abrir, this, [this] { buscar(); });
 

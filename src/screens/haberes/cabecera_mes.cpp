@@ -81,7 +81,7 @@ CabeceraMes::CabeceraMes(ventana::Pantalla& pantalla, MesAbierto& mes, const cha
         reliq->setToolTip("Todavía no disponible");
         capa->addWidget(reliq, 0, 5);
     }
-    capa->addWidget(rotulo("Nombre del Personal", nombre_), 1, 0);
+    capa->addWidget(rotulo("&Nombre del Personal", nombre_), 1, 0);
     capa->addWidget(nombre_, 1, 1);
     capa->addWidget(rotulo("Nro Fun.", nrofun_), 1, 2, Qt::AlignRight);
     capa->addWidget(nrofun_, 1, 3);

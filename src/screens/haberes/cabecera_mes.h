@@ -21,7 +21,7 @@ class CabeceraMes : public QWidget {
   public:
     // El rótulo del mes es el de cada pantalla; la reliquidación por
     // retroactividad se abre sólo desde la del mes.
-    CabeceraMes(ventana::Pantalla& pantalla, MesAbierto& mes, const char* rotuloMes = "FMesCargo",
+    CabeceraMes(ventana::Pantalla& pantalla, MesAbierto& mes, const char* rotuloMes = "&FMesCargo",
                 bool conReliquidacion = true);
 
     std::string empresa() const;

@@ -66,8 +66,7 @@ PantallaObras::PantallaObras(frame::Sesion& sesion, QWidget* padre)
         cargarNroObra();
         consultar();
     });
-    connect(grilla_, &QAbstractItemView::clicked, this,
-            [this] { nroObra_->setCurrentText(QString::fromStdString(grilla_->elegida(0))); });
+    grilla_->llenarAlElegir({{0, nroObra_}});
     // Doble clic o Enter la abre.
     connect(grilla_, &ventana::Grilla::abrir, this, [this] { buscar(); });
 

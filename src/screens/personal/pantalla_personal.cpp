@@ -64,8 +64,7 @@ PantallaPersonal::PantallaPersonal(frame::Sesion& sesion, QWidget* padre)
     grilla_ = new ventana::Grilla;
     grilla_->setObjectName("grilla");
     // Un clic trae el nombre; doble clic o Enter abre la ficha.
-    connect(grilla_, &QAbstractItemView::clicked, this,
-            [this] { nombre_->setCurrentText(aQt(grilla_->elegida(1))); });
+    grilla_->llenarAlElegir({{1, nombre_}});
     connect(grilla_, &ventana::Grilla::abrir, this, [this] { buscar(); });
 
     auto* campos = new QGridLayout;

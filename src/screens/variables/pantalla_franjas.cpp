@@ -33,6 +33,12 @@ PantallaFranjas::PantallaFranjas(frame::Sesion& sesion, QWidget* padre)
         campos->addRow(etiqueta, campo);
     }
     grilla->setObjectName("grilla");
+    // Un clic trae el número de la franja; doble clic o Enter la busca.
+    grilla->llenarAlElegir({{1, franja}});
+    connect(grilla, &QAbstractItemView::clicked, this, [this] {
+        olvidarHallado({min, max, tasa});
+    });
+    connect(grilla, &ventana::Grilla::abrir, this, [this] { Buscar_Click(); });
     auto* todo = new QVBoxLayout(lienzo());
     todo->addLayout(campos);
     todo->addLayout(botonera({{Qt::Key_F1, "F1 Ayuda", [this] { ayuda(); }},
@@ -121,9 +127,7 @@ void PantallaFranjas::Imprimir_Click() {
 }
 
 void PantallaFranjas::limpiar() {
-    for (auto* c : {franja, min, max, tasa}) c->clear();
-    boton("Agregar")->setEnabled(false);
-    boton("Eliminar")->setEnabled(false);
+    olvidarHallado({franja, min, max, tasa});
     franja->setFocus();
 }
 

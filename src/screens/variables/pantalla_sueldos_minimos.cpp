@@ -63,6 +63,11 @@ PantallaSueldosMinimos::PantallaSueldosMinimos(frame::Sesion& sesion, QWidget* p
     }
     sueldo->setMaximumWidth(160);
     grilla->setObjectName("grilla");
+    // La lista es la del sector elegido: un clic trae la categoría y el período de
+    // la fila; doble clic o Enter busca su sueldo.
+    grilla->llenarAlElegir({{1, categoria}, {2, fechaini}, {3, fechafin}});
+    connect(grilla, &QAbstractItemView::clicked, this, [this] { olvidarHallado({sueldo}); });
+    connect(grilla, &ventana::Grilla::abrir, this, [this] { Buscar_Click(); });
     auto* todo = new QVBoxLayout(lienzo());
     todo->addLayout(campos);
     auto* botones = botonera({{Qt::Key_F1, "F1 Ayuda", [this] { ayuda(); }},
@@ -195,11 +200,7 @@ void PantallaSueldosMinimos::Porcaum_Click() {
 
 // Deja la categoría elegida y vacía el período y el sueldo.
 void PantallaSueldosMinimos::limpiar() {
-    for (auto* c : {static_cast<QLineEdit*>(fechaini), static_cast<QLineEdit*>(fechafin),
-                    static_cast<QLineEdit*>(sueldo)})
-        c->clear();
-    boton("Agregar")->setEnabled(false);
-    boton("Eliminar")->setEnabled(false);
+    olvidarHallado({fechaini, fechafin, sueldo});
     (completos() == 4 ? static_cast<QWidget*>(fechaini) : grupo)->setFocus();
 }
 

@@ -37,6 +37,10 @@ PantallaVariables::PantallaVariables(frame::Sesion& sesion, const InstanciaVaria
     fecha->setObjectName("fecha");
     valor->setObjectName("valor");
     grilla->setObjectName("grilla");
+    // Un clic trae el nombre y la fecha de la fila; doble clic o Enter la busca.
+    grilla->llenarAlElegir({{1, nombre}, {2, fecha}});
+    connect(grilla, &QAbstractItemView::clicked, this, [this] { olvidarHallado({valor}); });
+    connect(grilla, &ventana::Grilla::abrir, this, [this] { Buscar_Click(); });
     auto* campos = new QFormLayout;
     campos->addRow("Nombre", nombre);
     campos->addRow("Fecha", fecha);
@@ -161,9 +165,7 @@ void PantallaVariables::limpiar() {
         nombre->clear();
         fecha->clear();
     }
-    valor->clear();
-    boton("Agregar")->setEnabled(false);
-    boton("Eliminar")->setEnabled(false);
+    olvidarHallado({valor});
     (*instancia_.variable ? static_cast<QWidget*>(fecha) : nombre)->setFocus();
 }
 
