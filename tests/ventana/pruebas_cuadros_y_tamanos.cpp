@@ -92,6 +92,8 @@ TEST_F(PantallasRegistradas, CadaUnaCabeEnElEscritorioYSeRecorreSiNoCabe) {
         ASSERT_NE(area, nullptr) << formulario;
         EXPECT_EQ(area->widget()->objectName(), "lienzo") << formulario;
         EXPECT_FALSE(area->widget()->findChildren<QWidget*>().isEmpty()) << formulario;
+        // Se puede teclear enseguida: algún campo tiene el foco.
+        EXPECT_NE(pantalla->focusWidget(), nullptr) << formulario;
     }
 }
 

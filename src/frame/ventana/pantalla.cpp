@@ -145,6 +145,15 @@ void Pantalla::showEvent(QShowEvent* evento) {
         // F1 de toda pantalla, salvo que tenga la suya (un botón "F1 Ayuda").
         if (!teclas_.count(Qt::Key_F1)) tecla(QKeySequence(Qt::Key_F1), [this] { ayuda(); });
         ajustarAlEscritorio();
+        // Una pantalla que no eligió dónde empezar empieza en su primer campo:
+        // el liquidador teclea sin tener que buscar el foco.
+        if (!focusWidget())
+            for (auto* w = nextInFocusChain(); w && w != this; w = w->nextInFocusChain())
+                if (isAncestorOf(w) && (w->focusPolicy() & Qt::TabFocus) && w->isEnabled() &&
+                    w->isVisibleTo(this)) {
+                    w->setFocus();
+                    break;
+                }
     }
     QWidget::showEvent(evento);
 }
