@@ -12,25 +12,19 @@
 #include "apoyo/dialogo_guion.h"
 #include "comun.h"
 #include "engine/aguinaldo/aguinaldo.h"
-#include "master/datos_iniciales.h"
 #include "store/conexion.h"
-#include "store/crear.h"
 
 namespace {
 
 using namespace nomira;
-using banco::baseVacia;
 using banco::segundosDesde;
 using banco::vueltas;
 
 constexpr int kPersonas = 1000;
 
 std::unique_ptr<store::Conexion> empresaConHistoria(const std::filesystem::path& archivo) {
-    auto base = baseVacia(archivo);
-    store::crearBase(*base);
+    auto base = banco::baseConAcme(archivo, {2026, 6, 15});
     store::Transaccion t(*base);
-    master::cargarDatosIniciales(*base, NOMIRA_DATOS, {2026, 6, 15});
-    base->ejecuta("INSERT INTO empresas (empresa, nroemp) VALUES ('ACME', 1)");
     for (int p = 0; p < kPersonas; ++p) {
         const std::string nombre = "PERSONA " + std::to_string(p);
         const double sueldo = 20000 + p * 100;

@@ -7,7 +7,10 @@
 #include <memory>
 #include <string>
 
+#include "common/fechas.h"
+#include "master/datos_iniciales.h"
 #include "store/conexion.h"
+#include "store/crear.h"
 
 namespace nomira::banco {
 
@@ -24,6 +27,19 @@ inline std::unique_ptr<store::Conexion> baseVacia(const std::filesystem::path& a
     base->ejecuta("DROP SCHEMA IF EXISTS " + esquema + " CASCADE");
     base->ejecuta("CREATE SCHEMA " + esquema);
     base->ejecuta("SET search_path TO " + esquema);
+    return base;
+}
+
+// Una base vacía con su esquema, los datos con que nace (conceptos estándar,
+// BPC, franjas) a esa fecha y la empresa ACME, ya confirmados.
+inline std::unique_ptr<store::Conexion> baseConAcme(const std::filesystem::path& archivo,
+                                                    const common::Fecha& hoy) {
+    auto base = baseVacia(archivo);
+    store::crearBase(*base);
+    store::Transaccion t(*base);
+    master::cargarDatosIniciales(*base, NOMIRA_DATOS, hoy);
+    base->ejecuta("INSERT INTO empresas (empresa, nroemp) VALUES ('ACME', 1)");
+    t.confirmar();
     return base;
 }
 

@@ -16,14 +16,11 @@
 #include "comun.h"
 #include "engine/mes/descuentos.h"
 #include "engine/mes/haberes.h"
-#include "master/datos_iniciales.h"
 #include "store/conexion.h"
-#include "store/crear.h"
 
 namespace {
 
 using namespace nomira;
-using banco::baseVacia;
 using banco::segundosDesde;
 using banco::vueltas;
 
@@ -33,11 +30,8 @@ constexpr int kPrimas = 13;
 // Una base con los datos con que nace (conceptos estándar, BPC, franjas) y la
 // empresa generada.
 std::unique_ptr<store::Conexion> empresaGenerada(const std::filesystem::path& archivo) {
-    auto base = baseVacia(archivo);
-    store::crearBase(*base);
+    auto base = banco::baseConAcme(archivo, {2026, 3, 1});
     store::Transaccion t(*base);
-    master::cargarDatosIniciales(*base, NOMIRA_DATOS, {2026, 3, 1});
-    base->ejecuta("INSERT INTO empresas (empresa, nroemp) VALUES ('ACME', 1)");
     for (int i = 0; i < kPrimas; ++i)
         base->ejecuta(
             "INSERT INTO conceptos (codigo, concepto, especificode, formula, tipo, unidad, "
