@@ -118,6 +118,16 @@ class PantallaHaberes : public pruebas::PantallaAbierta {
     const common::Mes febrero{2026, 2};
 };
 
+// El nombre tecleado en minúsculas es la persona de la lista: se abre sin
+// avisar que no existe.
+TEST_F(PantallaHaberes, ElNombreEnOtrasMayusculasEligeLaPersona) {
+    persona("PEREZ, JUAN", "1", "30000", "2020-01-01");
+    abrirMes("0226", "Perez, juan");
+    EXPECT_TRUE(dialogo.mensajes.empty()) << dialogo.ultimoMensaje();
+    EXPECT_EQ(w<QComboBox>("nombre")->currentText(), "PEREZ, JUAN");
+    EXPECT_EQ(texto("nrofun"), "1");
+}
+
 // Las teclas Alt de la pantalla llegan a su botón o a su campo aunque el foco esté
 // en una línea de texto (que aceptaría la letra), y ninguna letra se repite: una
 // letra repetida sólo pasa el foco de uno a otro sin pulsar ninguno.

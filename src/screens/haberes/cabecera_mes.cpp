@@ -55,6 +55,10 @@ CabeceraMes::CabeceraMes(ventana::Pantalla& pantalla, MesAbierto& mes, const cha
     });
     connect(nombre_, &QComboBox::activated, this, [this] { elegirPersona(); });
     pantalla_.alPulsarEnter(nombre_, [this] {
+        // Un nombre tecleado en otras mayúsculas es la persona de la lista que el
+        // completador propone: se elige ésa, no se avisa que no existe.
+        if (const int i = nombre_->findText(nombre_->currentText(), Qt::MatchFixedString); i > 0)
+            nombre_->setCurrentIndex(i);
         elegirPersona();
         emit pasarALaFila();
         return false;
