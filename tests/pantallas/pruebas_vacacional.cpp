@@ -74,7 +74,7 @@ TEST_F(PantallaVacacional, SoloElSalarioVacacionalEntraComoHaberYLlegaALaGrillaC
                     "hastalic = '2026-02-20'"),
               1);
     EXPECT_EQ(columna("haberes", 1), (std::vector<std::string>{"SALARIO VACACIONAL"}));
-    EXPECT_EQ(columna("haberes", 5), (std::vector<std::string>{"01/02/26"}));
+    EXPECT_EQ(columna("haberes", 4), (std::vector<std::string>{"01/02/26"}));
     EXPECT_TRUE(columna("descuentos", 1).empty());
     EXPECT_EQ(texto("totalhab"), "20,000.00");
     EXPECT_EQ(texto("montoirpf"), "20,000.00");

@@ -44,7 +44,7 @@ void vacacionalDeMuestra(store::Conexion& base, const std::string& empresa, cons
     for (const auto& nombre : engine::nombresDelMes(base, empresa, mes)) {
         engine::ContextoFormula ctx;
         auto r = engine::buscarVacacional(base, {empresa, nombre, mes, "606"}, ctx, dialogo);
-        if (!r.buscado || r.buscado->persona.sueldo <= 0) continue;
+        if (!r.buscado || r.buscado->persona.tiposueldo != "S") continue;
         auto& b = *r.buscado;
         const auto calculo = engine::calcularVacacional(b, ctx, "20", dialogo);
         auto hasta = mes.primerDia().ddmmyy();

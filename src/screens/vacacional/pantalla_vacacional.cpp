@@ -25,12 +25,13 @@ std::string ddmmyy(const std::string& iso) {
     return f ? f->ddmmyy() : "";
 }
 
-// Los haberes llevan el período de la licencia; los descuentos no.
+// Los haberes llevan el período de la licencia; los descuentos no. La unidad
+// queda en la fila en mano.
 void desplegar(ventana::Grilla* grilla, const std::vector<engine::FilaMes>& filas, bool haberes) {
     std::vector<std::vector<std::string>> celdas;
     for (const auto& f : filas) {
         if (engine::esHaberVacacional(f.concepto) != haberes) continue;
-        std::vector<std::string> c{std::to_string(f.codigo), f.concepto, f.unidad,
+        std::vector<std::string> c{std::to_string(f.codigo), f.concepto,
                                    common::numeroATexto(f.cant), pesos(f.total)};
         if (haberes) {
             c.push_back(ddmmyy(f.desdelic));
@@ -38,9 +39,9 @@ void desplegar(ventana::Grilla* grilla, const std::vector<engine::FilaMes>& fila
         }
         celdas.push_back(std::move(c));
     }
-    std::vector<std::string> titulos{"Código", "Concepto", "Unid.", "Cant.", "Total"};
+    std::vector<std::string> titulos{"Código", "Concepto", "Cant.", "Total"};
     if (haberes) titulos.insert(titulos.end(), {"Desde", "Hasta"});
-    grilla->mostrar(titulos, celdas, {0, 3, 4});
+    grilla->mostrar(titulos, celdas, {0, 2, 3});
     grilla->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
 }
 
@@ -83,6 +84,11 @@ QWidget* PantallaVacacional::armarGrillas() {
     const auto g = grillasLiquidacion("Haberes");
     haberes_ = g.haberes;
     descuentos_ = g.descuentos;
+    // Los haberes tienen dos columnas más: el período.
+    if (auto* capa = qobject_cast<QBoxLayout*>(g.contenedor->layout())) {
+        capa->setStretch(0, 3);
+        capa->setStretch(1, 2);
+    }
     for (auto* grilla : {haberes_, descuentos_})
         connect(grilla, &QAbstractItemView::clicked, this,
                 [this, grilla] { renglon_->traer(grilla->elegida(0)); });
