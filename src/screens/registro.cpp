@@ -8,6 +8,7 @@
 #include "screens/haberes/registro_haberes.h"
 #include "screens/obras/registro_obras.h"
 #include "screens/personal/registro_personal.h"
+#include "screens/vacacional/registro_vacacional.h"
 #include "screens/variables/registro_variables.h"
 
 namespace nomira::pantallas {
@@ -22,6 +23,7 @@ void registrarTodas() {
     registrarPantallasHaberes();
     registrarPantallasObras();
     registrarPantallasPersonal();
+    registrarPantallasVacacional();
     registrarPantallasVariables();
 }
 

@@ -11,7 +11,6 @@
 #include <QTest>
 #include <QTimer>
 
-#include "ventana/apoyo_registradas.h"
 #include "apoyo/carpeta_temporal.h"
 #include "apoyo/dialogo_guion.h"
 #include "frame/arranque.h"
@@ -20,6 +19,7 @@
 #include "frame/ventana/registro_pantallas.h"
 #include "frame/ventana/ventana_ayuda.h"
 #include "screens/registro.h"
+#include "ventana/apoyo_registradas.h"
 
 using namespace nomira;
 
@@ -98,7 +98,8 @@ TEST_F(PantallasRegistradas, CadaUnaCabeEnElEscritorioYSeRecorreSiNoCabe) {
 }
 
 TEST_F(PantallasRegistradas, F1AbreLaPaginaDeLaPantalla) {
-    for (const char* formulario : {"Form42", "Form31", "Form21", "Form41", "Form14"}) {
+    for (const char* formulario :
+         {"Form42", "Form43", "Form44", "Form31", "Form21", "Form41", "Form14"}) {
         std::unique_ptr<QWidget> w(ventana::registroPantallas().at(formulario)(sesion, nullptr));
         w->show();
         QApplication::setActiveWindow(w.get());

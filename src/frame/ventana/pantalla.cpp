@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QShortcut>
 #include <QStyle>
@@ -47,7 +48,9 @@ QHBoxLayout* Pantalla::botonera(const std::vector<AccionTecla>& acciones) {
     auto* fila = new QHBoxLayout;
     for (const auto& a : acciones) {
         auto* b = new QPushButton(a.texto);
-        b->setObjectName(QString(a.texto).section(' ', 1));
+        // Tras la tecla va un blanco ("F5 Agregar") o un guión ("F5-Agregar").
+        const QString texto(a.texto);
+        b->setObjectName(texto.mid(texto.indexOf(QRegularExpression("[ -]")) + 1));
         b->setAutoDefault(false);
         connect(b, &QPushButton::clicked, this, a.hacer);
         fila->addWidget(b);

@@ -20,7 +20,7 @@
 
 namespace nomira::ventana {
 
-// Una tecla de función con su botón: "F5 Agregar" se llama "Agregar".
+// Una tecla de función con su botón: "F5 Agregar" (o "F5-Agregar") se llama "Agregar".
 struct AccionTecla {
     Qt::Key tecla;
     const char* texto;

@@ -9,9 +9,12 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "common/numeros.h"
 #include "common/reloj.h"
 #include "engine/aguinaldo/aguinaldo.h"
 #include "engine/mes/liquidacion_empresa.h"
+#include "engine/mes/mes_en_pantalla.h"
+#include "engine/vacacional/renglon_vacacional.h"
 #include "frame/arranque.h"
 #include "frame/carpeta.h"
 #include "frame/dialogo_consola.h"
@@ -30,6 +33,29 @@ std::string argumento(int argc, char** argv, const std::string& nombre) {
     for (int i = 1; i + 1 < argc; ++i)
         if (argv[i] == nombre) return argv[i + 1];
     return {};
+}
+
+// Una fila de salario vacacional, tecleada como en su pantalla, para la primera
+// persona mensual de la empresa: veinte días de licencia en el mes, con el total
+// que el liquidador escribe (el sueldo de veinte días) porque la fórmula de
+// demostración del concepto es 0.
+void vacacionalDeMuestra(store::Conexion& base, const std::string& empresa, const common::Mes& mes,
+                         common::Dialogo& dialogo) {
+    for (const auto& nombre : engine::nombresDelMes(base, empresa, mes)) {
+        engine::ContextoFormula ctx;
+        auto r = engine::buscarVacacional(base, {empresa, nombre, mes, "606"}, ctx, dialogo);
+        if (!r.buscado || r.buscado->persona.tiposueldo != "S") continue;
+        auto& b = *r.buscado;
+        const auto calculo = engine::calcularVacacional(b, ctx, "20", dialogo);
+        auto hasta = mes.primerDia().ddmmyy();
+        hasta.replace(0, 2, "20");
+        const engine::CasillasVacacional casillas{
+            common::numeroATexto(calculo.cant),
+            common::numeroATexto(b.persona.sueldo / 30 * calculo.cant), mes.primerDia().ddmmyy(),
+            hasta};
+        engine::guardarVacacional(base, b, ctx, casillas, dialogo);
+        return;
+    }
 }
 
 // Capturas: una base propia, usuario de categoría 1. Sin base indicada, una
@@ -53,6 +79,7 @@ int capturar(const std::string& carpeta, const std::string& base) {
             engine::liquidarMesDeEmpresa(*sesion.base, e, mes, dialogo);
             engine::aguinaldoDeLaEmpresa(*sesion.base, e, pago, 1, dialogo);
         }
+        vacacionalDeMuestra(*sesion.base, master::empresasDemo().front(), mes, dialogo);
     } else {
         sesion.base = frame::abrirBase(base);
     }

@@ -222,13 +222,17 @@ void CabeceraMes::mostrarObservaciones() {
         pantalla_.informar(*texto);
 }
 
-void CabeceraMes::elegirUnMesConFilas() {
-    pantalla_.intentar("Form_Load", [this] {
+void CabeceraMes::elegirUnMesConFilas(const TieneFilas& tieneFilas) {
+    const auto conFilas = [&](const std::string& e, const std::string& n, const common::Mes& m) {
+        return tieneFilas ? tieneFilas(e, n, m)
+                          : !engine::filasParaGrillas(pantalla_.base(), e, n, m).empty();
+    };
+    pantalla_.intentar("Form_Load", [&] {
         for (const auto& e : master::nombresDeEmpresas(pantalla_.base())) {
             auto m = common::Mes::desdeTexto(mesanterior_);
             for (int atras = 0; atras < 12 && m; ++atras, m = m->anterior())
                 for (const auto& n : engine::nombresDelMes(pantalla_.base(), e, *m)) {
-                    if (engine::filasParaGrillas(pantalla_.base(), e, n, *m).empty()) continue;
+                    if (!conFilas(e, n, *m)) continue;
                     empresa_->setCurrentText(aQt(e));
                     mes_->setText(aQt(m->texto()));
                     CargarNombredelPersonal();

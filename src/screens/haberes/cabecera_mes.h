@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QWidget>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -42,8 +43,11 @@ class CabeceraMes : public QWidget {
     QComboBox* campoNombre() const { return nombre_; }
     QLineEdit* campoNrofun() const { return nrofun_; }
 
-    // Para la captura: el mes más reciente del último año con filas de alguien.
-    void elegirUnMesConFilas();
+    // Para la captura: el mes más reciente del último año con filas de alguien
+    // (las del mes; otra pantalla dice cuáles son las suyas).
+    using TieneFilas = std::function<bool(const std::string& empresa, const std::string& nombre,
+                                          const common::Mes& mes)>;
+    void elegirUnMesConFilas(const TieneFilas& tieneFilas = {});
 
   signals:
     // El mes que se mostraba ya no vale (otra empresa, otro mes, otra persona).

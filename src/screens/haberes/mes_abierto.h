@@ -25,6 +25,8 @@ class MesAbierto {
     void cerrar() { mp_.reset(); }
     bool abierto() const { return mp_.has_value(); }
     const engine::MesPersona& mes() const { return *mp_; }
+    // Las variables y la persona como las dejó la última lectura.
+    engine::ContextoFormula& contexto() { return ctx_; }
 
     // Consultar_Click: las filas de las dos grillas y las cifras de abajo.
     struct Vista {

@@ -12,6 +12,7 @@
 #include "frame/ventana/grilla.h"
 #include "frame/ventana/pantalla.h"
 #include "screens/haberes/cabecera_mes.h"
+#include "screens/haberes/casillas_renglon.h"
 #include "screens/haberes/mes_abierto.h"
 
 namespace nomira::pantallas {
@@ -30,9 +31,9 @@ class RenglonEnMano : public QWidget {
     // La explicación de la fila en mano, o de la elegida en `grilla`.
     void comoSeCalculo(const ventana::Grilla* grilla);
 
-    QLineEdit* campoCodigo() const { return codigo_; }
-    QWidget* campoCant() const { return cant_; }
-    QWidget* campoTotal() const { return total_; }
+    QLineEdit* campoCodigo() const { return c_.codigo; }
+    QWidget* campoCant() const { return c_.cant; }
+    QWidget* campoTotal() const { return c_.total; }
 
   signals:
     // Agregar sólo para una fila nueva; Modificar y Eliminar para una guardada.
@@ -54,8 +55,7 @@ class RenglonEnMano : public QWidget {
     ventana::Pantalla& pantalla_;
     CabeceraMes& cabecera_;
     MesAbierto& abierto_;
-    QLineEdit *codigo_ = nullptr, *concepto_ = nullptr, *unidad_ = nullptr;
-    ventana::CampoNumero *cant_ = nullptr, *total_ = nullptr;
+    CasillasRenglon c_;
     std::optional<engine::RenglonBuscado> buscado_;
     std::optional<engine::CalculoRenglon> calculo_;
 };
