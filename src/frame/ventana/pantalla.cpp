@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "frame/ventana/impresion.h"
+#include "frame/ventana/registro_pantallas.h"
 #include "frame/ventana/revision_campos.h"
 #include "frame/ventana/ventana_ayuda.h"
 
@@ -76,6 +77,11 @@ void Pantalla::olvidarHallado(std::initializer_list<QLineEdit*> mostrados) {
     for (auto* c : mostrados) c->clear();
     if (auto* b = boton("Agregar")) b->setEnabled(false);
     if (auto* b = boton("Eliminar")) b->setEnabled(false);
+}
+
+void Pantalla::abrirRegistrada(const char* formulario) {
+    intentar("Form_KeyDown",
+             [&] { abrirHija(registroPantallas().at(formulario)(sesion_, this), [] {}); });
 }
 
 void Pantalla::abrirHija(QWidget* hija, std::function<void()> alCerrar) {

@@ -71,6 +71,8 @@ class Pantalla : public QWidget {
     // Muestra una pantalla hija que se borra al cerrarla; `alCerrar` corre entonces,
     // salvo que la que se cierre sea esta (sus hijas mueren con ella).
     void abrirHija(QWidget* hija, std::function<void()> alCerrar);
+    // La pantalla registrada con ese formulario, como hija (F10: "Form4", los conceptos).
+    void abrirRegistrada(const char* formulario);
 
   protected:
     // Donde cada pantalla pone su capa: va dentro de un área con barras.

@@ -118,12 +118,7 @@ QWidget* PantallaAguinaldo::armarTeclas() {
         {Qt::Key_F3, "F3 Consultar", [this] { Consultar_Click(); }},
         {Qt::Key_F8, "F8 Imp.", [] {}},
         {Qt::Key_F9, "F9 Copiar", [] {}},
-        {Qt::Key_F10, "F10 Concep.",
-         [this] {
-             intentar("Form_KeyDown", [this] {
-                 abrirHija(ventana::registroPantallas().at("Form4")(sesion_, this), [] {});
-             });
-         }},
+        {Qt::Key_F10, "F10 Concep.", [this] { abrirRegistrada("Form4"); }},
     }));
     // Los recibos llegan con su pantalla.
     teclasPendientes(teclas, {"Imp.", "Copiar"});

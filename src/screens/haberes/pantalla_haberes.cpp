@@ -118,12 +118,7 @@ QWidget* PantallaHaberes::armarTeclas() {
         {Qt::Key_F7, "F7 Eliminar", [this] { renglon_->eliminar(); }},
         {Qt::Key_F8, "F8 Imp.", [] {}},
         {Qt::Key_F9, "F9 Copiar", [] {}},
-        {Qt::Key_F10, "F10 Concep.",
-         [this] {
-             intentar("Form_KeyDown", [this] {
-                 abrirHija(ventana::registroPantallas().at("Form4")(sesion_, this), [] {});
-             });
-         }},
+        {Qt::Key_F10, "F10 Concep.", [this] { abrirRegistrada("Form4"); }},
         {Qt::Key_F12, "F12 Validar", [] {}},
     }));
     // Los recibos, la copia y la validación llegan con sus pantallas.

@@ -116,12 +116,7 @@ QWidget* PantallaVacacional::armarTeclas() {
         {Qt::Key_F8, "F8-Imprimir", [] {}},
         {Qt::Key_F9, "F9-Copiar", [] {}},
         {Qt::Key_F1, "F1-Ayuda", [this] { ayuda(); }},
-        {Qt::Key_F10, "F10-Con.",
-         [this] {
-             intentar("Form_KeyDown", [this] {
-                 abrirHija(ventana::registroPantallas().at("Form4")(sesion_, this), [] {});
-             });
-         }},
+        {Qt::Key_F10, "F10-Con.", [this] { abrirRegistrada("Form4"); }},
     }));
     // Los recibos llegan con su pantalla.
     teclasPendientes(teclas, {"Imprimir", "Copiar"});
