@@ -92,8 +92,9 @@ TEST_F(PantallasRegistradas, CadaUnaCabeEnElEscritorioYSeRecorreSiNoCabe) {
         ASSERT_NE(area, nullptr) << formulario;
         EXPECT_EQ(area->widget()->objectName(), "lienzo") << formulario;
         EXPECT_FALSE(area->widget()->findChildren<QWidget*>().isEmpty()) << formulario;
-        // Se puede teclear enseguida: algún campo tiene el foco.
-        EXPECT_NE(pantalla->focusWidget(), nullptr) << formulario;
+        // Se puede teclear enseguida: el foco está en un campo de adentro.
+        ASSERT_NE(pantalla->focusWidget(), nullptr) << formulario;
+        EXPECT_TRUE(area->widget()->isAncestorOf(pantalla->focusWidget())) << formulario;
     }
 }
 

@@ -27,6 +27,8 @@ Pantalla::Pantalla(frame::Sesion& sesion, const QString& formulario, const QStri
     area_->setObjectName("area");
     area_->setFrameShape(QFrame::NoFrame);
     area_->setWidgetResizable(true);
+    // El área con barras sólo envuelve: el foco va a los campos de adentro.
+    area_->setFocusPolicy(Qt::NoFocus);
     area_->setWidget(lienzo_);
     lienzo_->setObjectName("lienzo");
     auto* capa = new QVBoxLayout(this);
