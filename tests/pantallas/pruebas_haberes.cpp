@@ -73,6 +73,10 @@ TEST_F(PantallaHaberes, ElNombreEnOtrasMayusculasEligeLaPersona) {
     EXPECT_TRUE(dialogo.mensajes.empty()) << dialogo.ultimoMensaje();
     EXPECT_EQ(w<QComboBox>("nombre")->currentText(), "PEREZ, JUAN");
     EXPECT_EQ(texto("nrofun"), "1");
+    // Vaciada la persona, Nro Fun. no sigue mostrando su número.
+    w<QComboBox>("nombre")->lineEdit()->selectAll();
+    QTest::keyClick(w<QComboBox>("nombre")->lineEdit(), Qt::Key_Backspace);
+    EXPECT_TRUE(texto("nrofun").isEmpty());
 }
 
 // Las teclas Alt de la pantalla llegan a su botón o a su campo aunque el foco esté

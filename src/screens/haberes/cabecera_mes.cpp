@@ -54,6 +54,12 @@ CabeceraMes::CabeceraMes(ventana::Pantalla& pantalla, MesAbierto& mes, const cha
         CargarNombredelPersonal();
     });
     connect(nombre_, &QComboBox::activated, this, [this] { elegirPersona(); });
+    // Vaciar la persona (para correr toda la empresa) la saca también de Nro Fun.
+    connect(nombre_, &QComboBox::editTextChanged, this, [this](const QString& texto) {
+        if (!texto.trimmed().isEmpty() || nrofun_->text().isEmpty()) return;
+        nrofun_->clear();
+        emit mesOlvidado();
+    });
     pantalla_.alPulsarEnter(nombre_, [this] {
         // Un nombre tecleado en otras mayúsculas es la persona de la lista que el
         // completador propone: se elige ésa, no se avisa que no existe.
