@@ -23,6 +23,7 @@ int main(int argc, char** argv) {
     cli::registrarOrdenesDescuentos(app, ctx);
     cli::registrarOrdenesLiquidacion(app, ctx);
     cli::registrarOrdenesAguinaldo(app, ctx);
+    cli::registrarOrdenesEgreso(app, ctx);
     cli::registrarOrdenesVacacional(app, ctx);
     cli::registrarOrdenesDemo(app, ctx);
     cli::registrarOrdenesUsuario(app, ctx);

@@ -52,8 +52,7 @@ std::string faltan(const CLI::App& app, const std::string& ingles) {
         nombres.push_back(m[1]);
     }
     if (nombres.size() == 1)
-        return (esValor(nombres[0]) ? "Falta el valor " : "Falta la opción ") + nombres[0] +
-               ".";
+        return (esValor(nombres[0]) ? "Falta el valor " : "Falta la opción ") + nombres[0] + ".";
     return "Faltan " + unir(nombres, ", ") + ".";
 }
 

@@ -56,11 +56,16 @@ void registrarOrdenesLiquidacion(CLI::App& app, Contexto& ctx);
 void registrarOrdenesVacacional(CLI::App& app, Contexto& ctx);
 void registrarOrdenesDemo(CLI::App& app, Contexto& ctx);
 void registrarOrdenesAguinaldo(CLI::App& app, Contexto& ctx);
+void registrarOrdenesEgreso(CLI::App& app, Contexto& ctx);
 
 // Las filas del aguinaldo de una persona en el pago con sus cifras (liquidacion
 // --tabla aguinaldos).
 int mostrarAguinaldo(store::Conexion& base, const std::string& empresa, const std::string& nombre,
                      const common::Mes& pago, bool explicar);
+// Las filas de egresos de una persona en el mes con sus totales (liquidacion
+// --tabla egresos).
+int mostrarEgreso(store::Conexion& base, const std::string& empresa, const std::string& nombre,
+                  const common::Mes& mes, bool explicar);
 // Las filas del salario vacacional de una persona en el mes con su desglose
 // (liquidacion --tabla salvacacional y vacacional sin --codigo).
 int mostrarVacacional(store::Conexion& base, common::Dialogo& dialogo, const std::string& empresa,

@@ -71,7 +71,8 @@ int aguinaldo(const Contexto& ctx, const OpcionesAguinaldo& o) {
 
 int mostrarAguinaldo(store::Conexion& base, const std::string& empresa, const std::string& nombre,
                      const common::Mes& pago, bool explicar) {
-    const auto filas = engine::filasDelAguinaldo(base, empresa, nombre, pago);
+    const auto filas =
+        engine::filasDeLaPersona(base, empresa, nombre, pago, engine::TablaLiquidacion::Aguinaldos);
     for (const auto& f : filas) {
         mostrarFila(f);
         if (explicar && !f.explicacion.empty()) std::cout << "    " << f.explicacion << '\n';

@@ -5,8 +5,8 @@
 
 #include "cli/ordenes.h"
 #include "common/numeros.h"
-#include "engine/mes/descuentos.h"
 #include "engine/calculos/explicacion.h"
+#include "engine/mes/descuentos.h"
 #include "engine/mes/renglon.h"
 
 namespace nomira::cli {
@@ -44,15 +44,16 @@ int descuentos(const Contexto& ctx, const OpcionesMes& o) {
     const char* procedimiento = o.nombre ? "DescPerm_Click" : "ActDesPermxEmpresa_Click";
     try {
         if (o.nombre) {
-            const auto r = engine::descuentosDeUnaPersona(*base, o.empresa, *o.nombre, *mes, dialogo);
+            const auto r =
+                engine::descuentosDeUnaPersona(*base, o.empresa, *o.nombre, *mes, dialogo);
             for (const auto& f : r.filas) mostrar(f);
             return r.hecho ? 0 : 1;
         }
-        const auto r =
-            engine::descuentosDeLaEmpresa(*base, o.empresa, *mes, dialogo,
-                                       [](std::size_t i, std::size_t n, const std::string& nombre) {
-                                           std::cerr << i << "/" << n << " " << nombre << '\n';
-                                       });
+        const auto r = engine::descuentosDeLaEmpresa(
+            *base, o.empresa, *mes, dialogo,
+            [](std::size_t i, std::size_t n, const std::string& nombre) {
+                std::cerr << i << "/" << n << " " << nombre << '\n';
+            });
         for (const auto& p : r.personas)
             for (const auto& f : p.filas) {
                 std::cout << p.nombre << " | ";
@@ -80,8 +81,7 @@ int renglon(const Contexto& ctx, const OpcionesRenglon& o) {
         const auto buscado = engine::buscarRenglon(*mp, c, o.codigo, dialogo);
         if (!buscado) return 1;
         const std::string textoCant = o.cant.value_or(buscado->textoCant);
-        const auto calculo =
-            engine::calcularRenglon(*mp, c, buscado->concepto, textoCant, dialogo);
+        const auto calculo = engine::calcularRenglon(*mp, c, buscado->concepto, textoCant, dialogo);
         if (!calculo) return 1;
         // Lo que queda en las casillas después del Enter en la cantidad; un
         // total tecleado reemplaza el calculado.

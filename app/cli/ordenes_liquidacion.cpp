@@ -83,7 +83,10 @@ int liquidacion(const Contexto& ctx, const OpcionesLiquidacion& o) {
     const auto& nombre = o.nombre.value();
     if (o.tabla == "aguinaldos")
         return mostrarAguinaldo(*base, o.empresa, nombre, *mes, o.explicar);
+    if (o.tabla == "egresos") return mostrarEgreso(*base, o.empresa, nombre, *mes, o.explicar);
     auto dialogo = ctx.dialogo();
+    if (o.tabla == "salvacacional")
+        return mostrarVacacional(*base, dialogo, o.empresa, nombre, *mes, o.explicar);
     engine::ContextoFormula c;
     const auto mp = engine::leerMesDeLaPersona(*base, o.empresa, nombre, *mes, c, dialogo);
     if (!mp) return 1;
@@ -171,8 +174,8 @@ void registrarOrdenesLiquidacion(CLI::App& app, Contexto& ctx) {
     li->add_option("--nombre", l.nombre, "Persona")->required();
     li->add_option("--mes", l.mes, "Mes, MM/aa; sin él, el mes anterior");
     li->add_flag("--explicar", l.explicar, "Muestra cómo se llegó a las cifras del desglose");
-    li->add_option("--tabla", l.tabla, "habydesc (el mes), aguinaldos o salvacacional")
-        ->check(CLI::IsMember({"habydesc", "aguinaldos", "salvacacional"}));
+    li->add_option("--tabla", l.tabla, "habydesc (el mes), aguinaldos, salvacacional o egresos")
+        ->check(CLI::IsMember({"habydesc", "aguinaldos", "salvacacional", "egresos"}));
     li->callback([&ctx] { ctx.accion = [&ctx] { return liquidacion(ctx, l); }; });
 
     auto* bo = app.add_subcommand(

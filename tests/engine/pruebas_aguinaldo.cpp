@@ -157,7 +157,8 @@ TEST_P(Aguinaldo, JunioDeQuienIngresoEnMarzoConSusDescuentos) {
     EXPECT_EQ(con.at("Des 06 IRPF     10,416.67      "), 0);
     EXPECT_EQ(con.size(), 13u);  // la cuota sindical no es permanente
 
-    const auto cifras = cifrasDelAguinaldo(filasDelAguinaldo(*base, "ACME", "PEREZ, JUAN", junio));
+    const auto cifras = cifrasDelAguinaldo(
+        filasDeLaPersona(*base, "ACME", "PEREZ, JUAN", junio, TablaLiquidacion::Aguinaldos));
     EXPECT_EQ(cifras.sumaDeMeses, common::Dinero::desdeDouble(125000));
     EXPECT_EQ(cifras.haberes, common::Dinero::desdeDouble(10416.6667));
     EXPECT_EQ(cifras.descuentos, common::Dinero::desdeDouble(1885.4167));
@@ -178,7 +179,8 @@ TEST_P(Aguinaldo, LasExplicacionesVuelvenConSuFila) {
         haberesAguinaldoDeUnaPersona(*base, "ACME", "PEREZ, JUAN", junio, 1, dialogo).hecho);
     ASSERT_TRUE(
         descuentosAguinaldoDeUnaPersona(*base, "ACME", "PEREZ, JUAN", junio, dialogo).hecho);
-    for (const auto& f : filasDelAguinaldo(*base, "ACME", "PEREZ, JUAN", junio)) {
+    for (const auto& f :
+         filasDeLaPersona(*base, "ACME", "PEREZ, JUAN", junio, TablaLiquidacion::Aguinaldos)) {
         EXPECT_FALSE(f.explicacion.empty()) << f.concepto << " " << f.mes;
         if (f.tipo == "Hab" && f.aclab == "2" && f.mes == "02") {
             EXPECT_EQ(f.explicacion,

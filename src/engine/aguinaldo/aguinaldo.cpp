@@ -9,6 +9,7 @@
 #include "engine/mes/descuentos.h"
 #include "engine/mes/escritura.h"
 #include "engine/mes/irpf_lector.h"
+#include "engine/mes/una_persona.h"
 
 namespace nomira::engine {
 inline namespace aguinaldo {
@@ -19,43 +20,6 @@ namespace {
 
 bool esReliquidacionVacacional(const std::string& concepto) {
     return concepto == "RELIQ. SAL. VAC." || concepto == "RELIQ. SAL. VAC. POR LAUDO";
-}
-
-// Lo ganado en un mes del semestre que genera aguinaldo en la actividad.
-FilaMes filaDelMes(const MesPersona& mp, const common::Mes& mes, int actividad, bool convenio) {
-    const auto& libro = mp.libro();
-    Dinero monto;
-    std::string detalle;
-    const auto sumar = [&](const std::string& que, Dinero total) {
-        monto += total;
-        detalle += (detalle.empty() ? "" : ", ") + que + " " + pesos(total);
-    };
-    for (const auto& f : libro.filas(TablaLiquidacion::Habydesc, mes))
-        if (f.tipo == "Hab" && f.aguinaldo == "Si" && esDeLaActividad(f.concepto, actividad))
-            sumar(f.concepto, f.total);
-    const auto vacacional = "SALARIO VACACIONAL" + sufijoActividad(actividad);
-    for (const auto& f : libro.filas(TablaLiquidacion::Salvacacional, mes)) {
-        if (f.concepto != vacacional) continue;
-        const auto* c = mp.maestros().conceptos.porCodigo(f.codigo);
-        if (c && (c->aguinaldo == "Si" || convenio))
-            sumar(f.concepto + (c->aguinaldo == "Si" ? "" : " (grupo con convenio)"), f.total);
-    }
-    // La reliquidación del vacacional entra por su columna o por el convenio,
-    // además de lo que ya sumó como haber con aguinaldo.
-    if (actividad == 1)
-        for (const auto& f : libro.filas(TablaLiquidacion::Habydesc, mes))
-            if (esReliquidacionVacacional(f.concepto) && (f.aguinaldo == "Si" || convenio))
-                sumar(f.concepto + " (reliquidación del vacacional)", f.total);
-
-    FilaMes fila;
-    fila.concepto = conceptoAguinaldo(actividad);
-    fila.tipo = "Hab";
-    fila.total = monto;
-    fila.mes = mes.texto().substr(0, 2);
-    fila.aclab = std::to_string(actividad);
-    fila.explicacion = "lo que genera aguinaldo en el " + mes.texto() + ": " +
-                       (detalle.empty() ? "nada" : detalle) + "; total " + pesos(monto);
-    return fila;
 }
 
 FilaMes filaDeDescuento(const master::Concepto& c, const common::Mes& pago) {
@@ -98,6 +62,43 @@ ResultadoPersona resultadoDe(const MesPersona& mp) {
 
 }  // namespace
 
+FilaMes aguinaldoDelMes(const MesPersona& mp, const common::Mes& mes, int actividad,
+                        bool convenio) {
+    const auto& libro = mp.libro();
+    Dinero monto;
+    std::string detalle;
+    const auto sumar = [&](const std::string& que, Dinero total) {
+        monto += total;
+        detalle += (detalle.empty() ? "" : ", ") + que + " " + pesos(total);
+    };
+    for (const auto& f : libro.filas(TablaLiquidacion::Habydesc, mes))
+        if (f.tipo == "Hab" && f.aguinaldo == "Si" && esDeLaActividad(f.concepto, actividad))
+            sumar(f.concepto, f.total);
+    const auto vacacional = "SALARIO VACACIONAL" + sufijoActividad(actividad);
+    for (const auto& f : libro.filas(TablaLiquidacion::Salvacacional, mes)) {
+        if (f.concepto != vacacional) continue;
+        const auto* c = mp.maestros().conceptos.porCodigo(f.codigo);
+        if (c && (c->aguinaldo == "Si" || convenio))
+            sumar(f.concepto + (c->aguinaldo == "Si" ? "" : " (grupo con convenio)"), f.total);
+    }
+    // La reliquidación del vacacional entra por su columna o por el convenio,
+    // además de lo que ya sumó como haber con aguinaldo.
+    if (actividad == 1)
+        for (const auto& f : libro.filas(TablaLiquidacion::Habydesc, mes))
+            if (esReliquidacionVacacional(f.concepto) && (f.aguinaldo == "Si" || convenio))
+                sumar(f.concepto + " (reliquidación del vacacional)", f.total);
+
+    FilaMes fila;
+    fila.concepto = conceptoAguinaldo(actividad);
+    fila.tipo = "Hab";
+    fila.total = monto;
+    fila.mes = mes.texto().substr(0, 2);
+    fila.aclab = std::to_string(actividad);
+    fila.explicacion = "lo que genera aguinaldo en el " + mes.texto() + ": " +
+                       (detalle.empty() ? "nada" : detalle) + "; total " + pesos(monto);
+    return fila;
+}
+
 MesesALeer mesesDelAguinaldo(const common::Mes& pago) {
     MesesALeer m;
     m.escrito = pago;
@@ -133,7 +134,7 @@ ResultadoPersona haberesDelAguinaldo(MesPersona& mp, int actividad) {
     if (!r.aviso.empty()) return r;
     const bool convenio = grupoConConvenio(mp.consejo.codigoGrupo, mp.consejo.codigoSubgrupo);
     for (const auto& mes : mesesDelSemestre(mp.mes, act.ingreso)) {
-        auto fila = filaDelMes(mp, mes, act.numero, convenio);
+        auto fila = aguinaldoDelMes(mp, mes, act.numero, convenio);
         libro.escribir(TablaLiquidacion::Aguinaldos, mp.mes, fila);
         auto exp = fila.explicacion;
         r.filas.emplace_back(std::move(fila), std::move(exp));
@@ -192,41 +193,28 @@ ResultadoPersona descuentosDelAguinaldo(MesPersona& mp, ContextoFormula& ctx,
 
 namespace {
 
-// Una persona: leída bajo su clave, calculada por `paso` y escrita, todo en una
-// transacción.
-template <class Paso>
+// Una persona sola, en junio o diciembre; a quien no le corresponde se le dice por qué.
 ResultadoPersona unaPersona(store::Conexion& base, const std::string& empresa,
                             const std::string& nombre, const common::Mes& pago,
-                            const char* faltanCampos, common::Dialogo& dialogo, const Paso& paso) {
-    ResultadoPersona r;
-    r.empresa = empresa;
-    r.nombre = nombre;
-    r.mes = pago;
-    const auto avisar = [&](const std::string& aviso) {
-        r.aviso = aviso;
-        dialogo.avisar(common::TipoAviso::Advertencia, aviso);
-        return r;
-    };
-    if (empresa.empty() || nombre.empty()) return avisar(faltanCampos);
-    if (!esMesDeAguinaldo(pago)) return avisar(kMesSinAguinaldo);
-    store::Transaccion t(base);
-    bloquearMes(base, empresa, nombre, pago);
-    ContextoFormula ctx;
-    auto mp =
-        leerMesDeLaPersona(base, empresa, nombre, pago, ctx, dialogo, mesesDelAguinaldo(pago));
-    if (!mp) {
-        r.aviso = "sin empresa o persona";
+                            const char* faltanCampos, common::Dialogo& dialogo,
+                            const PasoPersona& paso) {
+    if (!empresa.empty() && !nombre.empty() && !esMesDeAguinaldo(pago)) {
+        dialogo.avisar(common::TipoAviso::Advertencia, kMesSinAguinaldo);
+        ResultadoPersona r;
+        r.aviso = kMesSinAguinaldo;
         return r;
     }
-    if (const auto m = sueldoNoNumerico(*mp->persona)) return avisar(*m);
-    r = paso(*mp, ctx);
-    if (r.aviso == kConEgresos) return avisar(r.aviso);
-    if (!r.aviso.empty())
-        dialogo.avisar(common::TipoAviso::Informacion,
-                       "No le corresponde aguinaldo a " + nombre + ": " + r.aviso + ".");
-    escribirLibro(base, mp->libro());
-    t.confirmar();
-    return r;
+    return liquidarUnaPersona(
+        base, empresa, nombre, pago, mesesDelAguinaldo(pago), faltanCampos, dialogo,
+        [&](MesPersona& mp, ContextoFormula& ctx) {
+            auto r = paso(mp, ctx);
+            if (r.aviso == kConEgresos)
+                dialogo.avisar(common::TipoAviso::Advertencia, r.aviso);
+            else if (!r.aviso.empty())
+                dialogo.avisar(common::TipoAviso::Informacion,
+                               "No le corresponde aguinaldo a " + nombre + ": " + r.aviso + ".");
+            return r;
+        });
 }
 
 }  // namespace
@@ -282,17 +270,6 @@ ResultadoEmpresa aguinaldoDeLaEmpresa(store::Conexion& base, const std::string& 
     if (!r.cancelado && !r.fallo)
         dialogo.avisar(common::TipoAviso::Confirmacion, textoActualizacionFinalizada(r));
     return r;
-}
-
-std::vector<FilaMes> filasDelAguinaldo(store::Conexion& base, const std::string& empresa,
-                                       const std::string& nombre, const common::Mes& pago) {
-    MesesALeer meses;
-    meses.escrito = pago;
-    for (auto& t : meses.tramos) t = {pago, pago};
-    auto lectura = leerCorrida(base, empresa, pago, meses, nombre, false);
-    const auto* p = lectura.persona(nombre);
-    if (!p) return {};
-    return p->libro.filas(TablaLiquidacion::Aguinaldos, pago);
 }
 
 }  // namespace aguinaldo

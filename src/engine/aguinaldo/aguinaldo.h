@@ -37,6 +37,12 @@ struct ActividadAguinaldo {
 };
 ActividadAguinaldo actividadDe(const master::Persona& p, int actividad);
 
+// La fila de aguinaldo de un mes del semestre: lo ganado en él que genera
+// aguinaldo en la actividad (habydesc con aguinaldo "Si" y el sufijo de la
+// actividad, su salario vacacional por el concepto o el convenio y las
+// reliquidaciones del vacacional), con su explicación.
+FilaMes aguinaldoDelMes(const MesPersona& mp, const common::Mes& mes, int actividad, bool convenio);
+
 // Pasos del botón de haberes sobre lo leído, en memoria: con egresos en el mes
 // avisa y no hace nada; si no, tira los descuentos del aguinaldo de la
 // persona y, si le corresponde, escribe una fila por mes del semestre (aunque
@@ -73,11 +79,6 @@ ResultadoEmpresa aguinaldoDeLaEmpresa(store::Conexion& base, const std::string& 
                                       common::Dialogo& dialogo,
                                       const ProgresoEmpresa& progreso = {},
                                       const CancelarEmpresa& cancelar = {});
-
-// Las filas del pago de una persona con sus explicaciones, haberes primero y
-// por actividad y mes del semestre; vacío si no hay.
-std::vector<FilaMes> filasDelAguinaldo(store::Conexion& base, const std::string& empresa,
-                                       const std::string& nombre, const common::Mes& pago);
 
 // Las cifras del aguinaldo de una persona: lo que se paga, los descuentos y el
 // líquido (nunca negativo).

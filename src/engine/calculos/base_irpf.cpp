@@ -41,9 +41,9 @@ BaseMes Desglose(const EntradaDesglose& e) {
 
 BaseMes leerDesglose(const LibroPersona& libro, const common::Mes& mes,
                      const std::string& tipoaporte, const std::string& vinculofun, double sueldo,
-                     double bpc) {
+                     double bpc, TablaLiquidacion tabla) {
     EntradaDesglose e;
-    e.filas = libro.filas(TablaLiquidacion::Habydesc, mes);
+    e.filas = libro.filas(tabla, mes);
     e.aguinaldosHab = sumaHab(libro.filas(TablaLiquidacion::Aguinaldos, mes));
     for (const auto& s : libro.filas(TablaLiquidacion::Salvacacional, mes))
         if (s.codigo == 606 || s.codigo == 636) e.salvacacional += s.total;

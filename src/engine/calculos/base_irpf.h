@@ -38,10 +38,11 @@ BaseMes Desglose(const EntradaDesglose& e);
 // Cómo se llegó a la base, para quien la pide.
 std::string explicacion(const BaseMes& b);
 
-// La base del mes sobre las filas de la persona.
+// La base del mes sobre las filas de la persona: las de habydesc, o las de
+// egresos en la liquidación por egreso.
 BaseMes leerDesglose(const LibroPersona& libro, const common::Mes& mes,
                      const std::string& tipoaporte, const std::string& vinculofun, double sueldo,
-                     double bpc);
+                     double bpc, TablaLiquidacion tabla = TablaLiquidacion::Habydesc);
 
 // Lo que las fórmulas leen de la base: MONTOGRAV, MONTOGRAVAG, MONTOSV, TOTALHAB
 // y los tres líquidos.

@@ -14,6 +14,7 @@
 #include "engine/mes/horas.h"
 #include "engine/mes/irpf_lector.h"
 #include "engine/mes/irpf_licencia.h"
+#include "engine/mes/una_persona.h"
 
 namespace nomira::engine {
 inline namespace mes {
@@ -120,7 +121,9 @@ FilaLiquidada descuentoDeConcepto(ContextoFormula& ctx, const master::Concepto& 
 }
 
 ImporteImpuesto calcularImpuesto(const MesPersona& mp, ContextoFormula& ctx,
-                                 const std::string& concepto, common::Dialogo& dialogo) {
+                                 const std::string& concepto, common::Dialogo& dialogo,
+                                 TablaLiquidacion tabla) {
+    const bool egresos = tabla == TablaLiquidacion::Egresos;
     ImporteImpuesto r;
     r.concepto = concepto;
     if (concepto == "IRP") {
@@ -132,19 +135,18 @@ ImporteImpuesto calcularImpuesto(const MesPersona& mp, ContextoFormula& ctx,
     }
     r.cant = ctx.textoCant.empty() ? 1 : common::textoANumero(ctx.textoCant);
     if (mp.mes.mes == 12) {
-        if (excepcionLicencia(mp.tiposueldo,
-                              mp.libro().filas(TablaLiquidacion::Habydesc, mp.mes))) {
+        if (excepcionLicencia(mp.tiposueldo, mp.libro().filas(tabla, mp.mes))) {
             r.explicacion = "diciembre: su único haber es una licencia, sin IRPF";
             return r;
         }
-        const auto dic = CalculoIRPFDic(ctx, false, dialogo);
+        const auto dic = CalculoIRPFDic(ctx, egresos, dialogo);
         r.total = dic.total;
         r.explicacion = dic.explicacion;
         r.irpfDiciembre = dic;
         return r;
     }
     const auto irpf = CalculoIRPF(ctx, mp.desglose.montoirpf, mp.desglose.montonominal,
-                                  opcionesIRPFForm42(), dialogo);
+                                  egresos ? opcionesIRPFForm45() : opcionesIRPFForm42(), dialogo);
     r.total = irpf.total;
     r.concepto = textoFilaIRPF(concepto, irpf, mp.desglose.montoirpf);
     r.explicacion = irpf.explicacion;
@@ -203,38 +205,21 @@ std::vector<FilaLiquidada> generarDescuentos(MesPersona& mp, ContextoFormula& ct
 ResultadoPersona descuentosDeUnaPersona(store::Conexion& base, const std::string& empresa,
                                         const std::string& nombre, const common::Mes& mes,
                                         common::Dialogo& dialogo) {
-    ResultadoPersona r;
-    r.empresa = empresa;
-    r.nombre = nombre;
-    r.mes = mes;
-    if (empresa.empty() || nombre.empty()) {
-        r.aviso = kFaltanCamposMes;
-        dialogo.avisar(common::TipoAviso::Advertencia, r.aviso);
-        return r;
-    }
-    store::Transaccion t(base);
-    bloquearMes(base, empresa, nombre, mes);
-    ContextoFormula ctx;
-    auto mp = leerMesDeLaPersona(base, empresa, nombre, mes, ctx, dialogo);
-    if (!mp) {
-        r.aviso = "sin empresa o persona";
-        return r;
-    }
-    if (mp->libro().hayEgresos(mes)) {
-        r.aviso = kConEgresos;
-        dialogo.avisar(common::TipoAviso::Advertencia, r.aviso);
-        return r;
-    }
-    if (const auto m = sueldoNoNumerico(*mp->persona)) {
-        r.aviso = *m;
-        dialogo.avisar(common::TipoAviso::Advertencia, r.aviso);
-        return r;
-    }
-    r.filas = generarDescuentos(*mp, ctx, dialogo);
-    escribirLibro(base, mp->libro());
-    t.confirmar();
-    r.hecho = true;
-    return r;
+    return liquidarUnaPersona(base, empresa, nombre, mes, mesesDelRenglon(mes), kFaltanCamposMes,
+                              dialogo, [&](MesPersona& mp, ContextoFormula& ctx) {
+                                  ResultadoPersona r;
+                                  r.empresa = empresa;
+                                  r.nombre = nombre;
+                                  r.mes = mes;
+                                  if (mp.libro().hayEgresos(mes)) {
+                                      r.aviso = kConEgresos;
+                                      dialogo.avisar(common::TipoAviso::Advertencia, r.aviso);
+                                      return r;
+                                  }
+                                  r.filas = generarDescuentos(mp, ctx, dialogo);
+                                  r.hecho = true;
+                                  return r;
+                              });
 }
 
 ResultadoEmpresa descuentosDeLaEmpresa(store::Conexion& base, const std::string& empresa,

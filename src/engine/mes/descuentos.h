@@ -59,8 +59,11 @@ struct ImporteImpuesto {
     std::optional<ResultadoIRPF> irpfMes;
     std::optional<ResultadoIRPFDic> irpfDiciembre;
 };
+// Sobre egresos, el IRPF es el de la liquidación por egreso (sus aportes y el
+// cierre del año con los egresos).
 ImporteImpuesto calcularImpuesto(const MesPersona& mp, ContextoFormula& ctx,
-                                 const std::string& concepto, common::Dialogo& dialogo);
+                                 const std::string& concepto, common::Dialogo& dialogo,
+                                 TablaLiquidacion tabla = TablaLiquidacion::Habydesc);
 
 // ActDesPermxEmpresa_Click: toda la empresa, cada persona activa con haberes y
 // sin egresos en el mes; antes, lo que traiga para ella el archivo de horas

@@ -129,6 +129,18 @@ void leerFilas(store::Conexion& base, const std::string& empresa, const MesesALe
 
 }  // namespace
 
+std::vector<FilaMes> filasDeLaPersona(store::Conexion& base, const std::string& empresa,
+                                      const std::string& nombre, const common::Mes& mes,
+                                      TablaLiquidacion tabla) {
+    MesesALeer meses;
+    meses.escrito = mes;
+    for (auto& t : meses.tramos) t = {mes, mes};
+    auto lectura = leerCorrida(base, empresa, mes, meses, nombre, false);
+    const auto* p = lectura.persona(nombre);
+    if (!p) return {};
+    return p->libro.filas(tabla, mes);
+}
+
 MesesALeer mesesDelMes(const common::Mes& mes) {
     MesesALeer m;
     m.escrito = mes;

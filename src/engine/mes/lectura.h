@@ -56,6 +56,12 @@ Lectura leerCorrida(store::Conexion& base, const std::string& empresa, const com
                     const MesesALeer& meses, const std::optional<std::string>& nombre = {},
                     bool conHoras = true);
 
+// Las filas de una tabla de una persona en un mes, con sus explicaciones, en el
+// orden del libro; vacío si no hay. Para mostrarlas (aguinaldos, egresos).
+std::vector<FilaMes> filasDeLaPersona(store::Conexion& base, const std::string& empresa,
+                                      const std::string& nombre, const common::Mes& mes,
+                                      TablaLiquidacion tabla);
+
 // Las personas de la empresa ordenadas como las liquida la corrida (ver Lectura).
 std::vector<master::PersonaCompartida> personasPorCantbfc(store::Conexion& base,
                                                           const std::string& empresa);

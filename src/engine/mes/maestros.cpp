@@ -115,9 +115,10 @@ Maestros leerMaestros(store::Conexion& base, const std::string& empresa, const c
         if (conHoras) m.horas = archivoDelMes(*m.empresa, mes, m.rutaHoras);
     }
     m.conceptos = Conceptos(master::leerConceptos(base.consulta("SELECT * FROM conceptos")));
-    base.recorrer("SELECT nombre, codigo, tipo FROM concpermxpers WHERE empresa = ?", {empresa},
-                  [&](const store::FilaAlPaso& f) {
-                      m.propios[f.texto(0)].push_back({static_cast<long>(f.entero(1)), f.texto(2)});
+    base.recorrer("SELECT nombre, codigo, tipo, concepto FROM concpermxpers WHERE empresa = ?",
+                  {empresa}, [&](const store::FilaAlPaso& f) {
+                      m.propios[f.texto(0)].push_back(
+                          {static_cast<long>(f.entero(1)), f.texto(2), f.texto(3)});
                   });
     m.franjas = leerFranjas(base);
     for (const auto& f : m.franjas) {

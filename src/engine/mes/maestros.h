@@ -41,10 +41,11 @@ class Conceptos {
     std::vector<master::Concepto> todos_;
 };
 
-// Una fila de concpermxpers: el código y su tipo ("Hab" o "Des").
+// Una fila de concpermxpers: el código, su tipo ("Hab" o "Des") y el texto del
+// concepto como se guardó.
 struct ConceptoPropio {
     long codigo = 0;
-    std::string tipo;
+    std::string tipo, concepto;
 };
 
 // Una fila de histsueldosmin del consejo de la empresa.

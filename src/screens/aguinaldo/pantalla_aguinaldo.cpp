@@ -173,7 +173,8 @@ void PantallaAguinaldo::Consultar_Click() {
         const auto mes = cabecera_->mes();
         if (cabecera_->empresa().empty() || cabecera_->nombre().empty() || !mes) return;
         const auto filas =
-            engine::filasDelAguinaldo(base(), cabecera_->empresa(), cabecera_->nombre(), *mes);
+            engine::filasDeLaPersona(base(), cabecera_->empresa(), cabecera_->nombre(), *mes,
+                                     engine::TablaLiquidacion::Aguinaldos);
         std::vector<std::vector<std::string>> hab, des;
         for (const auto& f : filas) {
             if (f.tipo == "Hab")

@@ -1,0 +1,72 @@
+#pragma once
+// La liquidación por egreso (Form45): una pasada por actividad que escribe en
+// egresos el sueldo de los días del último mes, el aguinaldo hasta el egreso,
+// la licencia no gozada del año anterior y del actual con su salario
+// vacacional, y sus descuentos. Todo lo de una pasada va en una transacción:
+// un mensaje que la detiene no deja nada escrito.
+#include <optional>
+#include <string>
+
+#include "common/dialogo.h"
+#include "common/fechas.h"
+#include "engine/mes/lectura.h"
+#include "engine/mes/mes_persona.h"
+#include "store/conexion.h"
+
+namespace nomira::engine {
+inline namespace egreso {
+
+inline constexpr const char* kFaltanDatosEgreso =
+    "En el form. de Personal en Datos Laborales deberá completar los campos Fecha Ingreso, Fecha "
+    "Egreso, Motivo de Egreso y Antiguedad corresp. a la ac.lab del egreso que está liquidando.";
+inline constexpr const char* kMesDistintoDelEgreso =
+    "La FMesCargo es distinta a la Fecha Egreso, deberá cambiar la FMesCargo manualmente.";
+inline constexpr const char* kConHaberesDelMes =
+    "El funcionario ya tiene liquidado conceptos en Hab.y Desc. Para hacer la liquidación deberá "
+    "eliminarlos de Hab.y Desc. y agregarlos en Egresos.";
+inline constexpr const char* kJornalesManual =
+    "Debe ingresar el concepto Jornales en forma manual.";
+inline constexpr const char* kHorasManual =
+    "Debe ingresar los conceptos HORAS y JORNADAS EN EL MES en forma manual.";
+// "Deberá agregar antes el concepto <concepto> o sino eliminarlo de ConceptosPermanentesxPersonal."
+std::string mensajeFaltaConceptoPermanente(const std::string& concepto);
+
+// Lo que lee una pasada: habydesc desde enero del año anterior (la licencia del
+// año anterior y el semestre del aguinaldo), salvacacional igual, y egresos y
+// aguinaldos del año (el cierre del IRPF).
+MesesALeer mesesDelEgreso(const common::Mes& mes);
+
+// La actividad que se liquida, con sus datos de la ficha.
+struct ActividadEgreso {
+    int numero = 1;
+    std::string sufijo;  // "", " 2DA ACT", " 3RA ACT"
+    std::optional<common::Fecha> ingreso, egreso;
+    std::string motivo;
+    double antiguedad = 0;
+};
+ActividadEgreso actividadDeEgreso(const master::Persona& p, int actividad);
+
+struct OpcionesEgreso {
+    int actividad = 1;
+};
+
+// Los haberes de la pasada sobre lo leído, en memoria: reemplazan en el mes las
+// filas de los conceptos que escribe y dejan las demás (las que tecleó el
+// liquidador). Sin `hecho`, un mensaje la detuvo (`aviso`, ya dicho).
+ResultadoPersona haberesDelEgreso(MesPersona& mp, ContextoFormula& ctx,
+                                  const OpcionesEgreso& opciones, common::Dialogo& dialogo);
+
+// Los descuentos permanentes sobre egresos: los aportes sobre sus filas, el
+// IRPF del mes o, en diciembre, el cierre del año con los egresos.
+ResultadoPersona descuentosDelEgreso(MesPersona& mp, ContextoFormula& ctx,
+                                     common::Dialogo& dialogo);
+
+// Una pasada para una persona, leída, calculada y escrita en una transacción
+// bajo su clave; con `conDescuentos`, también sus descuentos.
+ResultadoPersona egresoDeUnaPersona(store::Conexion& base, const std::string& empresa,
+                                    const std::string& nombre, const common::Mes& mes,
+                                    const OpcionesEgreso& opciones, bool conDescuentos,
+                                    common::Dialogo& dialogo);
+
+}  // namespace egreso
+}  // namespace nomira::engine
