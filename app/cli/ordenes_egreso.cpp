@@ -49,16 +49,17 @@ int egreso(const Contexto& ctx, const OpcionesEgreso& o) {
 
 int mostrarEgreso(store::Conexion& base, const std::string& empresa, const std::string& nombre,
                   const common::Mes& mes, bool explicar) {
-    common::Dinero haberes, descuentos;
-    for (const auto& f :
-         engine::filasDeLaPersona(base, empresa, nombre, mes, engine::TablaLiquidacion::Egresos)) {
+    const auto filas =
+        engine::filasDeLaPersona(base, empresa, nombre, mes, engine::TablaLiquidacion::Egresos);
+    for (const auto& f : filas) {
         mostrarFila(f);
         if (explicar && !f.explicacion.empty()) std::cout << "    " << f.explicacion << '\n';
-        (f.tipo == "Hab" ? haberes : descuentos) += f.total;
     }
-    std::cout << "T.Haberes: " << engine::pesos(haberes) << '\n'
-              << "Total Descuentos: " << engine::pesos(descuentos) << '\n'
-              << "Líquido Neto: " << engine::pesos(haberes - descuentos) << '\n';
+    const auto c = engine::cifrasDelEgreso(filas);
+    std::cout << "T.Haberes: " << engine::pesos(c.haberes) << '\n'
+              << "Total Descuentos: " << engine::pesos(c.descuentos) << '\n'
+              << "Líquido Neto: " << engine::pesos(c.liquido) << '\n'
+              << "Líquido a Cobrar: " << engine::pesos(c.aCobrar) << '\n';
     return 0;
 }
 

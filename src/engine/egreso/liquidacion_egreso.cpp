@@ -302,5 +302,26 @@ ResultadoPersona egresoDeUnaPersona(store::Conexion& base, const std::string& em
         });
 }
 
+ResultadoPersona descuentosEgresoDeUnaPersona(store::Conexion& base, const std::string& empresa,
+                                              const std::string& nombre, const common::Mes& mes,
+                                              common::Dialogo& dialogo) {
+    return liquidarUnaPersona(base, empresa, nombre, mes, mesesDelEgreso(mes),
+                              kFaltanCamposDescuentosAguinaldo, dialogo,
+                              [&](MesPersona& mp, ContextoFormula& ctx) {
+                                  return descuentosDelEgreso(mp, ctx, dialogo);
+                              });
+}
+
+CifrasEgreso cifrasDelEgreso(const std::vector<FilaMes>& filas) {
+    CifrasEgreso c;
+    for (const auto& f : filas) {
+        if (f.tipo == "Hab") c.haberes += f.total;
+        if (f.tipo == "Des") c.descuentos += f.total;
+    }
+    c.liquido = c.haberes - c.descuentos;
+    c.aCobrar = c.liquido < Dinero() ? Dinero() : c.liquido;
+    return c;
+}
+
 }  // namespace egreso
 }  // namespace nomira::engine

@@ -68,5 +68,17 @@ ResultadoPersona egresoDeUnaPersona(store::Conexion& base, const std::string& em
                                     const OpcionesEgreso& opciones, bool conDescuentos,
                                     common::Dialogo& dialogo);
 
+// DescPerm_Click: sólo los descuentos del egreso de una persona.
+ResultadoPersona descuentosEgresoDeUnaPersona(store::Conexion& base, const std::string& empresa,
+                                              const std::string& nombre, const common::Mes& mes,
+                                              common::Dialogo& dialogo);
+
+// T.Haberes, Total Descuentos, Líquido Neto y Líquido a Cobrar (nunca
+// negativo) de las filas de egresos del mes.
+struct CifrasEgreso {
+    common::Dinero haberes, descuentos, liquido, aCobrar;
+};
+CifrasEgreso cifrasDelEgreso(const std::vector<FilaMes>& filas);
+
 }  // namespace egreso
 }  // namespace nomira::engine

@@ -47,6 +47,13 @@ QString rotuloTecla(const QString& nombre, Qt::Key tecla) {
     return QString("F%1 %2").arg(tecla - Qt::Key_F1 + 1).arg(nombre);
 }
 
+QGroupBox* Pantalla::teclasFunciones(const std::vector<AccionTecla>& acciones) {
+    auto* teclas = new QGroupBox("Teclas Funciones");
+    teclas->setObjectName("TeclasFunciones");
+    teclas->setLayout(botonera(acciones));
+    return teclas;
+}
+
 QHBoxLayout* Pantalla::botonera(const std::vector<AccionTecla>& acciones) {
     auto* fila = new QHBoxLayout;
     for (const auto& a : acciones) {

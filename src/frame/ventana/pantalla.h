@@ -3,6 +3,7 @@
 // función, Enter que pasa al campo siguiente, la revisión de los números y fechas
 // tecleados, el cuadro "Error inesperado", la ayuda de cada pantalla y un tamaño
 // que entra en el escritorio (lo que no entra se recorre con barras).
+#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeySequence>
 #include <QLineEdit>
@@ -86,6 +87,8 @@ class Pantalla : public QWidget {
 
     // Los botones con sus teclas. La tecla de un botón deshabilitado no hace nada.
     QHBoxLayout* botonera(const std::vector<AccionTecla>& acciones);
+    // La botonera en el marco "Teclas Funciones" de las pantallas de liquidación.
+    QGroupBox* teclasFunciones(const std::vector<AccionTecla>& acciones);
     // A la impresora de informes de la configuración.
     void imprimirInforme(const std::vector<std::string>& lineas, const std::string& documento);
 

@@ -38,13 +38,8 @@ PantallaAguinaldo::PantallaAguinaldo(frame::Sesion& sesion, QWidget* padre)
     connect(cabecera_, &CabeceraMes::mesOlvidado, this, [this] { olvidar(); });
     connect(cabecera_, &CabeceraMes::mesAbierto, this, [this] { Consultar_Click(); });
     connect(cabecera_, &CabeceraMes::pasarALaFila, this, [this] { boton("HabPerm")->setFocus(); });
-    setTabOrder(cabecera_->campoEmpresa(), cabecera_->campoMes());
-    setTabOrder(cabecera_->campoMes(), cabecera_->campoNombre());
-    setTabOrder(cabecera_->campoNombre(), cabecera_->campoNrofun());
-
-    intentar("Form_Load", [this] { cabecera_->cargarEmpresas(); });
     olvidar();
-    cabecera_->campoEmpresa()->setFocus();
+    cabecera_->empezar();
 }
 
 QWidget* PantallaAguinaldo::armarActividad() {
@@ -85,20 +80,11 @@ QLayout* PantallaAguinaldo::armarCifras() {
 }
 
 QWidget* PantallaAguinaldo::armarGeneraciones() {
-    auto* marco = new QGroupBox("Aguinaldo");
-    auto* botones = new QHBoxLayout(marco);
-    const std::tuple<const char*, const char*, void (PantallaAguinaldo::*)()> kBotones[] = {
-        {"HabPerm", "&Hab. Perm.", &PantallaAguinaldo::HabPerm_Click},
-        {"DescPerm", "&Desc. Perm.", &PantallaAguinaldo::DescPerm_Click},
-        {"ActAguinxEmpresa", "Act. Aguin. x &Empresa", &PantallaAguinaldo::ActAguinxEmpresa_Click},
-    };
-    for (const auto& [nombre, texto, accion] : kBotones) {
-        auto* b = new QPushButton(texto);
-        b->setObjectName(nombre);
-        b->setAutoDefault(false);
-        connect(b, &QPushButton::clicked, this, [this, accion = accion] { (this->*accion)(); });
-        botones->addWidget(b);
-    }
+    auto* marco = marcoDeBotones(
+        "Aguinaldo",
+        {{"HabPerm", "&Hab. Perm.", [this] { HabPerm_Click(); }},
+         {"DescPerm", "&Desc. Perm.", [this] { DescPerm_Click(); }},
+         {"ActAguinxEmpresa", "Act. Aguin. x &Empresa", [this] { ActAguinxEmpresa_Click(); }}});
     // Fuera del marco: sigue habilitado mientras corre toda la empresa.
     avance_ = new AvanceEmpresa;
     auto* capa = new QWidget;
@@ -110,16 +96,7 @@ QWidget* PantallaAguinaldo::armarGeneraciones() {
 }
 
 QWidget* PantallaAguinaldo::armarTeclas() {
-    auto* teclas = new QGroupBox("Teclas Funciones");
-    teclas->setObjectName("TeclasFunciones");
-    teclas->setLayout(botonera({
-        {Qt::Key_F1, "F1 Ayuda", [this] { ayuda(); }},
-        {Qt::Key_F2, "F2 Refresh", [this] { Consultar_Click(); }},
-        {Qt::Key_F3, "F3 Consultar", [this] { Consultar_Click(); }},
-        {Qt::Key_F8, "F8 Imp.", [] {}},
-        {Qt::Key_F9, "F9 Copiar", [] {}},
-        {Qt::Key_F10, "F10 Concep.", [this] { abrirRegistrada("Form4"); }},
-    }));
+    auto* teclas = teclasFunciones(teclasSinFilaEnMano(*this, [this] { Consultar_Click(); }));
     // Los recibos llegan con su pantalla.
     teclasPendientes(teclas, {"Imp.", "Copiar"});
     return teclas;

@@ -103,6 +103,15 @@ CabeceraMes::CabeceraMes(ventana::Pantalla& pantalla, MesAbierto& mes, const cha
     capa->setColumnStretch(4, 1);
 }
 
+void CabeceraMes::empezar(QWidget* siguiente) {
+    setTabOrder(empresa_, mes_);
+    setTabOrder(mes_, nombre_);
+    setTabOrder(nombre_, nrofun_);
+    if (siguiente) setTabOrder(nrofun_, siguiente);
+    pantalla_.intentar("Form_Load", [this] { cargarEmpresas(); });
+    empresa_->setFocus();
+}
+
 void CabeceraMes::cargarEmpresas() {
     empresa_->addItem("");
     for (const auto& e : master::nombresDeEmpresas(pantalla_.base())) empresa_->addItem(aQt(e));

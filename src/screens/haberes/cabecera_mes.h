@@ -37,6 +37,10 @@ class CabeceraMes : public QWidget {
     // Abre de nuevo el mes de la persona en pantalla (después de escribir).
     bool releer();
     void cargarEmpresas();
+    // Como empieza toda pantalla de liquidación: el orden de Tab de sus campos
+    // (y después `siguiente`, si la pantalla tiene fila en mano), las empresas
+    // cargadas y el foco en la empresa.
+    void empezar(QWidget* siguiente = nullptr);
 
     QComboBox* campoEmpresa() const { return empresa_; }
     QWidget* campoMes() const { return mes_; }

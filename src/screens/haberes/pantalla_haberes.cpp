@@ -72,14 +72,8 @@ PantallaHaberes::PantallaHaberes(frame::Sesion& sesion, QWidget* padre)
     // Después de toda la empresa, las grillas son de la persona en pantalla.
     connect(generaciones_, &PanelGeneraciones::empresaCorrida, this, [this] { releer(); });
 
-    setTabOrder(cabecera_->campoEmpresa(), cabecera_->campoMes());
-    setTabOrder(cabecera_->campoMes(), cabecera_->campoNombre());
-    setTabOrder(cabecera_->campoNombre(), cabecera_->campoNrofun());
-    setTabOrder(cabecera_->campoNrofun(), renglon_->campoCodigo());
-
-    intentar("Form_Load", [this] { cabecera_->cargarEmpresas(); });
     renglon_->limpiar();
-    cabecera_->campoEmpresa()->setFocus();
+    cabecera_->empezar(renglon_->campoCodigo());
 }
 
 QWidget* PantallaHaberes::armarGrillas() {

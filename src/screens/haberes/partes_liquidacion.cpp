@@ -42,6 +42,32 @@ GrillasLiquidacion grillasLiquidacion(const char* tituloHaberes) {
     return g;
 }
 
+std::vector<ventana::AccionTecla> teclasSinFilaEnMano(ventana::Pantalla& pantalla,
+                                                      std::function<void()> consultar) {
+    auto* p = &pantalla;
+    return {
+        {Qt::Key_F1, "F1 Ayuda", [p] { p->ayuda(); }},
+        {Qt::Key_F2, "F2 Refresh", consultar},
+        {Qt::Key_F3, "F3 Consultar", consultar},
+        {Qt::Key_F8, "F8 Imp.", [] {}},
+        {Qt::Key_F9, "F9 Copiar", [] {}},
+        {Qt::Key_F10, "F10 Concep.", [p] { p->abrirRegistrada("Form4"); }},
+    };
+}
+
+QGroupBox* marcoDeBotones(const char* titulo, const std::vector<BotonGeneracion>& botones) {
+    auto* marco = new QGroupBox(titulo);
+    auto* capa = new QHBoxLayout(marco);
+    for (const auto& [nombre, texto, accion] : botones) {
+        auto* b = new QPushButton(texto);
+        b->setObjectName(nombre);
+        b->setAutoDefault(false);
+        QObject::connect(b, &QPushButton::clicked, b, accion);
+        capa->addWidget(b);
+    }
+    return marco;
+}
+
 void teclasPendientes(QWidget* teclas, std::initializer_list<const char*> nombres) {
     for (const char* pendiente : nombres) {
         auto* b = teclas->findChild<QPushButton*>(pendiente);

@@ -70,14 +70,8 @@ PantallaVacacional::PantallaVacacional(frame::Sesion& sesion, QWidget* padre)
     });
     connect(renglon_, &RenglonVacacionalEnMano::mesCambiado, this, [this] { Consultar_Click(); });
 
-    setTabOrder(cabecera_->campoEmpresa(), cabecera_->campoMes());
-    setTabOrder(cabecera_->campoMes(), cabecera_->campoNombre());
-    setTabOrder(cabecera_->campoNombre(), cabecera_->campoNrofun());
-    setTabOrder(cabecera_->campoNrofun(), renglon_->campoCodigo());
-
-    intentar("Form_Load", [this] { cabecera_->cargarEmpresas(); });
     olvidar();
-    cabecera_->campoEmpresa()->setFocus();
+    cabecera_->empezar(renglon_->campoCodigo());
 }
 
 QWidget* PantallaVacacional::armarGrillas() {

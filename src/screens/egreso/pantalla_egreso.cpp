@@ -1,0 +1,115 @@
+#include "screens/egreso/pantalla_egreso.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "common/numeros.h"
+#include "engine/aguinaldo/aguinaldo.h"
+#include "engine/calculos/explicacion.h"
+#include "engine/egreso/liquidacion_egreso.h"
+#include "frame/ventana/texto_qt.h"
+#include "screens/haberes/partes_liquidacion.h"
+
+namespace nomira::pantallas {
+
+PantallaEgreso::PantallaEgreso(frame::Sesion& sesion, QWidget* padre)
+    : Pantalla(sesion, "Form45", "Liquidación por Egreso", padre), mes_(base(), dialogo()) {
+    cabecera_ = new CabeceraMes(*this, mes_, "&F.MesAct.", false);
+    actividad_ = new ventana::GrupoOpciones("Ac.Lab", {{"1", "&1"}, {"2", "&2"}, {"3", "&3"}});
+    actividad_->setObjectName("aclab");
+    const auto g = grillasLiquidacion("Haberes");
+    haberes_ = g.haberes;
+    descuentos_ = g.descuentos;
+
+    auto* todo = new QVBoxLayout(lienzo());
+    todo->addWidget(cabecera_);
+    auto* opciones = new QHBoxLayout;
+    opciones->addWidget(actividad_);
+    opciones->addStretch();
+    todo->addLayout(opciones);
+    todo->addWidget(g.contenedor, 1);
+    todo->addLayout(filaDeCifras({{"totalhab", "T.Haberes"},
+                                  {"totaldes", "Total Descuentos"},
+                                  {"liquidoneto", "Líquido Neto"},
+                                  {"liquidoacobrar", "Líquido a Cobrar"}},
+                                 cifras_));
+    todo->addWidget(armarBotones());
+    todo->addWidget(armarTeclas());
+
+    connect(cabecera_, &CabeceraMes::mesOlvidado, this, [this] { olvidar(); });
+    connect(cabecera_, &CabeceraMes::mesAbierto, this, [this] { Consultar_Click(); });
+    connect(cabecera_, &CabeceraMes::pasarALaFila, this, [this] { boton("HabPerm")->setFocus(); });
+    olvidar();
+    cabecera_->empezar();
+}
+
+QWidget* PantallaEgreso::armarBotones() {
+    return marcoDeBotones("Egreso", {{"HabPerm", "&Hab. Perm.", [this] { HabPerm_Click(); }},
+                                     {"DescPerm", "&Desc. Perm.", [this] { DescPerm_Click(); }}});
+}
+
+QWidget* PantallaEgreso::armarTeclas() {
+    auto* teclas = teclasFunciones(teclasSinFilaEnMano(*this, [this] { Consultar_Click(); }));
+    // Los recibos llegan con su pantalla.
+    teclasPendientes(teclas, {"Imp.", "Copiar"});
+    return teclas;
+}
+
+void PantallaEgreso::HabPerm_Click() {
+    intentar("HabPerm_Click", [this] {
+        if (!cabecera_->completa(engine::kFaltanCamposHaberesAguinaldo)) return;
+        engine::egresoDeUnaPersona(
+            base(), cabecera_->empresa(), cabecera_->nombre(), *cabecera_->mes(),
+            {static_cast<int>(common::textoANumero(ventana::deQt(actividad_->valor())))}, false,
+            dialogo());
+        Consultar_Click();
+    });
+}
+
+void PantallaEgreso::DescPerm_Click() {
+    intentar("DescPerm_Click", [this] {
+        if (!cabecera_->completa(engine::kFaltanCamposDescuentosAguinaldo)) return;
+        engine::descuentosEgresoDeUnaPersona(base(), cabecera_->empresa(), cabecera_->nombre(),
+                                             *cabecera_->mes(), dialogo());
+        Consultar_Click();
+    });
+}
+
+void PantallaEgreso::olvidar() {
+    const std::vector<std::string> columnas = {"Código", "Concepto", "Unid.", "Cant.", "Total"};
+    haberes_->mostrar(columnas, {}, {0, 3, 4});
+    descuentos_->mostrar(columnas, {}, {0, 3, 4});
+    for (auto& [nombre, c] : cifras_) c->clear();
+}
+
+void PantallaEgreso::Consultar_Click() {
+    intentar("Consultar_Click", [this] {
+        olvidar();
+        const auto mes = cabecera_->mes();
+        if (cabecera_->empresa().empty() || cabecera_->nombre().empty() || !mes) return;
+        const auto filas =
+            engine::filasDeLaPersona(base(), cabecera_->empresa(), cabecera_->nombre(), *mes,
+                                     engine::TablaLiquidacion::Egresos);
+        std::vector<std::vector<std::string>> hab, des;
+        for (const auto& f : filas)
+            (f.tipo == "Hab" ? hab : des)
+                .push_back({std::to_string(f.codigo), f.concepto, f.unidad,
+                            common::numeroATexto(f.cant), engine::pesos(f.total)});
+        const std::vector<std::string> columnas = {"Código", "Concepto", "Unid.", "Cant.", "Total"};
+        haberes_->mostrar(columnas, hab, {0, 3, 4});
+        descuentos_->mostrar(columnas, des, {0, 3, 4});
+        for (auto* g : {haberes_, descuentos_})
+            g->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+        const auto c = engine::cifrasDelEgreso(filas);
+        for (auto [nombre, importe] : {std::pair{"totalhab", c.haberes},
+                                       {"totaldes", c.descuentos},
+                                       {"liquidoneto", c.liquido},
+                                       {"liquidoacobrar", c.aCobrar}})
+            cifras_.at(nombre)->setText(ventana::aQt(engine::pesos(importe)));
+    });
+}
+
+}  // namespace nomira::pantallas

@@ -1,0 +1,38 @@
+#pragma once
+// Form45 "Liquidación por Egreso": la pasada de una persona y una actividad
+// (sueldo de los días del último mes, aguinaldo hasta el egreso, licencia no
+// gozada y salario vacacional) y sus descuentos, en egresos. Usa la cabecera
+// de Form42; todo cálculo es del motor.
+#include <QLineEdit>
+#include <map>
+#include <string>
+
+#include "frame/ventana/grilla.h"
+#include "frame/ventana/grupo_opciones.h"
+#include "frame/ventana/pantalla.h"
+#include "screens/haberes/cabecera_mes.h"
+#include "screens/haberes/mes_abierto.h"
+
+namespace nomira::pantallas {
+
+class PantallaEgreso : public ventana::Pantalla {
+    Q_OBJECT
+  public:
+    explicit PantallaEgreso(frame::Sesion& sesion, QWidget* padre = nullptr);
+
+  private:
+    QWidget* armarBotones();
+    QWidget* armarTeclas();
+    void HabPerm_Click();
+    void DescPerm_Click();
+    void Consultar_Click();
+    void olvidar();
+
+    MesAbierto mes_;
+    CabeceraMes* cabecera_ = nullptr;
+    ventana::GrupoOpciones* actividad_ = nullptr;
+    ventana::Grilla *haberes_ = nullptr, *descuentos_ = nullptr;
+    std::map<std::string, QLineEdit*> cifras_;
+};
+
+}  // namespace nomira::pantallas
