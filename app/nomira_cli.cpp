@@ -24,6 +24,7 @@ int main(int argc, char** argv) {
     cli::registrarOrdenesLiquidacion(app, ctx);
     cli::registrarOrdenesAguinaldo(app, ctx);
     cli::registrarOrdenesVacacional(app, ctx);
+    cli::registrarOrdenesIncidencias(app, ctx);
     cli::registrarOrdenesDemo(app, ctx);
     cli::registrarOrdenesUsuario(app, ctx);
     cli::enCastellano(app);

@@ -21,43 +21,6 @@ bool esReliquidacionVacacional(const std::string& concepto) {
     return concepto == "RELIQ. SAL. VAC." || concepto == "RELIQ. SAL. VAC. POR LAUDO";
 }
 
-// Lo ganado en un mes del semestre que genera aguinaldo en la actividad.
-FilaMes filaDelMes(const MesPersona& mp, const common::Mes& mes, int actividad, bool convenio) {
-    const auto& libro = mp.libro();
-    Dinero monto;
-    std::string detalle;
-    const auto sumar = [&](const std::string& que, Dinero total) {
-        monto += total;
-        detalle += (detalle.empty() ? "" : ", ") + que + " " + pesos(total);
-    };
-    for (const auto& f : libro.filas(TablaLiquidacion::Habydesc, mes))
-        if (f.tipo == "Hab" && f.aguinaldo == "Si" && esDeLaActividad(f.concepto, actividad))
-            sumar(f.concepto, f.total);
-    const auto vacacional = "SALARIO VACACIONAL" + sufijoActividad(actividad);
-    for (const auto& f : libro.filas(TablaLiquidacion::Salvacacional, mes)) {
-        if (f.concepto != vacacional) continue;
-        const auto* c = mp.maestros().conceptos.porCodigo(f.codigo);
-        if (c && (c->aguinaldo == "Si" || convenio))
-            sumar(f.concepto + (c->aguinaldo == "Si" ? "" : " (grupo con convenio)"), f.total);
-    }
-    // La reliquidación del vacacional entra por su columna o por el convenio,
-    // además de lo que ya sumó como haber con aguinaldo.
-    if (actividad == 1)
-        for (const auto& f : libro.filas(TablaLiquidacion::Habydesc, mes))
-            if (esReliquidacionVacacional(f.concepto) && (f.aguinaldo == "Si" || convenio))
-                sumar(f.concepto + " (reliquidación del vacacional)", f.total);
-
-    FilaMes fila;
-    fila.concepto = conceptoAguinaldo(actividad);
-    fila.tipo = "Hab";
-    fila.total = monto;
-    fila.mes = mes.texto().substr(0, 2);
-    fila.aclab = std::to_string(actividad);
-    fila.explicacion = "lo que genera aguinaldo en el " + mes.texto() + ": " +
-                       (detalle.empty() ? "nada" : detalle) + "; total " + pesos(monto);
-    return fila;
-}
-
 FilaMes filaDeDescuento(const master::Concepto& c, const common::Mes& pago) {
     auto fila = filaDeConcepto(c, "Des");
     fila.mes = pago.texto().substr(0, 2);
@@ -98,6 +61,42 @@ ResultadoPersona resultadoDe(const MesPersona& mp) {
 
 }  // namespace
 
+FilaMes aguinaldoGeneradoEnElMes(const LibroPersona& libro, const Conceptos& conceptos,
+                                 const common::Mes& mes, int actividad, bool convenio) {
+    Dinero monto;
+    std::string detalle;
+    const auto sumar = [&](const std::string& que, Dinero total) {
+        monto += total;
+        detalle += (detalle.empty() ? "" : ", ") + que + " " + pesos(total);
+    };
+    for (const auto& f : libro.filas(TablaLiquidacion::Habydesc, mes))
+        if (f.tipo == "Hab" && f.aguinaldo == "Si" && esDeLaActividad(f.concepto, actividad))
+            sumar(f.concepto, f.total);
+    const auto vacacional = "SALARIO VACACIONAL" + sufijoActividad(actividad);
+    for (const auto& f : libro.filas(TablaLiquidacion::Salvacacional, mes)) {
+        if (f.concepto != vacacional) continue;
+        const auto* c = conceptos.porCodigo(f.codigo);
+        if (c && (c->aguinaldo == "Si" || convenio))
+            sumar(f.concepto + (c->aguinaldo == "Si" ? "" : " (grupo con convenio)"), f.total);
+    }
+    // La reliquidación del vacacional entra por su columna o por el convenio,
+    // además de lo que ya sumó como haber con aguinaldo.
+    if (actividad == 1)
+        for (const auto& f : libro.filas(TablaLiquidacion::Habydesc, mes))
+            if (esReliquidacionVacacional(f.concepto) && (f.aguinaldo == "Si" || convenio))
+                sumar(f.concepto + " (reliquidación del vacacional)", f.total);
+
+    FilaMes fila;
+    fila.concepto = conceptoAguinaldo(actividad);
+    fila.tipo = "Hab";
+    fila.total = monto;
+    fila.mes = mes.texto().substr(0, 2);
+    fila.aclab = std::to_string(actividad);
+    fila.explicacion = "lo que genera aguinaldo en el " + mes.texto() + ": " +
+                       (detalle.empty() ? "nada" : detalle) + "; total " + pesos(monto);
+    return fila;
+}
+
 MesesALeer mesesDelAguinaldo(const common::Mes& pago) {
     MesesALeer m;
     m.escrito = pago;
@@ -133,7 +132,8 @@ ResultadoPersona haberesDelAguinaldo(MesPersona& mp, int actividad) {
     if (!r.aviso.empty()) return r;
     const bool convenio = grupoConConvenio(mp.consejo.codigoGrupo, mp.consejo.codigoSubgrupo);
     for (const auto& mes : mesesDelSemestre(mp.mes, act.ingreso)) {
-        auto fila = filaDelMes(mp, mes, act.numero, convenio);
+        auto fila =
+            aguinaldoGeneradoEnElMes(libro, mp.maestros().conceptos, mes, act.numero, convenio);
         libro.escribir(TablaLiquidacion::Aguinaldos, mp.mes, fila);
         auto exp = fila.explicacion;
         r.filas.emplace_back(std::move(fila), std::move(exp));

@@ -37,6 +37,12 @@ struct ActividadAguinaldo {
 };
 ActividadAguinaldo actividadDe(const master::Persona& p, int actividad);
 
+// Lo que generó aguinaldo en un mes en la actividad (haberes con aguinaldo, el
+// salario vacacional y su reliquidación si el concepto o el convenio lo dicen),
+// como la fila del mes con su detalle. También lo promedia el IPD.
+FilaMes aguinaldoGeneradoEnElMes(const LibroPersona& libro, const Conceptos& conceptos,
+                                 const common::Mes& mes, int actividad, bool convenio);
+
 // Pasos del botón de haberes sobre lo leído, en memoria: con egresos en el mes
 // avisa y no hace nada; si no, tira los descuentos del aguinaldo de la
 // persona y, si le corresponde, escribe una fila por mes del semestre (aunque
