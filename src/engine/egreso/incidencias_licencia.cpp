@@ -1,10 +1,42 @@
 #include "engine/egreso/incidencias_licencia.h"
 
+#include "common/fechas.h"
+#include "common/texto.h"
 #include "engine/calculos/explicacion.h"
 #include "engine/mes/licencia_lector.h"
 
 namespace nomira::engine {
 inline namespace egreso {
+
+namespace {
+
+// Lo del año de egreso que cuenta para su licencia.
+EntradaLicenciaEgreso entradaDelEgreso(const ContextoFormula& ctx, const ActividadLicencia& a,
+                                       const DiasLicencia& dias, int anio) {
+    EntradaLicenciaEgreso e;
+    e.tiposueldo = ctx.persona->tiposueldo;
+    e.ingreso = a.ingreso;
+    e.egreso = *a.egreso;
+    e.pendientesAnterior = dias.cantdiaspendientes;
+    e.diasextras = dias.diasextras;
+    for (const auto& f : libroDe(ctx).filas(TablaLiquidacion::Habydesc, common::Mes{anio, 1},
+                                            common::Mes{anio, 12})) {
+        const auto c = common::mayusculas(f.concepto);
+        if (c == "LICENCIA") e.licenciaDelAnio += f.cant;
+        if (esAusencia(c)) e.ausenciasDelAnio += f.cant;
+        if (esDiaTrabajado(c, e.tiposueldo)) e.diasTrabajadosDelAnio += f.cant;
+    }
+    return e;
+}
+
+std::string valorDeLosDias(const char* concepto, double dias, double porDia,
+                           common::Dinero& monto) {
+    monto = common::Dinero::desdeDouble(dias * porDia);
+    return std::string(concepto) + ": " + numero(dias) + " días x " + pesos(porDia) + " = " +
+           pesos(monto) + "\r\n";
+}
+
+}  // namespace
 
 std::optional<IncidenciasLicencia> incidenciasDeLaLicencia(const ContextoFormula& ctx,
                                                            const common::Fecha& fecha,
@@ -19,6 +51,16 @@ std::optional<IncidenciasLicencia> incidenciasDeLaLicencia(const ContextoFormula
     r.importe = CalculoLicencia(ctx, numero(r.dias.cantdiaspendientes), consejo.grupo,
                                 consejo.subgrupo, dialogo);
     r.traza = r.dias.traza + r.importe.explicacion + "\r\n";
+
+    const auto actividad = actividadDeLicencia(*ctx.persona);
+    if (!actividad.egreso || common::anioPivote50(actividad.egreso->yy) != fecha.anio) return r;
+    r.egreso = CalculoLicenciaEgresos(entradaDelEgreso(ctx, actividad, r.dias, fecha.anio));
+    const double porDia = r.importe.jornal + r.importe.porDia;
+    r.traza += r.egreso->traza +
+               valorDeLosDias("LICENCIA NO GOZ AÑO ANTERIOR", r.egreso->diasAnterior, porDia,
+                              r.noGozadaAnterior) +
+               valorDeLosDias("LICENCIA NO GOZ AÑO ACTUAL", r.egreso->diasActual, porDia,
+                              r.noGozadaActual);
     return r;
 }
 

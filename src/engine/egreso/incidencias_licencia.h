@@ -9,6 +9,7 @@
 #include "common/fechas.h"
 #include "engine/calculos/calculo_licencia.h"
 #include "engine/calculos/licencia_dias.h"
+#include "engine/calculos/licencia_egreso.h"
 #include "engine/mes/lectura.h"
 #include "store/conexion.h"
 
@@ -21,12 +22,16 @@ inline constexpr const char* kFaltanCamposLicencia =
 struct IncidenciasLicencia {
     DiasLicencia dias;
     ImporteLicencia importe;  // de los días pendientes
-    std::string traza;        // líneas terminadas en CR LF
+    // Si egresa en el año: lo no gozado y lo del año, y lo que vale cada parte.
+    std::optional<LicenciaEgreso> egreso;
+    common::Dinero noGozadaAnterior, noGozadaActual;
+    std::string traza;  // líneas terminadas en CR LF
 };
 
 // Sobre lo leído: ctx apunta a la persona, sus filas (las del año anterior, las
 // del año y los doce meses antes de `fecha`) y los maestros. Nada si no le
-// corresponde licencia (el diálogo ya lo dijo).
+// corresponde licencia (el diálogo ya lo dijo). Quien egresa en el año de
+// `fecha` suma CalculoLicenciaEgresos y el valor de sus dos partes.
 std::optional<IncidenciasLicencia> incidenciasDeLaLicencia(const ContextoFormula& ctx,
                                                            const common::Fecha& fecha,
                                                            common::Dialogo& dialogo);
