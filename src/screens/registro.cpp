@@ -4,6 +4,7 @@
 #include "screens/aguinaldo/registro_aguinaldo.h"
 #include "screens/catalogos/registro_catalogos.h"
 #include "screens/conceptos/registro_conceptos.h"
+#include "screens/egreso/registro_egreso.h"
 #include "screens/empresas/registro_empresas.h"
 #include "screens/haberes/registro_haberes.h"
 #include "screens/obras/registro_obras.h"
@@ -19,6 +20,7 @@ void registrarTodas() {
     registrarPantallasAguinaldo();
     registrarPantallasCatalogos();
     registrarPantallasConceptos();
+    registrarPantallasEgreso();
     registrarPantallasEmpresas();
     registrarPantallasHaberes();
     registrarPantallasObras();

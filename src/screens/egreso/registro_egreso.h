@@ -1,0 +1,7 @@
+#pragma once
+
+namespace nomira::pantallas {
+
+void registrarPantallasEgreso();
+
+}  // namespace nomira::pantallas
