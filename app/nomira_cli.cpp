@@ -25,6 +25,7 @@ int main(int argc, char** argv) {
     cli::registrarOrdenesAguinaldo(app, ctx);
     cli::registrarOrdenesEgreso(app, ctx);
     cli::registrarOrdenesVacacional(app, ctx);
+    cli::registrarOrdenesIncidencias(app, ctx);
     cli::registrarOrdenesDemo(app, ctx);
     cli::registrarOrdenesUsuario(app, ctx);
     cli::enCastellano(app);

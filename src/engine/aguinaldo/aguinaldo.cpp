@@ -62,9 +62,8 @@ ResultadoPersona resultadoDe(const MesPersona& mp) {
 
 }  // namespace
 
-FilaMes aguinaldoDelMes(const MesPersona& mp, const common::Mes& mes, int actividad,
-                        bool convenio) {
-    const auto& libro = mp.libro();
+FilaMes aguinaldoGeneradoEnElMes(const LibroPersona& libro, const Conceptos& conceptos,
+                                 const common::Mes& mes, int actividad, bool convenio) {
     Dinero monto;
     std::string detalle;
     const auto sumar = [&](const std::string& que, Dinero total) {
@@ -77,7 +76,7 @@ FilaMes aguinaldoDelMes(const MesPersona& mp, const common::Mes& mes, int activi
     const auto vacacional = "SALARIO VACACIONAL" + sufijoActividad(actividad);
     for (const auto& f : libro.filas(TablaLiquidacion::Salvacacional, mes)) {
         if (f.concepto != vacacional) continue;
-        const auto* c = mp.maestros().conceptos.porCodigo(f.codigo);
+        const auto* c = conceptos.porCodigo(f.codigo);
         if (c && (c->aguinaldo == "Si" || convenio))
             sumar(f.concepto + (c->aguinaldo == "Si" ? "" : " (grupo con convenio)"), f.total);
     }
@@ -134,7 +133,8 @@ ResultadoPersona haberesDelAguinaldo(MesPersona& mp, int actividad) {
     if (!r.aviso.empty()) return r;
     const bool convenio = grupoConConvenio(mp.consejo.codigoGrupo, mp.consejo.codigoSubgrupo);
     for (const auto& mes : mesesDelSemestre(mp.mes, act.ingreso)) {
-        auto fila = aguinaldoDelMes(mp, mes, act.numero, convenio);
+        auto fila =
+            aguinaldoGeneradoEnElMes(libro, mp.maestros().conceptos, mes, act.numero, convenio);
         libro.escribir(TablaLiquidacion::Aguinaldos, mp.mes, fila);
         auto exp = fila.explicacion;
         r.filas.emplace_back(std::move(fila), std::move(exp));

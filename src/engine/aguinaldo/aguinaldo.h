@@ -37,11 +37,11 @@ struct ActividadAguinaldo {
 };
 ActividadAguinaldo actividadDe(const master::Persona& p, int actividad);
 
-// La fila de aguinaldo de un mes del semestre: lo ganado en él que genera
-// aguinaldo en la actividad (habydesc con aguinaldo "Si" y el sufijo de la
-// actividad, su salario vacacional por el concepto o el convenio y las
-// reliquidaciones del vacacional), con su explicación.
-FilaMes aguinaldoDelMes(const MesPersona& mp, const common::Mes& mes, int actividad, bool convenio);
+// Lo que generó aguinaldo en un mes en la actividad (haberes con aguinaldo, el
+// salario vacacional y su reliquidación si el concepto o el convenio lo dicen),
+// como la fila del mes con su detalle. También lo promedia el IPD.
+FilaMes aguinaldoGeneradoEnElMes(const LibroPersona& libro, const Conceptos& conceptos,
+                                 const common::Mes& mes, int actividad, bool convenio);
 
 // Pasos del botón de haberes sobre lo leído, en memoria: con egresos en el mes
 // avisa y no hace nada; si no, tira los descuentos del aguinaldo de la

@@ -100,6 +100,19 @@ bool cuentaEnDiasmes(const std::string& c, const std::string& tiposueldo) {
                   "FERIADO PAGO TRABAJADO 2DA ACT"});
 }
 
+void sumarIncidencia(std::map<long, IncidenciaLicencia>& porCodigo, const FilaMes& f) {
+    auto& inc = porCodigo[f.codigo];
+    if (inc.concepto.empty()) {
+        inc.codigo = f.codigo;
+        inc.concepto = f.concepto;
+        inc.unidad = f.unidad;
+    }
+    if (inc.unidad == "T")
+        inc.cant += f.cant;
+    else
+        inc.total += f.total;
+}
+
 ImporteLicencia calcularLicencia(const EntradaLicencia& e, const EvaluarIncidencia& evaluar) {
     ImporteLicencia r;
     r.diasmes = e.diasmes;
@@ -150,17 +163,7 @@ ImporteLicencia CalculoLicencia(const ContextoFormula& ctx, const std::string& t
         for (const auto& f : mes(m)) {
             const auto c = common::mayusculas(f.concepto);
             if (e.tiposueldo != "S" && cuentaEnDiasmes(c, e.tiposueldo)) e.diasmes += f.cant;
-            if (f.lic != "Si") continue;
-            auto& inc = porCodigo[f.codigo];
-            if (inc.concepto.empty()) {
-                inc.codigo = f.codigo;
-                inc.concepto = f.concepto;
-                inc.unidad = f.unidad;
-            }
-            if (inc.unidad == "T")
-                inc.cant += f.cant;
-            else
-                inc.total += f.total;
+            if (f.lic == "Si") sumarIncidencia(porCodigo, f);
         }
         if (e.tiposueldo == "S") e.diasmes += 30;
     }

@@ -3,6 +3,7 @@
 // salarios más lo que los conceptos con licencia dejaron por día en el último
 // año. También el SUELDO de un mes con licencia, que usa el mismo divisor.
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,7 @@
 #include "common/dinero.h"
 #include "common/fechas.h"
 #include "engine/formulas/formula.h"
+#include "engine/mes/filas_mes.h"
 #include "master/empresas.h"
 #include "store/conexion.h"
 
@@ -63,6 +65,9 @@ struct IncidenciaLicencia {
     common::Dinero total;
 };
 inline constexpr std::size_t kMaxIncidenciasLicencia = 50;
+// Suma la fila en la incidencia de su código; la primera fija concepto y
+// unidad. También la usan las incidencias del IPD.
+void sumarIncidencia(std::map<long, IncidenciaLicencia>& porCodigo, const FilaMes& f);
 
 struct EntradaLicencia {
     std::string tiposueldo;

@@ -72,7 +72,8 @@ std::pair<Dinero, std::string> aguinaldoHastaElEgreso(const MesPersona& mp,
     std::string detalle;
     for (const auto& m : mesesDelSemestre(pago, act.ingreso)) {
         if (!(m < mes)) continue;
-        const auto f = aguinaldoDelMes(mp, m, act.numero, convenio);
+        const auto f =
+            aguinaldoGeneradoEnElMes(mp.libro(), mp.maestros().conceptos, m, act.numero, convenio);
         suma += f.total;
         detalle += m.texto() + " " + pesos(f.total) + ", ";
     }
