@@ -56,11 +56,8 @@ void registrarOrdenesLiquidacion(CLI::App& app, Contexto& ctx);
 void registrarOrdenesVacacional(CLI::App& app, Contexto& ctx);
 void registrarOrdenesDemo(CLI::App& app, Contexto& ctx);
 void registrarOrdenesAguinaldo(CLI::App& app, Contexto& ctx);
-<<<<<<< HEAD
 void registrarOrdenesEgreso(CLI::App& app, Contexto& ctx);
-=======
 void registrarOrdenesIncidencias(CLI::App& app, Contexto& ctx);
->>>>>>> incidencias
 
 // Las filas del aguinaldo de una persona en el pago con sus cifras (liquidacion
 // --tabla aguinaldos).
