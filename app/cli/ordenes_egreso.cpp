@@ -15,6 +15,7 @@ namespace {
 struct OpcionesEgreso {
     std::string empresa, nombre, mes;
     int actividad = 1;
+    std::string incidencias = "si", vacacional = "no", licencia = "no";
     bool descuentos = false;
 };
 
@@ -33,8 +34,10 @@ int egreso(const Contexto& ctx, const OpcionesEgreso& o) {
     if (!empresaAceptada(*base, o.empresa)) return 1;
     auto dialogo = ctx.dialogo();
     try {
-        const auto r = engine::egresoDeUnaPersona(*base, o.empresa, o.nombre, *mes, {o.actividad},
-                                                  o.descuentos, dialogo);
+        const engine::OpcionesEgreso op{o.actividad, o.incidencias == "si", o.licencia == "si",
+                                        o.vacacional == "si"};
+        const auto r =
+            engine::egresoDeUnaPersona(*base, o.empresa, o.nombre, *mes, op, o.descuentos, dialogo);
         for (const auto& f : r.filas) mostrarFila(f.fila);
         return r.hecho ? 0 : 1;
     } catch (const common::Fallo& f) {
@@ -71,6 +74,12 @@ void registrarOrdenesEgreso(CLI::App& app, Contexto& ctx) {
     eg->add_option("--mes", e.mes, "Mes del egreso, MM/aa")->required();
     eg->add_option("--actividad", e.actividad, "Actividad laboral: 1, 2 o 3")
         ->check(CLI::Range(1, 3));
+    for (auto [opcion, destino, ayuda] :
+         {std::tuple{"--incidencias", &e.incidencias, "El IPD de un despido lleva sus incidencias"},
+          {"--licencia", &e.licencia, "Al IPD se le suma la licencia no gozada"},
+          {"--vacacional", &e.vacacional, "Al IPD se le suma el salario vacacional"}})
+        eg->add_option(opcion, *destino, std::string(ayuda) + ": si o no")
+            ->check(CLI::IsMember({"si", "no"}));
     eg->add_flag("--descuentos", e.descuentos, "Genera también sus descuentos");
     eg->fallthrough();
     eg->callback([&ctx] { ctx.accion = [&ctx] { return egreso(ctx, e); }; });

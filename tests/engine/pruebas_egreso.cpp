@@ -54,6 +54,7 @@ class Egreso : public pruebas::EscenarioMes {
         concepto(72, "LICENCIA NO GOZ AÑO ACTUAL", "G", "0", "Hab", "I", "No", "Si", "Si");
         concepto(600, "AGUINALDO", "G", "0", "Hab", "I", "No", "Si", "Si");
         concepto(606, "SALARIO VACACIONAL", "G", "0", "Hab", "I", "No", "No", "Si");
+        concepto(70, "IPD", "G", "0", "Hab", "I", "No", "No", "No");
         // Ingresó en 2020 y egresa el 31/03/26: 5,83 años al 31/12/25, un día extra.
         persona("PEREZ, JUAN", {{"sueldo", "30000"},
                                 {"tiposueldo", "S"},
@@ -98,7 +99,23 @@ TEST_P(Egreso, UnDespidoConSusDiasAguinaldoYLicencia) {
     // Sobre el neto: gravado sin el aguinaldo 57000 pasa 2,5 BPC, SNIS 4,5%;
     // 27000 x (1 - (4,5 + 15 + 0,1) / 100) = 21708.
     EXPECT_EQ(e.at("SALARIO VACACIONAL"), 21708);
-    EXPECT_EQ(e.size(), 5u);
+    // El despido con 6,08 años: CantIpd 6. Año móvil de 12 meses: incidencias
+    // (SUELDO lleva ipd) 90000 / 12 = 7500; sueldo 30000; aguinaldo
+    // 90000 / 12 / 12 = 625; sin antigüedad ni alimentación: 38125 x 6.
+    EXPECT_EQ(e.at("IPD"), 228750);
+    EXPECT_EQ(e.size(), 6u);
+}
+
+TEST_P(Egreso, SinDespidoNoHayIpdYSinIncidenciasElMontoEsMenor) {
+    ejecutar("UPDATE personal SET motivoeg = 'Renuncia'");
+    ASSERT_TRUE(pasada().hecho);
+    EXPECT_FALSE(egresos().count("IPD"));
+    // Vuelve a ser despido, sin incidencias: (30000 + 625) x 6; la pasada
+    // anterior no deja su fila de IPD repetida.
+    ejecutar("UPDATE personal SET motivoeg = 'Despido'");
+    ASSERT_TRUE(
+        egresoDeUnaPersona(*base, "ACME", "PEREZ, JUAN", marzo, {1, false}, false, dialogo).hecho);
+    EXPECT_EQ(egresos().at("IPD"), 183750);
 }
 
 TEST_P(Egreso, MalaConductaPierdeElAguinaldoYGuardaLaLicencia) {
@@ -136,12 +153,15 @@ TEST_P(Egreso, OtraPasadaReemplazaLoSuyoYDejaLoTecleado) {
     const auto e = egresos();
     EXPECT_EQ(e.at("PREMIO"), 500);
     EXPECT_EQ(e.at("SUELDO"), 33000);
-    // Con descuentos: MONTEPIO 15% de todo lo gravado.
-    double gravado = 0;
-    for (const auto& [c, t] : e)
-        if (c != "SALARIO VACACIONAL" && c.rfind("MONTEPIO", 0) && c.rfind("SNIS", 0) &&
-            c.rfind("FRL", 0) && c.rfind("IRPF", 0))
-            gravado += t;
+    // Con descuentos: MONTEPIO 15% de los haberes gravados del egreso (no el
+    // vacacional ni el IPD, que no lo son).
+    const double gravado = base->consulta(
+                                   "SELECT SUM(total) AS s FROM egresos WHERE tipo = "
+                                   "'Hab' AND gravado = 'Si'")
+                               .primera()
+                               .real("s");
+    EXPECT_EQ(gravado, e.at("SUELDO") + e.at("AGUINALDO") + e.at("LICENCIA NO GOZ AÑO ANTERIOR") +
+                           e.at("LICENCIA NO GOZ AÑO ACTUAL") + e.at("PREMIO"));
     EXPECT_DOUBLE_EQ(e.at("MONTEPIO 15%"), gravado * 15 / 100);
 }
 

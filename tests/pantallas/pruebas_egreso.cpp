@@ -25,12 +25,13 @@ TEST_F(PantallaEgreso, LaPasadaYSusDescuentosLleganALaPantalla) {
     teclear("nombre", "PEREZ, JUAN");
     pulsar("HabPerm");
     EXPECT_EQ(columna("haberes", 1),
-              (std::vector<std::string>{"SUELDO", "LICENCIA NO GOZ AÑO ANTERIOR",
+              (std::vector<std::string>{"SUELDO", "IPD", "LICENCIA NO GOZ AÑO ANTERIOR",
                                         "LICENCIA NO GOZ AÑO ACTUAL", "AGUINALDO",
                                         "SALARIO VACACIONAL"}));
     // Sueldo 30000; aguinaldo 30000 / 12 = 2500; licencia 21 + 6 días de 1000;
-    // vacacional 27000 x (1 - 19,6%) = 21708. Suma 81208.
-    EXPECT_EQ(texto("totalhab"), "81,208.00");
+    // vacacional 27000 x (1 - 19,6%) = 21708; el despido con 6,08 años, sin
+    // historia en el año móvil: 6 x 30000 = 180000. Suma 261208.
+    EXPECT_EQ(texto("totalhab"), "261,208.00");
     EXPECT_TRUE(columna("descuentos", 1).empty());
 
     pulsar("DescPerm");

@@ -113,12 +113,13 @@ Ipd avisar(common::Dialogo& dialogo, const char* texto) {
 EgresoDeLaActividad egresoDe(const master::Persona& p, int actividad) {
     EgresoDeLaActividad a;
     a.numero = actividad == 2 || actividad == 3 ? actividad : 1;
+    a.sufijo = sufijoActividad(a.numero);
     const auto elegir = [&](const std::string& x1, const std::string& x2, const std::string& x3) {
         return a.numero == 2 ? x2 : a.numero == 3 ? x3 : x1;
     };
-    a.ingreso = Fecha::desdeTexto(elegir(p.fechaing, p.fechaing2, p.fechaing3));
-    a.egreso = Fecha::desdeTexto(elegir(p.fechaeg, p.fechaeg2, p.fechaeg3));
-    a.motivoeg = elegir(p.motivoeg, p.motivoeg2, p.motivoeg3);
+    a.ingreso = fechaDeIngreso(elegir(p.fechaing, p.fechaing2, p.fechaing3));
+    a.egreso = fechaDeEgreso(elegir(p.fechaeg, p.fechaeg2, p.fechaeg3));
+    a.motivoeg = common::textoDeCatalogo(elegir(p.motivoeg, p.motivoeg2, p.motivoeg3));
     a.antiguedad = common::textoANumero(elegir(p.antiguedad, p.antiguedad2, p.antiguedad3));
     return a;
 }

@@ -36,9 +36,12 @@ struct OpcionesIpd {
     common::Dinero licencia, salVacacional;
 };
 
-// Lo que dice la persona de una actividad: sus fechas, el motivo y los años.
+// Lo que dice la persona de una actividad: sus fechas (un año de dos cifras de
+// ingreso es 19yy de 50 a 99, el de egreso siempre 20yy), el motivo (el texto
+// del catálogo) y los años.
 struct EgresoDeLaActividad {
     int numero = 1;
+    std::string sufijo;  // "", " 2DA ACT", " 3RA ACT"
     std::optional<common::Fecha> ingreso, egreso;
     std::string motivoeg;
     double antiguedad = 0;

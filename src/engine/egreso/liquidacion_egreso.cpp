@@ -31,7 +31,7 @@ namespace {
 std::set<std::string> conceptosDeLaPasada(const std::string& sufijo) {
     std::set<std::string> c;
     for (const char* base : {"SUELDO", "AGUINALDO", "LICENCIA NO GOZ AÑO ANTERIOR",
-                             "LICENCIA NO GOZ AÑO ACTUAL", "SALARIO VACACIONAL"})
+                             "LICENCIA NO GOZ AÑO ACTUAL", "SALARIO VACACIONAL", "IPD"})
         c.insert(base + sufijo);
     return c;
 }
@@ -62,7 +62,7 @@ Dinero haberesDelMesConAguinaldo(const MesPersona& mp, int actividad) {
 // CalculoAguinaldo: el semestre que corre al egreso, sus meses antes del egreso
 // y lo del mes del egreso, dividido 12.
 std::pair<Dinero, std::string> aguinaldoHastaElEgreso(const MesPersona& mp,
-                                                      const ActividadEgreso& act) {
+                                                      const EgresoDeLaActividad& act) {
     const auto mes = mp.mes;
     const common::Mes pago = mes.mes <= 5    ? common::Mes{mes.anio, 6}
                              : mes.mes <= 11 ? common::Mes{mes.anio, 12}
@@ -107,7 +107,7 @@ struct DiasNoGozados {
 };
 
 // Los días de licencia no gozados del año anterior y los generados en el del egreso.
-DiasNoGozados diasNoGozados(const MesPersona& mp, const ActividadEgreso& act,
+DiasNoGozados diasNoGozados(const MesPersona& mp, const EgresoDeLaActividad& act,
                             common::Dialogo& dialogo) {
     DiasNoGozados d;
     const auto persona = conActividad(*mp.persona, act.numero);
@@ -148,31 +148,40 @@ DiasNoGozados diasNoGozados(const MesPersona& mp, const ActividadEgreso& act,
 
 }  // namespace
 
+namespace {
+
+// Los meses de la pasada según las fechas de la ficha (si la persona existe).
+MesesALeer mesesDeLaPersona(store::Conexion& base, const std::string& empresa,
+                            const std::string& nombre, const common::Mes& mes, int actividad) {
+    const auto ficha = master::leerPersona(base, empresa, nombre);
+    if (!ficha) return mesesDelEgreso(mes, {}, {});
+    const auto a = egresoDe(*ficha, actividad);
+    return mesesDelEgreso(mes, a.ingreso, a.egreso);
+}
+
+}  // namespace
+
 std::string mensajeFaltaConceptoPermanente(const std::string& concepto) {
     return "Deberá agregar antes el concepto " + concepto +
            " o sino eliminarlo de ConceptosPermanentesxPersonal.";
 }
 
-MesesALeer mesesDelEgreso(const common::Mes& mes) {
+MesesALeer mesesDelEgreso(const common::Mes& mes, const std::optional<common::Fecha>& ingreso,
+                          const std::optional<common::Fecha>& egreso) {
     MesesALeer m;
     m.escrito = mes;
     const common::Mes enero{mes.anio, 1}, diciembre{mes.anio, 12};
     for (auto& t : m.tramos) t = {enero, diciembre};
     for (const auto t : {TablaLiquidacion::Habydesc, TablaLiquidacion::Salvacacional})
         m.tramos[static_cast<std::size_t>(t)] = {common::Mes{mes.anio - 1, 1}, diciembre};
+    if (!ingreso || !egreso || common::Mes::de(*egreso) != mes) return m;
+    // Lo que mira el IPD, que puede empezar antes (los períodos desde el ingreso).
+    const auto ipd = mesesDelIpd(*ingreso, *egreso);
+    for (std::size_t i = 0; i < m.tramos.size(); ++i) {
+        m.tramos[i].first = std::min(m.tramos[i].first, ipd.tramos[i].first);
+        m.tramos[i].second = std::max(m.tramos[i].second, ipd.tramos[i].second);
+    }
     return m;
-}
-
-ActividadEgreso actividadDeEgreso(const master::Persona& p, int actividad) {
-    ActividadEgreso a;
-    a.numero = actividad == 2 || actividad == 3 ? actividad : 1;
-    a.sufijo = sufijoActividad(a.numero);
-    const bool dos = a.numero == 2, tres = a.numero == 3;
-    a.ingreso = fechaDeIngreso(dos ? p.fechaing2 : tres ? p.fechaing3 : p.fechaing);
-    a.egreso = fechaDeEgreso(dos ? p.fechaeg2 : tres ? p.fechaeg3 : p.fechaeg);
-    a.motivo = common::textoDeCatalogo(dos ? p.motivoeg2 : tres ? p.motivoeg3 : p.motivoeg);
-    a.antiguedad = common::textoANumero(dos ? p.antiguedad2 : tres ? p.antiguedad3 : p.antiguedad);
-    return a;
 }
 
 ResultadoPersona haberesDelEgreso(MesPersona& mp, ContextoFormula& ctx,
@@ -187,8 +196,8 @@ ResultadoPersona haberesDelEgreso(MesPersona& mp, ContextoFormula& ctx,
         return r;
     };
     auto& libro = mp.libro();
-    const auto act = actividadDeEgreso(*mp.persona, opciones.actividad);
-    if (!act.ingreso || !act.egreso || act.motivo.empty() || act.antiguedad == 0)
+    const auto act = egresoDe(*mp.persona, opciones.actividad);
+    if (!act.ingreso || !act.egreso || act.motivoeg.empty() || act.antiguedad == 0)
         return avisar(kFaltanDatosEgreso);
     if (common::Mes::de(*act.egreso) != mp.mes) return avisar(kMesDistintoDelEgreso);
     if (!libro.filas(TablaLiquidacion::Habydesc, mp.mes).empty()) return avisar(kConHaberesDelMes);
@@ -219,7 +228,7 @@ ResultadoPersona haberesDelEgreso(MesPersona& mp, ContextoFormula& ctx,
     }
 
     // El aguinaldo hasta el egreso; quien cesa por mala conducta lo pierde.
-    if (act.motivo != kCeseMalaConducta) {
+    if (act.motivoeg != kCeseMalaConducta) {
         auto [aguinaldo, exp] = aguinaldoHastaElEgreso(mp, act);
         agregar(escribirHaber(mp, "AGUINALDO" + act.sufijo, 1, aguinaldo, exp));
     }
@@ -241,6 +250,26 @@ ResultadoPersona haberesDelEgreso(MesPersona& mp, ContextoFormula& ctx,
                           vacacional,
                           "(" + pesos(anterior) + " + " + pesos(actual) + ") x (1 - " +
                               numero(tasas) + "% de aportes) = " + pesos(vacacional)));
+
+    // El despido: la indemnización con sus incidencias.
+    if (common::mayusculas(act.motivoeg) == "DESPIDO") {
+        OpcionesIpd op;
+        op.actividad = act.numero;
+        op.incidencias = opciones.incidencias;
+        if (opciones.licencia) op.licencia = anterior + actual;
+        if (opciones.vacacional) op.salVacacional = vacacional;
+        const auto ipd = CalculoIpd(*mp.persona, libro, mp.maestros(), *act.egreso, op, dialogo);
+        if (!ipd.aviso.empty()) {
+            // El mensaje ya se dijo; lo que la pasada cambió en memoria no se escribe.
+            r.filas.clear();
+            r.aviso = ipd.aviso;
+            r.detenido = true;
+            return r;
+        }
+        if (ipd.resultado)
+            agregar(escribirHaber(mp, "IPD" + act.sufijo, ipd.resultado->cant.cant,
+                                  ipd.resultado->totalIpd, ipd.traza()));
+    }
     r.hecho = true;
     return r;
 }
@@ -292,8 +321,9 @@ ResultadoPersona egresoDeUnaPersona(store::Conexion& base, const std::string& em
                                     const OpcionesEgreso& opciones, bool conDescuentos,
                                     common::Dialogo& dialogo) {
     return liquidarUnaPersona(
-        base, empresa, nombre, mes, mesesDelEgreso(mes), kFaltanCamposHaberesAguinaldo, dialogo,
-        [&](MesPersona& mp, ContextoFormula& ctx) {
+        base, empresa, nombre, mes,
+        mesesDeLaPersona(base, empresa, nombre, mes, opciones.actividad),
+        kFaltanCamposHaberesAguinaldo, dialogo, [&](MesPersona& mp, ContextoFormula& ctx) {
             auto r = haberesDelEgreso(mp, ctx, opciones, dialogo);
             if (!r.hecho || !conDescuentos) return r;
             auto d = descuentosDelEgreso(mp, ctx, dialogo);
@@ -306,7 +336,7 @@ ResultadoPersona egresoDeUnaPersona(store::Conexion& base, const std::string& em
 ResultadoPersona descuentosEgresoDeUnaPersona(store::Conexion& base, const std::string& empresa,
                                               const std::string& nombre, const common::Mes& mes,
                                               common::Dialogo& dialogo) {
-    return liquidarUnaPersona(base, empresa, nombre, mes, mesesDelEgreso(mes),
+    return liquidarUnaPersona(base, empresa, nombre, mes, mesesDelEgreso(mes, {}, {}),
                               kFaltanCamposDescuentosAguinaldo, dialogo,
                               [&](MesPersona& mp, ContextoFormula& ctx) {
                                   return descuentosDelEgreso(mp, ctx, dialogo);

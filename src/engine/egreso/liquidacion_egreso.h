@@ -9,6 +9,7 @@
 
 #include "common/dialogo.h"
 #include "common/fechas.h"
+#include "engine/egreso/ipd.h"
 #include "engine/mes/lectura.h"
 #include "engine/mes/mes_persona.h"
 #include "store/conexion.h"
@@ -24,30 +25,21 @@ inline constexpr const char* kMesDistintoDelEgreso =
 inline constexpr const char* kConHaberesDelMes =
     "El funcionario ya tiene liquidado conceptos en Hab.y Desc. Para hacer la liquidación deberá "
     "eliminarlos de Hab.y Desc. y agregarlos en Egresos.";
-inline constexpr const char* kJornalesManual =
-    "Debe ingresar el concepto Jornales en forma manual.";
-inline constexpr const char* kHorasManual =
-    "Debe ingresar los conceptos HORAS y JORNADAS EN EL MES en forma manual.";
 // "Deberá agregar antes el concepto <concepto> o sino eliminarlo de ConceptosPermanentesxPersonal."
 std::string mensajeFaltaConceptoPermanente(const std::string& concepto);
 
 // Lo que lee una pasada: habydesc desde enero del año anterior (la licencia del
-// año anterior y el semestre del aguinaldo), salvacacional igual, y egresos y
-// aguinaldos del año (el cierre del IRPF).
-MesesALeer mesesDelEgreso(const common::Mes& mes);
+// año anterior y el semestre del aguinaldo), salvacacional igual, egresos y
+// aguinaldos del año (el cierre del IRPF), y lo que mira el IPD desde el ingreso.
+MesesALeer mesesDelEgreso(const common::Mes& mes, const std::optional<common::Fecha>& ingreso,
+                          const std::optional<common::Fecha>& egreso);
 
-// La actividad que se liquida, con sus datos de la ficha.
-struct ActividadEgreso {
-    int numero = 1;
-    std::string sufijo;  // "", " 2DA ACT", " 3RA ACT"
-    std::optional<common::Fecha> ingreso, egreso;
-    std::string motivo;
-    double antiguedad = 0;
-};
-ActividadEgreso actividadDeEgreso(const master::Persona& p, int actividad);
-
+// La actividad, y del IPD de un despido: si lleva sus incidencias, y si se le
+// suman la licencia no gozada y el salario vacacional de la pasada.
 struct OpcionesEgreso {
     int actividad = 1;
+    bool incidencias = true;
+    bool licencia = false, vacacional = false;
 };
 
 // Los haberes de la pasada sobre lo leído, en memoria: reemplazan en el mes las

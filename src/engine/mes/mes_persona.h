@@ -109,6 +109,9 @@ struct ResultadoPersona {
     bool hecho = false;
     std::string aviso;
     std::vector<FilaLiquidada> filas;
+    // Un mensaje detuvo el cálculo después de cambiar filas en memoria: no se
+    // escribe nada de esta persona.
+    bool detenido = false;
 };
 
 }  // namespace mes

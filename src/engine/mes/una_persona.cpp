@@ -29,6 +29,7 @@ ResultadoPersona liquidarUnaPersona(store::Conexion& base, const std::string& em
     }
     if (const auto m = sueldoNoNumerico(*mp->persona)) return avisar(*m);
     r = paso(*mp, ctx);
+    if (r.detenido) return r;
     escribirLibro(base, mp->libro());
     t.confirmar();
     return r;

@@ -16,7 +16,7 @@ namespace nomira::engine {
 inline namespace mes {
 
 // El cálculo de la persona sobre lo leído. Lo que deje cambiado en su libro se
-// escribe; un paso que se detiene por un mensaje no debe haber cambiado nada.
+// escribe, salvo que un mensaje lo haya detenido (`detenido`).
 using PasoPersona = std::function<ResultadoPersona(MesPersona&, ContextoFormula&)>;
 
 // Sin empresa o persona avisa `faltanCampos`; sin ficha, el mensaje de la

@@ -20,6 +20,12 @@ PantallaEgreso::PantallaEgreso(frame::Sesion& sesion, QWidget* padre)
     cabecera_ = new CabeceraMes(*this, mes_, "&F.MesAct.", false);
     actividad_ = new ventana::GrupoOpciones("Ac.Lab", {{"1", "&1"}, {"2", "&2"}, {"3", "&3"}});
     actividad_->setObjectName("aclab");
+    incidencias_ = ventana::GrupoOpciones::siNo("Incidencias IPD");
+    incidencias_->setObjectName("incidencias");
+    vacacional_ = new ventana::GrupoOpciones("Vac.", {{"No", "No"}, {"Si", "Sí"}});
+    vacacional_->setObjectName("vacacional");
+    licencia_ = new ventana::GrupoOpciones("Lic.", {{"No", "No"}, {"Si", "Sí"}});
+    licencia_->setObjectName("licencia");
     const auto g = grillasLiquidacion("Haberes");
     haberes_ = g.haberes;
     descuentos_ = g.descuentos;
@@ -27,7 +33,8 @@ PantallaEgreso::PantallaEgreso(frame::Sesion& sesion, QWidget* padre)
     auto* todo = new QVBoxLayout(lienzo());
     todo->addWidget(cabecera_);
     auto* opciones = new QHBoxLayout;
-    opciones->addWidget(actividad_);
+    for (auto* grupo : {actividad_, incidencias_, vacacional_, licencia_})
+        opciones->addWidget(grupo);
     opciones->addStretch();
     todo->addLayout(opciones);
     todo->addWidget(g.contenedor, 1);
@@ -61,10 +68,12 @@ QWidget* PantallaEgreso::armarTeclas() {
 void PantallaEgreso::HabPerm_Click() {
     intentar("HabPerm_Click", [this] {
         if (!cabecera_->completa(engine::kFaltanCamposHaberesAguinaldo)) return;
-        engine::egresoDeUnaPersona(
-            base(), cabecera_->empresa(), cabecera_->nombre(), *cabecera_->mes(),
-            {static_cast<int>(common::textoANumero(ventana::deQt(actividad_->valor())))}, false,
-            dialogo());
+        const engine::OpcionesEgreso op{
+            static_cast<int>(common::textoANumero(ventana::deQt(actividad_->valor()))),
+            incidencias_->valor() == "Si", licencia_->valor() == "Si",
+            vacacional_->valor() == "Si"};
+        engine::egresoDeUnaPersona(base(), cabecera_->empresa(), cabecera_->nombre(),
+                                   *cabecera_->mes(), op, false, dialogo());
         Consultar_Click();
     });
 }

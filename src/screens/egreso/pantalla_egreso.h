@@ -30,7 +30,8 @@ class PantallaEgreso : public ventana::Pantalla {
 
     MesAbierto mes_;
     CabeceraMes* cabecera_ = nullptr;
-    ventana::GrupoOpciones* actividad_ = nullptr;
+    ventana::GrupoOpciones *actividad_ = nullptr, *incidencias_ = nullptr, *vacacional_ = nullptr,
+                           *licencia_ = nullptr;
     ventana::Grilla *haberes_ = nullptr, *descuentos_ = nullptr;
     std::map<std::string, QLineEdit*> cifras_;
 };
