@@ -20,7 +20,7 @@ PantallaEgreso::PantallaEgreso(frame::Sesion& sesion, QWidget* padre)
     cabecera_ = new CabeceraMes(*this, mes_, "&F.MesAct.", false);
     actividad_ = new ventana::GrupoOpciones("Ac.Lab", {{"1", "&1"}, {"2", "&2"}, {"3", "&3"}});
     actividad_->setObjectName("aclab");
-    incidencias_ = ventana::GrupoOpciones::siNo("Incidencias IPD");
+    incidencias_ = new ventana::GrupoOpciones("Incidencias IPD", {{"Si", "Sí"}, {"No", "No"}});
     incidencias_->setObjectName("incidencias");
     vacacional_ = new ventana::GrupoOpciones("Vac.", {{"No", "No"}, {"Si", "Sí"}});
     vacacional_->setObjectName("vacacional");
