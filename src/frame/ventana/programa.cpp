@@ -12,6 +12,7 @@
 #include "common/numeros.h"
 #include "common/reloj.h"
 #include "engine/aguinaldo/aguinaldo.h"
+#include "engine/egreso/liquidacion_egreso.h"
 #include "engine/mes/liquidacion_empresa.h"
 #include "engine/mes/mes_en_pantalla.h"
 #include "engine/vacacional/renglon_vacacional.h"
@@ -24,6 +25,7 @@
 #include "frame/ventana/primer_usuario.h"
 #include "frame/ventana/ventana_principal.h"
 #include "master/estudio_demo.h"
+#include "master/personal.h"
 
 namespace nomira::ventana {
 
@@ -58,6 +60,24 @@ void vacacionalDeMuestra(store::Conexion& base, const std::string& empresa, cons
     }
 }
 
+// Un despido de muestra: la primera mensual de la empresa egresa el último día
+// del mes anterior al liquidado (que no tiene filas), con su pasada y sus
+// descuentos; así las pantallas del egreso y de sus incidencias tienen a quién mostrar.
+void egresoDeMuestra(store::Conexion& base, const std::string& empresa, const common::Mes& mes,
+                     common::Dialogo& dialogo) {
+    const auto salida = mes.anterior();
+    for (const auto& nombre : engine::nombresDelMes(base, empresa, salida)) {
+        auto p = master::leerPersona(base, empresa, nombre);
+        if (!p || p->tiposueldo != "S" || !p->fechaeg.empty()) continue;
+        p->fechaeg = salida.ultimoDia().iso();
+        p->motivoeg = "Despido";
+        p->antiguedad = "6";
+        master::actualizarPersona(base, *p);
+        engine::egresoDeUnaPersona(base, empresa, nombre, salida, {}, true, dialogo);
+        return;
+    }
+}
+
 // Capturas: una base propia, usuario de categoría 1. Sin base indicada, una
 // nueva con el estudio de demostración y su mes anterior liquidado, para que
 // las pantallas se vean con datos.
@@ -80,6 +100,7 @@ int capturar(const std::string& carpeta, const std::string& base) {
             engine::aguinaldoDeLaEmpresa(*sesion.base, e, pago, 1, dialogo);
         }
         vacacionalDeMuestra(*sesion.base, master::empresasDemo().front(), mes, dialogo);
+        egresoDeMuestra(*sesion.base, master::empresasDemo().back(), mes, dialogo);
     } else {
         sesion.base = frame::abrirBase(base);
     }

@@ -121,4 +121,13 @@ void PantallaEgreso::Consultar_Click() {
     });
 }
 
+void PantallaEgreso::prepararCaptura() {
+    cabecera_->elegirUnMesConFilas(
+        [this](const std::string& empresa, const std::string& nombre, const common::Mes& mes) {
+            return !engine::filasDeLaPersona(base(), empresa, nombre, mes,
+                                             engine::TablaLiquidacion::Egresos)
+                        .empty();
+        });
+}
+
 }  // namespace nomira::pantallas

@@ -20,6 +20,9 @@ class PantallaEgreso : public ventana::Pantalla {
   public:
     explicit PantallaEgreso(frame::Sesion& sesion, QWidget* padre = nullptr);
 
+    // Para la captura: una persona con su egreso liquidado.
+    Q_INVOKABLE void prepararCaptura();
+
   private:
     QWidget* armarBotones();
     QWidget* armarTeclas();

@@ -10,10 +10,12 @@
 #include <QVBoxLayout>
 
 #include "common/numeros.h"
+#include "common/texto.h"
 #include "engine/egreso/incidencias_licencia.h"
 #include "engine/egreso/ipd.h"
 #include "frame/ventana/texto_qt.h"
 #include "master/empresas.h"
+#include "master/personal.h"
 
 namespace nomira::pantallas {
 
@@ -160,6 +162,24 @@ void PantallaIncidencias::Generar_Click() {
         }
         texto_->setPlainText(aQt(traza_).replace("\r\n", "\n"));
     });
+}
+
+void PantallaIncidencias::prepararCaptura() {
+    for (int e = 1; e < empresa_->count(); ++e) {
+        empresa_->setCurrentIndex(e);
+        CargarNombredelPersonal();
+        for (int n = 1; n < nombre_->count(); ++n) {
+            const auto p = master::leerPersona(base(), deQt(empresa_), deQt(nombre_->itemText(n)));
+            if (!p) continue;
+            const auto a = engine::egresoDe(*p, 1);
+            const bool despido = common::mayusculas(a.motivoeg) == "DESPIDO";
+            if (!a.egreso || (clase_ == ClaseIncidencias::Ipd && !despido)) continue;
+            nombre_->setCurrentIndex(n);
+            fecha_->setText(aQt(a.egreso->ddmmyy()));
+            Generar_Click();
+            return;
+        }
+    }
 }
 
 void PantallaIncidencias::Imprimir_Click() {

@@ -22,6 +22,10 @@ class PantallaIncidencias : public ventana::Pantalla {
   public:
     PantallaIncidencias(frame::Sesion& sesion, ClaseIncidencias clase, QWidget* padre = nullptr);
 
+    // Para la captura: la primera persona despedida (o egresada, en la de la
+    // licencia) con su cálculo generado.
+    Q_INVOKABLE void prepararCaptura();
+
     // La traza como la da el motor, con sus CR LF (la caja muestra saltos de línea).
     const std::string& traza() const { return traza_; }
 
