@@ -8,6 +8,7 @@
 
 #include "engine/calculos/egreso.h"
 #include "engine/egreso/liquidacion_egreso.h"
+#include "engine/mes/renglon.h"
 #include "pruebas_descuentos_escenario.h"
 
 namespace nomira::engine {
@@ -163,6 +164,44 @@ TEST_P(Egreso, OtraPasadaReemplazaLoSuyoYDejaLoTecleado) {
     EXPECT_EQ(gravado, e.at("SUELDO") + e.at("AGUINALDO") + e.at("LICENCIA NO GOZ AÑO ANTERIOR") +
                            e.at("LICENCIA NO GOZ AÑO ACTUAL") + e.at("PREMIO"));
     EXPECT_DOUBLE_EQ(e.at("MONTEPIO 15%"), gravado * 15 / 100);
+}
+
+// Un por hora teclea sus horas en el egreso: van a egresos con sus jornadas, y
+// la pasada las deja y avisa que se teclean a mano.
+TEST_P(Egreso, LasFilasTecleadasDeUnPorHoraVanAEgresos) {
+    persona("HORA, HUGO", {{"sueldo", "100"},
+                           {"tiposueldo", "H"},
+                           {"htrab", "8"},
+                           {"fechaing", "2020-03-01"},
+                           {"fechaeg", "2026-03-31"},
+                           {"motivoeg", "Renuncia"},
+                           {"antiguedad", "6.08"}});
+    auto mp = mesDe("HORA, HUGO", marzo);
+    ASSERT_TRUE(mp);
+    mp->tabla = TablaLiquidacion::Egresos;
+    refrescarDesglose(*mp, ctx);
+    const auto b = buscarRenglon(*mp, ctx, 10, dialogo);
+    ASSERT_TRUE(b);
+    const auto c = calcularRenglon(*mp, ctx, b->concepto, "100", dialogo);
+    ASSERT_TRUE(c);
+    EXPECT_EQ(c->total.aDouble(), 10000);  // 100 horas de 100
+    ASSERT_FALSE(guardarRenglon(*base, *mp, ctx, *c, "100", "10000", dialogo));
+    const auto horas = [&](const char* tabla, long codigo) {
+        const auto r = base->consulta(std::string("SELECT cant, total FROM ") + tabla +
+                                          " WHERE nombre = 'HORA, HUGO' AND codigo = ?",
+                                      {std::int64_t{codigo}});
+        return r.vacio() ? -1.0 : r.primera().real("cant");
+    };
+    EXPECT_EQ(horas("egresos", 10), 100);
+    EXPECT_EQ(horas("egresos", 12), 12.5);  // jornadas: 100 / 8
+    EXPECT_EQ(horas("habydesc", 10), -1);
+
+    ASSERT_TRUE(egresoDeUnaPersona(*base, "ACME", "HORA, HUGO", marzo, {1}, false, dialogo).hecho);
+    EXPECT_NE(std::find_if(dialogo.mensajes.begin(), dialogo.mensajes.end(),
+                           [](const auto& m) { return m.texto == kHorasManual; }),
+              dialogo.mensajes.end());
+    EXPECT_EQ(horas("egresos", 10), 100);
+    EXPECT_EQ(horas("egresos", 12), 12.5);
 }
 
 }  // namespace

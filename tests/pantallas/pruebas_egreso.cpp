@@ -33,6 +33,10 @@ TEST_F(PantallaEgreso, LaPasadaYSusDescuentosLleganALaPantalla) {
     // historia en el año móvil: 6 x 30000 = 180000. Suma 261208.
     EXPECT_EQ(texto("totalhab"), "261,208.00");
     EXPECT_TRUE(columna("descuentos", 1).empty());
+    // La fila en mano lee egresos: el código 1 trae el SUELDO de la pasada.
+    teclear("codigo", "1");
+    EXPECT_EQ(texto("concepto"), "SUELDO");
+    EXPECT_EQ(texto("cant"), "30");
 
     pulsar("DescPerm");
     EXPECT_FALSE(columna("descuentos", 1).empty());

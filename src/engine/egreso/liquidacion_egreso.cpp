@@ -282,9 +282,8 @@ ResultadoPersona descuentosDelEgreso(MesPersona& mp, ContextoFormula& ctx,
     r.mes = mp.mes;
     auto& libro = mp.libro();
     libro.borrarTipo(TablaLiquidacion::Egresos, mp.mes, "Des");
-    mp.desglose = leerDesglose(libro, mp.mes, mp.tipoaporte, mp.vinculofun, ctx.sueldo, mp.bpc,
-                               TablaLiquidacion::Egresos);
-    volcarEnContexto(mp.desglose, ctx);
+    mp.tabla = TablaLiquidacion::Egresos;
+    refrescarDesglose(mp, ctx);
     const auto opciones = opcionesAportesForm45();
     for (const long codigo : codigosDescuento(mp, ctx.cantbfc)) {
         const auto* c = mp.maestros().conceptos.porCodigo(codigo);

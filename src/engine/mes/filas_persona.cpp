@@ -21,18 +21,17 @@ bool esConceptoHoras(const std::string& concepto) {
 
 std::optional<FilaGenerada> actualizarJornadas(LibroPersona& libro, const Maestros& maestros,
                                                const common::Mes& mes, const std::string& concepto,
-                                               double cant, double htrab) {
+                                               double cant, double htrab, TablaLiquidacion tabla) {
     if (esConceptoHoras(concepto)) {
         const std::string otra = concepto == "HORAS" ? "HORAS NOCTURNAS" : "HORAS";
-        if (const auto* f = libro.porConcepto(TablaLiquidacion::Habydesc, mes, otra))
-            cant += f->cant;
+        if (const auto* f = libro.porConcepto(tabla, mes, otra)) cant += f->cant;
     }
     const auto* jornadas = maestros.conceptos.porNombre("JORNADAS EN EL MES");
     if (!jornadas) return std::nullopt;
     if (htrab == 0) throw common::Fallo(11, "División por cero");
     auto fila = filaDeConcepto(*jornadas, jornadas->tipo);
     fila.cant = cant / htrab;
-    libro.escribir(TablaLiquidacion::Habydesc, mes, fila);
+    libro.escribir(tabla, mes, fila);
     return fila;
 }
 

@@ -34,10 +34,11 @@ bool esConceptoHoras(const std::string& concepto);
 // la fila recién escrita de `concepto` y, si es una del par, se le suma la de
 // la otra.
 // Sin concepto "JORNADAS EN EL MES" no hace nada; htrab 0 es división por cero.
-// Devuelve la fila escrita.
+// Devuelve la fila escrita. En `tabla`: habydesc, o egresos en el egreso.
 std::optional<FilaGenerada> actualizarJornadas(LibroPersona& libro, const Maestros& maestros,
                                                const common::Mes& mes, const std::string& concepto,
-                                               double cant, double htrab);
+                                               double cant, double htrab,
+                                               TablaLiquidacion tabla = TablaLiquidacion::Habydesc);
 
 }  // namespace mes
 }  // namespace nomira::engine

@@ -70,13 +70,16 @@ bool releerBajoClave(store::Conexion& base, MesPersona& mp, ContextoFormula& ctx
     bloquearMes(base, mp.empresa, mp.nombre, mp.mes);
     auto nuevo = leerMesDeLaPersona(base, mp.empresa, mp.nombre, mp.mes, ctx, dialogo);
     if (!nuevo) return false;
+    const auto tabla = mp.tabla;
     mp = std::move(*nuevo);
+    mp.tabla = tabla;
+    if (tabla != TablaLiquidacion::Habydesc) refrescarDesglose(mp, ctx);
     return true;
 }
 
 void refrescarDesglose(MesPersona& mp, ContextoFormula& ctx) {
-    mp.desglose =
-        leerDesglose(mp.libro(), mp.mes, mp.tipoaporte, mp.vinculofun, ctx.sueldo, mp.bpc);
+    mp.desglose = leerDesglose(mp.libro(), mp.mes, mp.tipoaporte, mp.vinculofun, ctx.sueldo, mp.bpc,
+                               mp.tabla);
     volcarEnContexto(mp.desglose, ctx);
 }
 

@@ -41,6 +41,8 @@ struct MesPersona {
     double bpc = 0;
     ConsejoSalarios consejo;
     BaseMes desglose;  // la base del mes al momento de calcularla
+    // Dónde van las filas que se teclean: habydesc en el mes, egresos en el egreso.
+    TablaLiquidacion tabla = TablaLiquidacion::Habydesc;
 
     LibroPersona& libro() const { return delMes->libro; }
     const Maestros& maestros() const { return lectura->maestros; }

@@ -31,17 +31,17 @@ long codigoDe(const master::Concepto& c) {
 void reescribirSueldo(const MesPersona& mp, Dinero total, const std::string& explicacion) {
     auto& libro = mp.libro();
     std::vector<FilaMes> sueldos;
-    for (const auto& f : libro.filas(TablaLiquidacion::Habydesc, mp.mes))
+    for (const auto& f : libro.filas(mp.tabla, mp.mes))
         if (f.concepto == "SUELDO") sueldos.push_back(f);
     for (auto& f : sueldos) {
         f.total = total;
         f.explicacion = explicacion;
-        libro.escribir(TablaLiquidacion::Habydesc, mp.mes, f);
+        libro.escribir(mp.tabla, mp.mes, f);
     }
 }
 
 bool hayDescuentos(const MesPersona& mp) {
-    return mp.libro().tiene(TablaLiquidacion::Habydesc, mp.mes, "Des");
+    return mp.libro().tiene(mp.tabla, mp.mes, "Des");
 }
 
 double diasAGozar(const MesPersona& mp, common::Dialogo& dialogo) {
@@ -115,8 +115,7 @@ CalculoRenglon calcularConFormula(MesPersona& mp, ContextoFormula& ctx, CalculoR
     e.cantbfc = ctx.cantbfc;
     e.bpc = mp.bpc;
     e.montograv = ctx.montograv;
-    e.excepcionLicencia =
-        excepcionLicencia(mp.tiposueldo, libro.filas(TablaLiquidacion::Habydesc, mp.mes));
+    e.excepcionLicencia = excepcionLicencia(mp.tiposueldo, libro.filas(mp.tabla, mp.mes));
     e.tafap = common::SocMedica::leer(mp.persona->socmedica).tafap == "Si";
     e.tope = topeAfap(mp.maestros(), mp.persona->socmedica);
     for (const auto& f : libro.filas(TablaLiquidacion::Aguinaldos, mp.mes)) {
@@ -162,7 +161,7 @@ std::optional<RenglonBuscado> buscarRenglon(const MesPersona& mp, const Contexto
     const auto& libro = mp.libro();
     RenglonBuscado r;
     r.concepto = *c;
-    if (const auto* f = libro.porCodigo(TablaLiquidacion::Habydesc, mp.mes, codigo)) {
+    if (const auto* f = libro.porCodigo(mp.tabla, mp.mes, codigo)) {
         r.existe = true;
         r.textoCant = common::numeroATexto(f->cant);
         r.textoTotal = common::numeroATexto(f->total.aDouble());
@@ -173,8 +172,7 @@ std::optional<RenglonBuscado> buscarRenglon(const MesPersona& mp, const Contexto
     } else if (nombre == "JORNADAS EN EL MES" && ctx.htrab != 0) {
         double horas = 0;
         for (const char* n : {"HORAS", "HORAS NOCTURNAS"})
-            if (const auto* f = libro.porConcepto(TablaLiquidacion::Habydesc, mp.mes, n))
-                horas += f->cant;
+            if (const auto* f = libro.porConcepto(mp.tabla, mp.mes, n)) horas += f->cant;
         r.textoCant = common::numeroATexto(horas / ctx.htrab);
     }
     return r;
@@ -190,7 +188,7 @@ std::optional<CalculoRenglon> calcularRenglon(MesPersona& mp, ContextoFormula& c
     const auto nombre = common::mayusculas(concepto.concepto);
     ctx.textoCant = textoCant;
     if (nombre == "IRP" || nombre == "IRPF") {
-        const auto imp = calcularImpuesto(mp, ctx, nombre, dialogo);
+        const auto imp = calcularImpuesto(mp, ctx, nombre, dialogo, mp.tabla);
         r.texto = imp.concepto;
         r.cant = imp.cant;
         r.total = imp.total;
@@ -217,10 +215,11 @@ std::optional<std::string> guardarRenglon(store::Conexion& base, MesPersona& mp,
     auto& libro = mp.libro();
     const auto& c = calculo.concepto;
     const long codigo = codigoDe(c);
-    const bool existe = libro.porCodigo(TablaLiquidacion::Habydesc, mp.mes, codigo) != nullptr;
+    const bool existe = libro.porCodigo(mp.tabla, mp.mes, codigo) != nullptr;
     if (c.tipo == "Hab" && hayDescuentos(mp))
         return rechazar(mensajeHayDescuentos(existe ? "Modificar" : "Agregar"));
-    if (libro.hayEgresos(mp.mes)) return rechazar(kConEgresos);
+    if (mp.tabla == TablaLiquidacion::Habydesc && libro.hayEgresos(mp.mes))
+        return rechazar(kConEgresos);
 
     const auto nombre = common::mayusculas(c.concepto);
     const double total = common::textoANumero(textoTotal);
@@ -257,13 +256,12 @@ std::optional<std::string> guardarRenglon(store::Conexion& base, MesPersona& mp,
         explicacion += (explicacion.empty() ? "" : " ") + std::string("Total tecleado: ") +
                        pesos(fila.total) + ".";
     if (!vacacional.empty()) explicacion += (explicacion.empty() ? "" : " ") + vacacional;
-    libro.escribir(TablaLiquidacion::Habydesc, mp.mes, fila);
-    if (!explicacion.empty())
-        libro.explicar(TablaLiquidacion::Habydesc, mp.mes, codigo, explicacion);
+    libro.escribir(mp.tabla, mp.mes, fila);
+    if (!explicacion.empty()) libro.explicar(mp.tabla, mp.mes, codigo, explicacion);
     if (esConceptoHoras(nombre))
-        actualizarJornadas(libro, mp.maestros(), mp.mes, nombre, fila.cant, ctx.htrab);
+        actualizarJornadas(libro, mp.maestros(), mp.mes, nombre, fila.cant, ctx.htrab, mp.tabla);
     else if (existe && mp.tipoaporte == "04" && mp.tiposueldo == "H" && empiezaCon(nombre, "HORAS"))
-        actualizarJornadas(libro, mp.maestros(), mp.mes, nombre, fila.cant, ctx.htrab);
+        actualizarJornadas(libro, mp.maestros(), mp.mes, nombre, fila.cant, ctx.htrab, mp.tabla);
     escribirLibro(base, libro);
     t.confirmar();
     refrescarDesglose(mp, ctx);
@@ -294,7 +292,7 @@ std::optional<std::string> eliminarRenglon(store::Conexion& base, MesPersona& mp
     }
     if (nombre == "RET. JUD. S/VAC")
         libro.borrarCodigo(TablaLiquidacion::Salvacacional, mp.mes, codigo);
-    libro.borrarCodigo(TablaLiquidacion::Habydesc, mp.mes, codigo);
+    libro.borrarCodigo(mp.tabla, mp.mes, codigo);
     escribirLibro(base, libro);
     t.confirmar();
     refrescarDesglose(mp, ctx);

@@ -16,8 +16,10 @@
 namespace nomira::pantallas {
 
 PantallaEgreso::PantallaEgreso(frame::Sesion& sesion, QWidget* padre)
-    : Pantalla(sesion, "Form45", "Liquidación por Egreso", padre), mes_(base(), dialogo()) {
+    : Pantalla(sesion, "Form45", "Liquidación por Egreso", padre),
+      mes_(base(), dialogo(), engine::TablaLiquidacion::Egresos) {
     cabecera_ = new CabeceraMes(*this, mes_, "&F.MesAct.", false);
+    renglon_ = new RenglonEnMano(*this, *cabecera_, mes_);
     actividad_ = new ventana::GrupoOpciones("Ac.Lab", {{"1", "&1"}, {"2", "&2"}, {"3", "&3"}});
     actividad_->setObjectName("aclab");
     incidencias_ = new ventana::GrupoOpciones("Incidencias IPD", {{"Si", "Sí"}, {"No", "No"}});
@@ -37,6 +39,7 @@ PantallaEgreso::PantallaEgreso(frame::Sesion& sesion, QWidget* padre)
         opciones->addWidget(grupo);
     opciones->addStretch();
     todo->addLayout(opciones);
+    todo->addWidget(renglon_);
     todo->addWidget(g.contenedor, 1);
     todo->addLayout(filaDeCifras({{"totalhab", "T.Haberes"},
                                   {"totaldes", "Total Descuentos"},
@@ -48,9 +51,13 @@ PantallaEgreso::PantallaEgreso(frame::Sesion& sesion, QWidget* padre)
 
     connect(cabecera_, &CabeceraMes::mesOlvidado, this, [this] { olvidar(); });
     connect(cabecera_, &CabeceraMes::mesAbierto, this, [this] { Consultar_Click(); });
-    connect(cabecera_, &CabeceraMes::pasarALaFila, this, [this] { boton("HabPerm")->setFocus(); });
+    connect(renglon_, &RenglonEnMano::mesCambiado, this, [this] { Consultar_Click(); });
+    for (auto* grilla : {haberes_, descuentos_})
+        connect(grilla, &QAbstractItemView::clicked, this,
+                [this, grilla] { renglon_->traer(grilla->elegida(0)); });
     olvidar();
-    cabecera_->empezar();
+    renglon_->limpiar();
+    cabecera_->empezar(renglon_->campoCodigo());
 }
 
 QWidget* PantallaEgreso::armarBotones() {
@@ -59,7 +66,13 @@ QWidget* PantallaEgreso::armarBotones() {
 }
 
 QWidget* PantallaEgreso::armarTeclas() {
-    auto* teclas = teclasFunciones(teclasSinFilaEnMano(*this, [this] { Consultar_Click(); }));
+    auto acciones = teclasSinFilaEnMano(*this, [this] { Consultar_Click(); });
+    // Las filas que se teclean, como en el mes.
+    acciones.insert(acciones.begin() + 3,
+                    {{Qt::Key_F5, "F5 Agregar", [this] { renglon_->agregar(); }},
+                     {Qt::Key_F6, "F6 Modificar", [this] { renglon_->modificar(); }},
+                     {Qt::Key_F7, "F7 Eliminar", [this] { renglon_->eliminar(); }}});
+    auto* teclas = teclasFunciones(acciones);
     // Los recibos llegan con su pantalla.
     teclasPendientes(teclas, {"Imp.", "Copiar"});
     return teclas;
@@ -74,6 +87,8 @@ void PantallaEgreso::HabPerm_Click() {
             vacacional_->valor() == "Si"};
         engine::egresoDeUnaPersona(base(), cabecera_->empresa(), cabecera_->nombre(),
                                    *cabecera_->mes(), op, false, dialogo());
+        // La fila en mano trabaja sobre el mes como quedó.
+        cabecera_->releer();
         Consultar_Click();
     });
 }
@@ -83,6 +98,7 @@ void PantallaEgreso::DescPerm_Click() {
         if (!cabecera_->completa(engine::kFaltanCamposDescuentosAguinaldo)) return;
         engine::descuentosEgresoDeUnaPersona(base(), cabecera_->empresa(), cabecera_->nombre(),
                                              *cabecera_->mes(), dialogo());
+        cabecera_->releer();
         Consultar_Click();
     });
 }

@@ -1,8 +1,9 @@
 #pragma once
 // Form45 "Liquidación por Egreso": la pasada de una persona y una actividad
 // (sueldo de los días del último mes, aguinaldo hasta el egreso, licencia no
-// gozada y salario vacacional) y sus descuentos, en egresos. Usa la cabecera
-// de Form42; todo cálculo es del motor.
+// gozada, salario vacacional e IPD) y sus descuentos, en egresos, y las filas
+// que se teclean (jornales, horas...). Usa la cabecera y la fila en mano de
+// Form42 sobre egresos; todo cálculo es del motor.
 #include <QLineEdit>
 #include <map>
 #include <string>
@@ -12,6 +13,7 @@
 #include "frame/ventana/pantalla.h"
 #include "screens/haberes/cabecera_mes.h"
 #include "screens/haberes/mes_abierto.h"
+#include "screens/haberes/renglon_en_mano.h"
 
 namespace nomira::pantallas {
 
@@ -33,6 +35,7 @@ class PantallaEgreso : public ventana::Pantalla {
 
     MesAbierto mes_;
     CabeceraMes* cabecera_ = nullptr;
+    RenglonEnMano* renglon_ = nullptr;
     ventana::GrupoOpciones *actividad_ = nullptr, *incidencias_ = nullptr, *vacacional_ = nullptr,
                            *licencia_ = nullptr;
     ventana::Grilla *haberes_ = nullptr, *descuentos_ = nullptr;

@@ -12,7 +12,14 @@ bool MesAbierto::abrir(const std::string& empresa, const std::string& nombre,
     // ahora: otra PC pudo cambiarlos.
     ctx_ = {};
     mp_ = engine::leerMesDeLaPersona(base_, empresa, nombre, mes, ctx_, dialogo_);
+    conLaTabla();
     return mp_.has_value();
+}
+
+void MesAbierto::conLaTabla() {
+    if (!mp_ || tabla_ == engine::TablaLiquidacion::Habydesc) return;
+    mp_->tabla = tabla_;
+    engine::refrescarDesglose(*mp_, ctx_);
 }
 
 MesAbierto::Vista MesAbierto::consultar() {
@@ -20,6 +27,7 @@ MesAbierto::Vista MesAbierto::consultar() {
     if (auto nuevo =
             engine::leerMesDeLaPersona(base_, mp_->empresa, mp_->nombre, mp_->mes, ctx_, dialogo_))
         mp_ = std::move(nuevo);
+    conLaTabla();
     Vista v;
     v.filas = engine::filasParaGrillas(base_, mp_->empresa, mp_->nombre, mp_->mes);
     v.cifras = engine::cifrasDelMes(mp_->desglose, v.filas);
@@ -46,8 +54,7 @@ std::optional<std::string> MesAbierto::eliminar(const master::Concepto& concepto
 }
 
 std::string MesAbierto::explicacion(long codigo) {
-    return engine::leerExplicacion(base_, engine::TablaLiquidacion::Habydesc, mp_->empresa,
-                                   mp_->nombre, mp_->mes, codigo);
+    return engine::leerExplicacion(base_, tabla_, mp_->empresa, mp_->nombre, mp_->mes, codigo);
 }
 
 }  // namespace nomira::pantallas

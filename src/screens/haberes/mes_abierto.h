@@ -17,7 +17,10 @@ namespace nomira::pantallas {
 
 class MesAbierto {
   public:
-    MesAbierto(store::Conexion& base, common::Dialogo& dialogo) : base_(base), dialogo_(dialogo) {}
+    // `tabla`: donde van las filas tecleadas (habydesc en el mes, egresos en el egreso).
+    MesAbierto(store::Conexion& base, common::Dialogo& dialogo,
+               engine::TablaLiquidacion tabla = engine::TablaLiquidacion::Habydesc)
+        : base_(base), dialogo_(dialogo), tabla_(tabla) {}
 
     // leerMesDeLaPersona: lee de nuevo la empresa, la persona y la base del mes. Sin
     // empresa o sin persona el motor ya avisó y el mes queda cerrado.
@@ -47,8 +50,11 @@ class MesAbierto {
     std::string explicacion(long codigo);
 
   private:
+    void conLaTabla();
+
     store::Conexion& base_;
     common::Dialogo& dialogo_;
+    engine::TablaLiquidacion tabla_;
     engine::ContextoFormula ctx_;
     std::optional<engine::MesPersona> mp_;
 };

@@ -54,14 +54,6 @@ PantallaHaberes::PantallaHaberes(frame::Sesion& sesion, QWidget* padre)
     connect(cabecera_, &CabeceraMes::mesOlvidado, this, [this] { olvidarMes(); });
     connect(cabecera_, &CabeceraMes::mesTecleado, irpf_, &CuadroIRPF::limpiar);
     connect(cabecera_, &CabeceraMes::mesAbierto, this, [this] { Consultar_Click(); });
-    connect(cabecera_, &CabeceraMes::pasarALaFila, this,
-            [this] { renglon_->campoCodigo()->setFocus(); });
-    connect(renglon_, &RenglonEnMano::hallada, this,
-            [this](bool existe) { habilitarSegunHallado(existe); });
-    connect(renglon_, &RenglonEnMano::vaciada, this, [this] {
-        habilitarSegunHallado(false);
-        boton("Agregar")->setEnabled(false);
-    });
     connect(renglon_, &RenglonEnMano::mesCambiado, this, [this] { Consultar_Click(); });
     connect(renglon_, &RenglonEnMano::impuesto, this, &PantallaHaberes::mostrarIRPF);
     connect(generaciones_, &PanelGeneraciones::mesCambiado, this, [this] { releer(); });

@@ -27,6 +27,15 @@ RenglonEnMano::RenglonEnMano(ventana::Pantalla& pantalla, CabeceraMes& cabecera,
     pantalla_.alPulsarEnter(c_.concepto, [this] { return Descripcion_Click(); });
     pantalla_.alPulsarEnter(c_.cant, [this] { return cantEnter(); });
     pantalla_.alPulsarEnter(c_.total, [this] { return totalEnter(); });
+    // La fila maneja los botones de la pantalla: Agregar si es nueva, Modificar
+    // y Eliminar si ya estaba; y recibe el foco al elegir la persona.
+    connect(this, &RenglonEnMano::hallada, this,
+            [this](bool existe) { pantalla_.habilitarSegunHallado(existe); });
+    connect(this, &RenglonEnMano::vaciada, this, [this] {
+        pantalla_.habilitarSegunHallado(false);
+        if (auto* agregar = pantalla_.boton("Agregar")) agregar->setEnabled(false);
+    });
+    connect(&cabecera_, &CabeceraMes::pasarALaFila, this, [this] { c_.codigo->setFocus(); });
 }
 
 void RenglonEnMano::limpiar() {
