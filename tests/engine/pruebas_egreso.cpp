@@ -166,6 +166,41 @@ TEST_P(Egreso, OtraPasadaReemplazaLoSuyoYDejaLoTecleado) {
     EXPECT_DOUBLE_EQ(e.at("MONTEPIO 15%"), gravado * 15 / 100);
 }
 
+// Un egreso en diciembre cierra el IRPF del año con los egresos.
+TEST_P(Egreso, EnDiciembreElIrpfEsElCierreDelAnioConLosEgresos) {
+    persona("DICIEMBRE, DORA", {{"sueldo", "60000"},
+                                {"tiposueldo", "S"},
+                                {"fechaing", "2020-03-01"},
+                                {"fechaeg", "2026-12-31"},
+                                {"motivoeg", "Renuncia"},
+                                {"antiguedad", "6.83"}});
+    for (int m = 1; m <= 11; ++m)
+        ejecutar(
+            "INSERT INTO habydesc (empresa, nombre, fecha, codigo, concepto, tipo, gravado, "
+            "aguinaldo, cant, total, lic, ipd) VALUES ('ACME', 'DICIEMBRE, DORA', ?, 1, 'SUELDO', "
+            "'Hab', 'Si', 'Si', 1, 60000, 'No', 'Si')",
+            {common::Mes{2026, m}.primerDia().iso()});
+    const common::Mes diciembre{2026, 12};
+    ASSERT_TRUE(
+        egresoDeUnaPersona(*base, "ACME", "DICIEMBRE, DORA", diciembre, {1}, true, dialogo).hecho)
+        << dialogo.ultimoMensaje();
+    std::map<std::string, double> e;
+    for (const auto& f : base->consulta("SELECT concepto, total FROM egresos WHERE nombre = "
+                                        "'DICIEMBRE, DORA'")
+                             .filas)
+        e[f.texto("concepto").substr(0, 4)] += f.real("total");
+    // Haberes: sueldo 60000; aguinaldo del semestre que empieza en diciembre,
+    // 60000 / 12 = 5000; licencia 21 + 21 días de 2000 = 84000; vacacional
+    // 84000 x (1 - 19,6%) = 67536. Gravado para los aportes (sin el vacacional):
+    // 149000: MONTEPIO 22350, SNIS 4,5% 6705, FRL 149, en total 29204.
+    EXPECT_EQ(e.at("MONT"), 22350);
+    // El año: 11 x 60000 en habydesc + 216536 del egreso = 876536. Escala anual
+    // (BPC 6864 x 12): 576576 al 0%, 247104 al 10% = 24710,40, 52856 al 15% =
+    // 7928,40: 32638,80. Crédito 14% de los aportes 29204 = 4088,56 (876536 no
+    // pasa 15 BPC x 12). 32638,80 - 4088,56 = 28550,24, sin nada retenido antes.
+    EXPECT_EQ(e.at("IRPF"), 28550.24);
+}
+
 // Un por hora teclea sus horas en el egreso: van a egresos con sus jornadas, y
 // la pasada las deja y avisa que se teclean a mano.
 TEST_P(Egreso, LasFilasTecleadasDeUnPorHoraVanAEgresos) {
