@@ -1,0 +1,236 @@
+#include "engine/validacion/validacion.h"
+
+#include <algorithm>
+#include <functional>
+
+#include "common/empaquetados.h"
+#include "common/numeros.h"
+#include "engine/calculos/aportes.h"
+#include "engine/calculos/explicacion.h"
+#include "engine/mes/aportes_lector.h"
+#include "engine/mes/lectura.h"
+#include "engine/mes/mes_en_pantalla.h"
+#include "master/catalogos.h"
+
+namespace nomira::engine {
+inline namespace validacion {
+
+using common::Dinero;
+
+namespace {
+
+bool esStaff(const std::string& v) {
+    static const char* const kNoStaff[] = {"Patron Unipersonal",
+                                           "Socio con actividad",
+                                           "Socio sin actividad",
+                                           "Socio cooperativista",
+                                           "Conyuge colaborador con actividad",
+                                           "Director con remuneración",
+                                           "Director sin remuneración"};
+    return std::none_of(std::begin(kNoStaff), std::end(kNoStaff),
+                        [&](const char* n) { return v == n; }) &&
+           !v.ends_with("SAS");
+}
+
+// Lo que los controles miran de cada persona activa en el mes.
+struct Revisada {
+    const master::Persona* ficha = nullptr;
+    const LibroPersona* libro = nullptr;
+    Dinero montograv;  // haberes gravados del mes
+};
+
+class Serie {
+  public:
+    Serie(common::Dialogo& dialogo, bool unoPorUno) : dialogo_(dialogo), unoPorUno_(unoPorUno) {}
+
+    void hallar(int control, const std::string& nombre, const std::string& texto,
+                common::TipoAviso tipo = common::TipoAviso::Advertencia) {
+        Hallazgo h{control, nombre, common::tituloAviso(tipo), texto};
+        if (unoPorUno_) dialogo_.avisar(tipo, h.titulo, h.texto);
+        hallazgos_.push_back(std::move(h));
+    }
+    std::vector<Hallazgo> terminar() {
+        if (unoPorUno_) dialogo_.avisar(common::TipoAviso::Confirmacion, kValidacionTerminada);
+        return std::move(hallazgos_);
+    }
+
+  private:
+    common::Dialogo& dialogo_;
+    bool unoPorUno_;
+    std::vector<Hallazgo> hallazgos_;
+};
+
+// 2: dueños y socios con menos gravado que el mayor sueldo del personal.
+void duenosContraPersonal(const std::vector<Revisada>& personas, Serie& serie) {
+    const Revisada* mayor = nullptr;
+    for (const auto& p : personas)
+        if (esStaff(p.ficha->vinculofun) && (!mayor || mayor->montograv < p.montograv)) mayor = &p;
+    if (!mayor) return;
+    for (const auto& p : personas) {
+        const auto& v = p.ficha->vinculofun;
+        if (v != "Patron Unipersonal" && v != "Socio con actividad" && v != "Socio cooperativista")
+            continue;
+        if (p.montograv < mayor->montograv)
+            serie.hallar(2, p.ficha->nombre,
+                         "El montogravado de " + p.ficha->nombre +
+                             " está por debajo del sueldo de " + mayor->ficha->nombre +
+                             " (que es el mayor sueldo de todos los empleados).");
+    }
+}
+
+// 3: sueldo, jornal u hora por debajo del SALMIN de sus horas.
+void salarioMinimo(const std::vector<Revisada>& personas, double salmin, Serie& serie) {
+    for (const auto& p : personas) {
+        const auto& f = *p.ficha;
+        if (!esStaff(f.vinculofun)) continue;
+        double horas =
+            f.htrab.find_first_not_of(' ') == std::string::npos ? 8 : common::textoANumero(f.htrab);
+        horas = std::min(horas, 8.0);
+        const double minimo = salmin * horas / 8;
+        const double sueldo = common::textoANumero(f.sueldo);
+        if (f.tiposueldo == "S" && sueldo < minimo)
+            serie.hallar(3, f.nombre, "El Sueldo de " + f.nombre + " está por debajo del SALMIN.");
+        if (f.tiposueldo == "J" && sueldo < minimo / 25)
+            serie.hallar(3, f.nombre, "El Jornal de " + f.nombre + " está por debajo del SALMIN.");
+        if (f.tiposueldo == "H" && sueldo < minimo / 200)
+            serie.hallar(3, f.nombre, "La Hora de " + f.nombre + " está por debajo del SALMIN.");
+    }
+}
+
+// 8: una actividad que egresa en el mes con filas en habydesc y en egresos.
+void egresosYMes(const std::vector<Revisada>& personas, const common::Mes& mes, Serie& serie) {
+    for (const auto& p : personas) {
+        const auto& f = *p.ficha;
+        if (!esStaff(f.vinculofun)) continue;
+        const bool ambas =
+            !p.libro->filas(TablaLiquidacion::Habydesc, mes).empty() && p.libro->hayEgresos(mes);
+        for (const auto* eg : {&f.fechaeg, &f.fechaeg2, &f.fechaeg3}) {
+            const auto fecha = common::Fecha::desdeTexto(*eg);
+            if (ambas && fecha && common::Mes::de(*fecha) == mes)
+                serie.hallar(8, f.nombre,
+                             "El funcionario " + f.nombre +
+                                 " tiene liquidado conceptos en los formularios HabyDesc y "
+                                 "Egresos.");
+        }
+    }
+}
+
+// 9: el tope de AFAP según la edad al 01/04/96.
+void topeAfapPorEdad(const std::vector<Revisada>& personas, const Maestros& m, Serie& serie) {
+    for (const auto& p : personas) {
+        const auto& f = *p.ficha;
+        const auto nac = common::Fecha::desdeTexto(f.fechanac);
+        if (!nac) continue;
+        // Años de dos cifras: 19yy de 30 a 99.
+        const int anio = f.fechanac.size() <= 8 ? common::anioPivote30(nac->anio % 100) : nac->anio;
+        const bool mayor40 = anio < 1956 || (anio == 1956 && nac->mes < 4);
+        const bool tafap = common::SocMedica::leer(f.socmedica).tafap == "Si";
+        if (mayor40 && m.tipoaporte != "04" && p.montograv.aDouble() > topeAfap(m, f.socmedica))
+            serie.hallar(9, f.nombre,
+                         "El funcionario " + f.nombre +
+                             " tenía más de 40 años al 01/04/96 y el montogravado es mayor al "
+                             "topeafap.");
+        if (!mayor40 && m.tipoaporte != "04" && !tafap)
+            serie.hallar(9, f.nombre,
+                         "El funcionario " + f.nombre +
+                             " tenía menos de 40 años al 01/04/96 y Topea Afap está en No.",
+                         common::TipoAviso::Error);
+    }
+}
+
+// 10: el patrón unipersonal con cinco empleados o menos no lleva seguro de
+// salud 09 ni la empresa tipo de contribuyente 01.
+void patronUnipersonal(store::Conexion& base, const std::vector<Revisada>& personas,
+                       const Maestros& m, Serie& serie) {
+    const auto cantidad = std::count_if(personas.begin(), personas.end(), [](const Revisada& p) {
+        return p.ficha->vinculofun != "Patron Unipersonal";
+    });
+    if (cantidad > 5) return;
+    const std::string siendo = " siendo " + std::to_string(cantidad) + " la cant. de empleados.";
+    const auto tipocontrib =
+        m.empresa ? master::codigoEnCatalogo(base, "tipocontrib", m.empresa->tipocontrib) : "";
+    for (const auto& p : personas) {
+        const auto& f = *p.ficha;
+        if (f.vinculofun != "Patron Unipersonal") continue;
+        if (master::codigoEnCatalogo(base, "segurosalud", f.segurosalud) == "09")
+            serie.hallar(
+                10, f.nombre,
+                f.nombre + " es Patron Unipersonal y en Personal tiene Seguro salud 09" + siendo,
+                common::TipoAviso::Error);
+        if (tipocontrib == "01")
+            serie.hallar(10, f.nombre,
+                         f.nombre +
+                             " es Patron Unipersonal y en Empresas tiene Tipo Contribuyente 01" +
+                             siendo,
+                         common::TipoAviso::Error);
+    }
+}
+
+// 11: el líquido a cobrar contra el mínimo intangible.
+void minimoIntangible(const std::vector<Revisada>& personas, const common::Mes& mes, Serie& serie) {
+    for (const auto& p : personas) {
+        const auto& f = *p.ficha;
+        if (!esStaff(f.vinculofun)) continue;
+        Dinero grav, beneficios, haberes, legales, descuentos;
+        for (const auto& r : p.libro->filas(TablaLiquidacion::Habydesc, mes)) {
+            if (r.tipo == "Hab") {
+                haberes += r.total;
+                if (r.gravado == "Si") grav += r.total;
+                if (r.concepto == "HOGAR CONSTITUIDO" || r.concepto == "ASIGNACION FAMILIAR" ||
+                    r.concepto == "SEGURO DE SALUD G." || r.concepto == "SEGURO DE SALUD N.G.")
+                    beneficios += r.total;
+            } else if (r.tipo == "Des") {
+                descuentos += r.total;
+                if (esAporteLegal(r.concepto) || empiezaCon(r.concepto, "IRPF") ||
+                    r.concepto == "ADELANTOS LICENCIA" || r.concepto == "ADELANTOS QUINCENA")
+                    legales += r.total;
+            }
+        }
+        const auto minimo = Dinero::desdeDouble((grav - legales).aDouble() * 35 / 100) + beneficios;
+        if (haberes - descuentos < minimo)
+            serie.hallar(11, f.nombre,
+                         "El Líquido a Cobrar de " + f.nombre +
+                             " está por debajo del mínimo intangible que es " +
+                             common::numeroATexto(minimo.aDouble()) + ".");
+    }
+}
+
+}  // namespace
+
+std::vector<Hallazgo> validarMes(store::Conexion& base, const std::string& empresa,
+                                 const common::Mes& mes, common::Dialogo& dialogo, bool unoPorUno) {
+    if (empresa.empty()) {
+        dialogo.avisar(common::TipoAviso::Advertencia, kFaltanCamposValidacion);
+        return {};
+    }
+    const auto lectura = leerCorrida(base, empresa, mes, mesesDelMes(mes), std::nullopt, false);
+    std::vector<Revisada> personas;
+    for (const auto& p : lectura.personas) {
+        if (!activaEnAlgunaActividad(*p.ficha, mes)) continue;
+        Revisada r{p.ficha.get(), &p.libro, {}};
+        for (const auto& f : p.libro.filas(TablaLiquidacion::Habydesc, mes))
+            if (f.tipo == "Hab" && f.gravado == "Si") r.montograv += f.total;
+        personas.push_back(r);
+    }
+    // En el orden de las filas de la base: por nombre.
+    std::sort(personas.begin(), personas.end(), [](const Revisada& a, const Revisada& b) {
+        return a.ficha->nombre < b.ficha->nombre;
+    });
+    const auto& m = lectura.maestros;
+    Serie serie(dialogo, unoPorUno);
+    duenosContraPersonal(personas, serie);
+    salarioMinimo(personas, m.variables.valor("SALMIN"), serie);
+    for (const auto& p : personas)
+        if (p.ficha->nrosuc.find_first_not_of(' ') == std::string::npos)
+            serie.hallar(4, p.ficha->nombre,
+                         "El funcionario " + p.ficha->nombre +
+                             " no tiene asignado el nrosuc donde trabaja.");
+    egresosYMes(personas, mes, serie);
+    topeAfapPorEdad(personas, m, serie);
+    patronUnipersonal(base, personas, m, serie);
+    minimoIntangible(personas, mes, serie);
+    return serie.terminar();
+}
+
+}  // namespace validacion
+}  // namespace nomira::engine

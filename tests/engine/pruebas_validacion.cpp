@@ -1,0 +1,121 @@
+// La validación del mes: cada control con quien lo dispara y quien no, en el
+// orden de la serie, avisados uno por uno o devueltos juntos.
+#include <gtest/gtest.h>
+
+#include "engine/validacion/validacion.h"
+#include "pruebas_descuentos_escenario.h"
+
+namespace nomira::engine {
+namespace {
+
+class Validacion : public pruebas::EscenarioMes {
+  protected:
+    void SetUp() override {
+        EscenarioMes::SetUp();
+        if (IsSkipped()) return;
+        ejecutar(
+            "INSERT INTO definiciondevariables (nombre, fecha, valor) VALUES ('SALMIN', "
+            "'2026-01-01', 24000)");
+        ejecutar("INSERT INTO segurosalud (nombre) VALUES ('09-Sin cobertura')");
+    }
+    // Alguien que no dispara nada por sí mismo: sucursal, nacido después de 1956
+    // con tope de AFAP, sueldo sobre el SALMIN.
+    void persona(const std::string& nombre,
+                 std::initializer_list<std::pair<std::string, std::string>> mas) {
+        std::vector<std::pair<std::string, std::string>> c = {
+            {"nrosuc", "1"},     {"fechanac", "1980-05-05"}, {"socmedica", "SiCNoNoNo"},
+            {"tiposueldo", "S"}, {"sueldo", "30000"},        {"fechaing", "2020-01-01"}};
+        for (const auto& m : mas) {
+            auto it = std::find_if(c.begin(), c.end(), [&](auto& x) { return x.first == m.first; });
+            if (it != c.end())
+                it->second = m.second;
+            else
+                c.push_back(m);
+        }
+        std::string cols = "empresa, nombre", marcas = "'ACME', ?";
+        std::vector<store::Valor> v = {nombre};
+        for (const auto& [col, val] : c) {
+            cols += ", " + col;
+            marcas += ", ?";
+            v.push_back(val);
+        }
+        ejecutar("INSERT INTO personal (" + cols + ") VALUES (" + marcas + ")", v);
+    }
+    std::vector<std::string> hallazgos() {
+        std::vector<std::string> r;
+        for (const auto& h : validarMes(*base, "ACME", marzo, dialogo, false))
+            r.push_back(std::to_string(h.control) + " " + h.nombre);
+        return r;
+    }
+};
+NOMIRA_PARA_CADA_MOTOR(Validacion);
+
+TEST_P(Validacion, SinPersonasSoloElMensajeFinal) {
+    EXPECT_TRUE(validarMes(*base, "ACME", marzo, dialogo).empty());
+    ASSERT_EQ(dialogo.mensajes.size(), 1u);
+    EXPECT_EQ(dialogo.ultimoMensaje(), kValidacionTerminada);
+    EXPECT_EQ(dialogo.mensajes.back().titulo, "Mensaje de confirmación");
+    validarMes(*base, "", marzo, dialogo);
+    EXPECT_EQ(dialogo.ultimoMensaje(), kFaltanCamposValidacion);
+}
+
+TEST_P(Validacion, CadaControlConQuienLoDispara) {
+    persona("A EMPLEADA", {});
+    fila("A EMPLEADA", marzo, 1, "SUELDO", "Hab", 1, 30000);
+    // 2: el patrón gana menos que el mayor sueldo (10 no lo nombra: tiene siete
+    // empleados, más de cinco).
+    persona("B PATRON", {{"vinculofun", "Patron Unipersonal"}, {"segurosalud", "Sin cobertura"}});
+    fila("B PATRON", marzo, 1, "SUELDO", "Hab", 1, 20000);
+    // 3: jornal 900 < 24000 / 25; el por hora de 4 horas, 100 >= 24000 x 4 / 8 / 200.
+    persona("C JORNALERO", {{"tiposueldo", "J"}, {"sueldo", "900"}});
+    persona("D POR HORA", {{"tiposueldo", "H"}, {"sueldo", "100"}, {"htrab", "4"}});
+    // 4: sin sucursal.
+    persona("E SIN SUCURSAL", {{"nrosuc", ""}});
+    // 9: nacida en 1950 y gravado sobre el tope; nacido en 1980 sin tope de AFAP.
+    persona("F MAYOR", {{"fechanac", "1950-01-01"}});
+    fila("F MAYOR", marzo, 1, "SUELDO", "Hab", 1, 120000);
+    persona("G SIN TOPE", {{"socmedica", "NoCNoNoNo"}});
+    // 11: 10000 gravados y 8000 de adelanto: 2000 < 10000 x 35% = 3500.
+    persona("H ADELANTADO", {});
+    fila("H ADELANTADO", marzo, 1, "SUELDO", "Hab", 1, 10000);
+    fila("H ADELANTADO", marzo, 500, "ADELANTOS", "Des", 1, 8000);
+    // Quien ingresa después del mes no cuenta.
+    persona("I FUTURO", {{"nrosuc", ""}, {"fechaing", "2026-05-01"}});
+
+    EXPECT_EQ(hallazgos(),
+              (std::vector<std::string>{"2 B PATRON", "3 C JORNALERO", "4 E SIN SUCURSAL",
+                                        "9 F MAYOR", "9 G SIN TOPE", "11 H ADELANTADO"}));
+    const auto todos = validarMes(*base, "ACME", marzo, dialogo);
+    EXPECT_EQ(todos.front().texto,
+              "El montogravado de B PATRON está por debajo del sueldo de F MAYOR (que es el mayor "
+              "sueldo de todos los empleados).");
+    EXPECT_EQ(todos[4].titulo, "Mensaje de error");
+    EXPECT_EQ(todos.back().texto,
+              "El Líquido a Cobrar de H ADELANTADO está por debajo del mínimo intangible que es "
+              "3500.");
+    // Uno por uno, con el final.
+    EXPECT_EQ(dialogo.mensajes.size(), todos.size() + 1);
+}
+
+TEST_P(Validacion, ElPatronConPocosEmpleadosNoLlevaSeguro09NiContribuyente01) {
+    ejecutar("INSERT INTO tipocontrib (nombre) VALUES ('01-Unipersonal')");
+    ejecutar("UPDATE empresas SET tipocontrib = 'Unipersonal'");
+    persona("B PATRON", {{"vinculofun", "Patron Unipersonal"}, {"segurosalud", "Sin cobertura"}});
+    persona("A EMPLEADA", {});
+    persona("C EMPLEADO", {});
+    const auto h = validarMes(*base, "ACME", marzo, dialogo, false);
+    ASSERT_EQ(h.size(), 2u);
+    EXPECT_EQ(
+        h[0].texto,
+        "B PATRON es Patron Unipersonal y en Personal tiene Seguro salud 09 siendo 2 la cant. "
+        "de empleados.");
+    EXPECT_EQ(
+        h[1].texto,
+        "B PATRON es Patron Unipersonal y en Empresas tiene Tipo Contribuyente 01 siendo 2 la "
+        "cant. de empleados.");
+    EXPECT_EQ(h[1].titulo, "Mensaje de error");
+    EXPECT_TRUE(dialogo.mensajes.empty());  // devueltos juntos, sin avisar
+}
+
+}  // namespace
+}  // namespace nomira::engine
