@@ -8,6 +8,7 @@
 #include "common/numeros.h"
 #include "common/texto.h"
 #include "engine/calculos/explicacion.h"
+#include "engine/calculos/vinculos.h"
 #include "engine/mes/escritura.h"
 #include "engine/mes/horas.h"
 #include "engine/mes/primas_antiguedad_lector.h"
@@ -16,19 +17,6 @@ namespace nomira::engine {
 inline namespace mes {
 
 namespace {
-
-// Vínculos que no cobran un sueldo real: no sirven de referencia al ficto.
-constexpr std::array<const char*, 7> kVinculosSinSueldo = {"Patron Unipersonal",
-                                                           "Socio con actividad",
-                                                           "Socio sin actividad",
-                                                           "Socio cooperativista",
-                                                           "Conyuge colaborador con actividad",
-                                                           "Director con remuneración",
-                                                           "Director sin remuneración"};
-
-bool terminaEn(const std::string& s, const std::string& fin) {
-    return s.size() >= fin.size() && s.compare(s.size() - fin.size(), fin.size(), fin) == 0;
-}
 
 // cant de las filas del mes con ese texto (las licencias de un SUELDO).
 std::vector<double> cantidadesDe(const MesPersona& mp, const std::string& concepto) {
@@ -99,10 +87,7 @@ MayorSueldo mayorSueldoDeLaEmpresa(const Lectura& lectura) {
     // Por nombre, como los recorre la planilla: en un empate queda el primero.
     std::vector<std::pair<std::string, common::Dinero>> sumas;
     for (const auto& p : lectura.personas) {
-        const std::string& v = p.ficha->vinculofun;
-        if (terminaEn(v, "SAS") || std::find(kVinculosSinSueldo.begin(), kVinculosSinSueldo.end(),
-                                             v) != kVinculosSinSueldo.end())
-            continue;
+        if (!cobraSueldoReal(p.ficha->vinculofun)) continue;
         common::Dinero suma;
         bool tiene = false;
         for (const auto& f : p.libro.filas(TablaLiquidacion::Habydesc, lectura.mes))

@@ -7,6 +7,7 @@
 #include "common/numeros.h"
 #include "engine/calculos/aportes.h"
 #include "engine/calculos/explicacion.h"
+#include "engine/calculos/vinculos.h"
 #include "engine/mes/aportes_lector.h"
 #include "engine/mes/lectura.h"
 #include "engine/mes/mes_en_pantalla.h"
@@ -18,19 +19,6 @@ inline namespace validacion {
 using common::Dinero;
 
 namespace {
-
-bool esStaff(const std::string& v) {
-    static const char* const kNoStaff[] = {"Patron Unipersonal",
-                                           "Socio con actividad",
-                                           "Socio sin actividad",
-                                           "Socio cooperativista",
-                                           "Conyuge colaborador con actividad",
-                                           "Director con remuneración",
-                                           "Director sin remuneración"};
-    return std::none_of(std::begin(kNoStaff), std::end(kNoStaff),
-                        [&](const char* n) { return v == n; }) &&
-           !v.ends_with("SAS");
-}
 
 // Lo que los controles miran de cada persona activa en el mes.
 struct Revisada {
@@ -64,7 +52,8 @@ class Serie {
 void duenosContraPersonal(const std::vector<Revisada>& personas, Serie& serie) {
     const Revisada* mayor = nullptr;
     for (const auto& p : personas)
-        if (esStaff(p.ficha->vinculofun) && (!mayor || mayor->montograv < p.montograv)) mayor = &p;
+        if (cobraSueldoReal(p.ficha->vinculofun) && (!mayor || mayor->montograv < p.montograv))
+            mayor = &p;
     if (!mayor) return;
     for (const auto& p : personas) {
         const auto& v = p.ficha->vinculofun;
@@ -82,7 +71,7 @@ void duenosContraPersonal(const std::vector<Revisada>& personas, Serie& serie) {
 void salarioMinimo(const std::vector<Revisada>& personas, double salmin, Serie& serie) {
     for (const auto& p : personas) {
         const auto& f = *p.ficha;
-        if (!esStaff(f.vinculofun)) continue;
+        if (!cobraSueldoReal(f.vinculofun)) continue;
         double horas =
             f.htrab.find_first_not_of(' ') == std::string::npos ? 8 : common::textoANumero(f.htrab);
         horas = std::min(horas, 8.0);
@@ -101,7 +90,7 @@ void salarioMinimo(const std::vector<Revisada>& personas, double salmin, Serie& 
 void egresosYMes(const std::vector<Revisada>& personas, const common::Mes& mes, Serie& serie) {
     for (const auto& p : personas) {
         const auto& f = *p.ficha;
-        if (!esStaff(f.vinculofun)) continue;
+        if (!cobraSueldoReal(f.vinculofun)) continue;
         const bool ambas =
             !p.libro->filas(TablaLiquidacion::Habydesc, mes).empty() && p.libro->hayEgresos(mes);
         for (const auto* eg : {&f.fechaeg, &f.fechaeg2, &f.fechaeg3}) {
@@ -170,7 +159,7 @@ void patronUnipersonal(store::Conexion& base, const std::vector<Revisada>& perso
 void minimoIntangible(const std::vector<Revisada>& personas, const common::Mes& mes, Serie& serie) {
     for (const auto& p : personas) {
         const auto& f = *p.ficha;
-        if (!esStaff(f.vinculofun)) continue;
+        if (!cobraSueldoReal(f.vinculofun)) continue;
         Dinero grav, beneficios, haberes, legales, descuentos;
         for (const auto& r : p.libro->filas(TablaLiquidacion::Habydesc, mes)) {
             if (r.tipo == "Hab") {
