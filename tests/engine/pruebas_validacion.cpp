@@ -117,5 +117,40 @@ TEST_P(Validacion, ElPatronConPocosEmpleadosNoLlevaSeguro09NiContribuyente01) {
     EXPECT_TRUE(dialogo.mensajes.empty());  // devueltos juntos, sin avisar
 }
 
+TEST_P(Validacion, SeguroDeMesesCortosUnSoloSeguroFeriadosYEgresos) {
+    ejecutar("INSERT INTO segurosalud (nombre) VALUES ('01-Fonasa')");
+    // Una sucursal abre un 19 de marzo: marzo es mes de feriado pago.
+    ejecutar("UPDATE empresas SET fechainiact2 = '2020-03-19'");
+    // 1: diez días (30 - 20 de faltas) y 3000 gravados < 1,25 x 6864 = 8580, con
+    // Fonasa; quien ingresó en el mes no se nombra.
+    persona("L CORTO", {{"segurosalud", "Fonasa"}});
+    fila("L CORTO", marzo, 1, "SUELDO", "Hab", 1, 3000);
+    fila("L CORTO", marzo, 40, "FALTAS", "Hab", 20, 0);
+    persona("M INGRESO", {{"segurosalud", "Fonasa"}, {"fechaing", "2026-03-20"}});
+    fila("M INGRESO", marzo, 1, "SUELDO", "Hab", 1, 3000);
+    // 5: Fonasa en dos actividades activas.
+    persona("N DOBLE",
+            {{"segurosalud", "Fonasa"}, {"fechaing2", "2020-01-01"}, {"segurosalud2", "Fonasa"}});
+    fila("N DOBLE", marzo, 1, "SUELDO", "Hab", 1, 30000);
+    // 7: un jornalero con su feriado pago y otro sin él.
+    persona("J JORNALERO", {{"tiposueldo", "J"}});
+    fila("J JORNALERO", marzo, 35, "FERIADO PAGO", "Hab", 1, 1200);
+    persona("K JORNALERO", {{"tiposueldo", "J"}});
+    // 8: egresa en marzo con filas en habydesc y en egresos.
+    persona("O EGRESA", {{"fechaeg", "2026-03-31"}});
+    fila("O EGRESA", marzo, 1, "SUELDO", "Hab", 1, 30000);
+    ejecutar(
+        "INSERT INTO egresos (empresa, nombre, fecha, codigo, concepto, tipo, total) VALUES "
+        "('ACME', 'O EGRESA', '2026-03-01', 1, 'SUELDO', 'Hab', 30000)");
+
+    EXPECT_EQ(hallazgos(),
+              (std::vector<std::string>{"1 L CORTO", "5 N DOBLE", "7 K JORNALERO", "8 O EGRESA"}));
+    const auto h = validarMes(*base, "ACME", marzo, dialogo, false);
+    EXPECT_EQ(
+        h[2].texto,
+        "El funcionario K JORNALERO no tiene liquidado el concepto FERIADO PAGO, siendo J o H "
+        "y estando en el mes de cargo 03/26.");
+}
+
 }  // namespace
 }  // namespace nomira::engine

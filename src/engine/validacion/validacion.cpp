@@ -2,15 +2,19 @@
 
 #include <algorithm>
 #include <functional>
+#include <tuple>
 
 #include "common/empaquetados.h"
 #include "common/numeros.h"
+#include "common/texto.h"
 #include "engine/calculos/aportes.h"
 #include "engine/calculos/explicacion.h"
+#include "engine/calculos/licencia_dias.h"
 #include "engine/calculos/vinculos.h"
 #include "engine/mes/aportes_lector.h"
 #include "engine/mes/lectura.h"
 #include "engine/mes/mes_en_pantalla.h"
+#include "engine/mes/mes_persona.h"
 #include "master/catalogos.h"
 
 namespace nomira::engine {
@@ -47,6 +51,97 @@ class Serie {
     bool unoPorUno_;
     std::vector<Hallazgo> hallazgos_;
 };
+
+// El seguro de salud principal: "01", "15", "16" o "17".
+bool seguroPrincipal(const std::string& codigo) {
+    return codigo == "01" || codigo == "15" || codigo == "16" || codigo == "17";
+}
+
+// 1: seguro de salud principal con menos de 13 días y gravado bajo 1,25 BPC,
+// salvo quien ingresó en el mes.
+void seguroDeMesesCortos(store::Conexion& base, const std::vector<Revisada>& personas,
+                         const common::Mes& mes, double bpc, Serie& serie) {
+    static const char* const kPrimerosSeis[] = {"Patron Unipersonal",
+                                                "Socio con actividad",
+                                                "Socio sin actividad",
+                                                "Socio cooperativista",
+                                                "Conyuge colaborador con actividad",
+                                                "Director con remuneración"};
+    for (const auto& p : personas) {
+        const auto& f = *p.ficha;
+        if (std::any_of(std::begin(kPrimerosSeis), std::end(kPrimerosSeis),
+                        [&](const char* n) { return f.vinculofun == n; }))
+            continue;
+        double dias = f.tiposueldo == "S" ? 30 : 0;
+        for (const auto& r : p.libro->filas(TablaLiquidacion::Habydesc, mes)) {
+            const auto c = common::mayusculas(r.concepto);
+            if (f.tiposueldo == "S" && (esAusencia(c) || c.starts_with("LICENCIA"))) dias -= r.cant;
+            if ((f.tiposueldo == "J" && c == "JORNALES") ||
+                (f.tiposueldo == "H" && c == "JORNADAS EN EL MES"))
+                dias += r.cant;
+        }
+        const auto ingreso = common::Fecha::desdeTexto(f.fechaing);
+        const bool ingresoEnElMes = ingreso && common::Mes::de(*ingreso) == mes;
+        if (dias < 13 && p.montograv.aDouble() < 1.25 * bpc && !ingresoEnElMes &&
+            seguroPrincipal(master::codigoEnCatalogo(base, "segurosalud", f.segurosalud)))
+            serie.hallar(1, f.nombre,
+                         "El código seguro de salud de " + f.nombre +
+                             " es 1 o 15 (siendo la cantdiastrab < 13 y el montograv < 1.25 * "
+                             "BPC).");
+    }
+}
+
+// 5: el seguro principal en más de una actividad activa.
+void unSoloSeguroPrincipal(store::Conexion& base, const std::vector<Revisada>& personas,
+                           const common::Mes& mes, Serie& serie) {
+    auto porNrofun = personas;
+    std::stable_sort(porNrofun.begin(), porNrofun.end(), [](const Revisada& a, const Revisada& b) {
+        return common::textoANumero(a.ficha->nrofun) < common::textoANumero(b.ficha->nrofun);
+    });
+    for (const auto& p : porNrofun) {
+        const auto& f = *p.ficha;
+        if (f.cantbfc.find_first_not_of(' ') != std::string::npos) continue;
+        int principales = 0;
+        const std::tuple<const std::string*, const std::string*, const std::string*> act[] = {
+            {&f.fechaing, &f.fechaeg, &f.segurosalud},
+            {&f.fechaing2, &f.fechaeg2, &f.segurosalud2},
+            {&f.fechaing3, &f.fechaeg3, &f.segurosalud3}};
+        for (const auto& [ing, eg, seguro] : act) {
+            if (ing->empty()) continue;
+            auto otra = f;
+            otra.fechaing = *ing;
+            otra.fechaeg = *eg;
+            if (activaEnElMes(otra, mes) &&
+                seguroPrincipal(master::codigoEnCatalogo(base, "segurosalud", *seguro)))
+                ++principales;
+        }
+        if (principales >= 2)
+            serie.hallar(5, f.nombre,
+                         "El código seguro de salud de " + f.nombre +
+                             " es 1 o 15 en más de una ac.laboral, deberá corregirlo.");
+    }
+}
+
+// 7: jornaleros y por hora sin FERIADO PAGO en un mes con feriado pago.
+void feriadosPagos(const std::vector<Revisada>& personas, const common::Mes& mes, const Maestros& m,
+                   Serie& serie) {
+    bool conFeriado = mes.mes == 1 || mes.mes == 5 || mes.mes == 7 || mes.mes == 8 || mes.mes == 12;
+    if (m.empresa)
+        for (const auto* fecha : {&m.empresa->fechainiact2, &m.empresa->fechainiact3})
+            if (const auto f = common::Fecha::desdeTexto(*fecha); f && f->mes == mes.mes)
+                conFeriado = true;
+    if (!conFeriado) return;
+    for (const auto& p : personas) {
+        const auto& f = *p.ficha;
+        if (f.tiposueldo != "J" && f.tiposueldo != "H") continue;
+        if (p.libro->porConcepto(TablaLiquidacion::Habydesc, mes, "FERIADO PAGO")) continue;
+        serie.hallar(7, f.nombre,
+                     "El funcionario " + f.nombre +
+                         " no tiene liquidado el concepto FERIADO PAGO, siendo J o H y estando en "
+                         "el mes de cargo " +
+                         mes.texto() + ".");
+    }
+}
 
 // 2: dueños y socios con menos gravado que el mayor sueldo del personal.
 void duenosContraPersonal(const std::vector<Revisada>& personas, Serie& serie) {
@@ -207,6 +302,7 @@ std::vector<Hallazgo> validarMes(store::Conexion& base, const std::string& empre
     });
     const auto& m = lectura.maestros;
     Serie serie(dialogo, unoPorUno);
+    seguroDeMesesCortos(base, personas, mes, m.variables.valor("BPC"), serie);
     duenosContraPersonal(personas, serie);
     salarioMinimo(personas, m.variables.valor("SALMIN"), serie);
     for (const auto& p : personas)
@@ -214,6 +310,8 @@ std::vector<Hallazgo> validarMes(store::Conexion& base, const std::string& empre
             serie.hallar(4, p.ficha->nombre,
                          "El funcionario " + p.ficha->nombre +
                              " no tiene asignado el nrosuc donde trabaja.");
+    unSoloSeguroPrincipal(base, personas, mes, serie);
+    feriadosPagos(personas, mes, m, serie);
     egresosYMes(personas, mes, serie);
     topeAfapPorEdad(personas, m, serie);
     patronUnipersonal(base, personas, m, serie);
