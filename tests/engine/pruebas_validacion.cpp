@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/validacion/validacion.h"
+#include "master/personal.h"
 #include "pruebas_descuentos_escenario.h"
 
 namespace nomira::engine {
@@ -150,6 +151,43 @@ TEST_P(Validacion, SeguroDeMesesCortosUnSoloSeguroFeriadosYEgresos) {
         h[2].texto,
         "El funcionario K JORNALERO no tiene liquidado el concepto FERIADO PAGO, siendo J o H "
         "y estando en el mes de cargo 03/26.");
+}
+
+TEST_P(Validacion, ElSeguroDeSaludContraLosBeneficiarios) {
+    for (const char* s : {"01-Fonasa con hijos", "15-Fonasa sin hijos", "02-Fonasa conyuge"})
+        ejecutar("INSERT INTO segurosalud (nombre) VALUES (?)", {std::string(s)});
+    const auto revisar = [&](std::initializer_list<std::pair<std::string, std::string>> c) {
+        ejecutar("DELETE FROM personal");
+        persona("P PADRE", c);
+        const auto p = master::leerPersona(*base, "ACME", "P PADRE");
+        return validarSeguroSalud(*base, *p, marzo, dialogo);
+    };
+    // Fonasa con hijos sin beneficiarios: que los complete.
+    EXPECT_EQ(revisar({{"segurosalud", "Fonasa con hijos"}}),
+              (std::vector<std::string>{
+                  "Deberá completar los campos en Datos Beneficiarios de P PADRE con al menos 1 "
+                  "hijo ya que el código de Seguro de salud es 1."}));
+    // Un hijo de 10 años lo cumple; uno de 20 ya no cuenta.
+    EXPECT_TRUE(revisar({{"segurosalud", "Fonasa con hijos"},
+                         {"causaben", "01-Hijo"},
+                         {"fechanacben", "2016-05-05"}})
+                    .empty());
+    EXPECT_EQ(revisar({{"segurosalud", "Fonasa con hijos"},
+                       {"causaben", "01-Hijo"},
+                       {"fechanacben", "2006-01-05"}})
+                  .size(),
+              1u);
+    // Sin hijos con un hijo cargado, en la segunda actividad: que lo vacíe.
+    EXPECT_EQ(revisar({{"segurosalud2", "Fonasa sin hijos"},
+                       {"causaben", "01-Hijo"},
+                       {"fechanacben", "2016-05-05"}}),
+              (std::vector<std::string>{
+                  "En Datos Beneficiarios los campos deberán estar vacíos ya que el código de "
+                  "Seguro de salud es 15."}));
+    EXPECT_EQ(revisar({{"segurosalud3", "Fonasa conyuge"}}),
+              (std::vector<std::string>{
+                  "Deberá completar los campos en Datos Beneficiarios de P PADRE con al menos 1 "
+                  "hijo ya que el código de Seguro de salud es 2."}));
 }
 
 }  // namespace

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <functional>
+#include <set>
 #include <tuple>
 
+#include "common/edad.h"
 #include "common/empaquetados.h"
 #include "common/numeros.h"
 #include "common/texto.h"
@@ -317,6 +319,46 @@ std::vector<Hallazgo> validarMes(store::Conexion& base, const std::string& empre
     patronUnipersonal(base, personas, m, serie);
     minimoIntangible(personas, mes, serie);
     return serie.terminar();
+}
+
+std::vector<std::string> validarSeguroSalud(store::Conexion& base, const master::Persona& p,
+                                            const common::Mes& mes, common::Dialogo& dialogo) {
+    std::set<std::string> codigos;
+    for (const auto* s : {&p.segurosalud, &p.segurosalud2, &p.segurosalud3})
+        codigos.insert(master::codigoEnCatalogo(base, "segurosalud", *s));
+    std::vector<std::string> causas;
+    const std::pair<const std::string*, const std::string*> beneficiarios[] = {
+        {&p.causaben, &p.fechanacben},
+        {&p.causaben2, &p.fechanacben2},
+        {&p.causaben3, &p.fechanacben3}};
+    for (const auto& [causa, nacimiento] : beneficiarios) {
+        const bool mayor = !nacimiento->empty() && common::EsMayorde18(*nacimiento, mes, nullptr);
+        causas.push_back(mayor ? "" : common::codigoDeCatalogo(*causa));
+    }
+    const bool sinCausas =
+        std::all_of(causas.begin(), causas.end(), [](const std::string& c) { return c.empty(); });
+    const bool conHijos = std::any_of(causas.begin(), causas.end(), [](const std::string& c) {
+        return c == "01" || c == "02" || c == "03" || c == "04";
+    });
+    const auto hay = [&](const char* c) { return codigos.count(c) > 0; };
+    std::vector<std::string> avisos;
+    const auto completar = [&](const char* es) {
+        avisos.push_back("Deberá completar los campos en Datos Beneficiarios de " + p.nombre +
+                         " con al menos 1 hijo ya que el código de Seguro de salud es " + es + ".");
+    };
+    const auto vaciar = [&](const char* es) {
+        avisos.push_back(
+            "En Datos Beneficiarios los campos deberán estar vacíos ya que el código de Seguro de "
+            "salud es " +
+            std::string(es) + ".");
+    };
+    if ((hay("01") || hay("16")) && sinCausas) completar("1");
+    if (hay("02") && sinCausas) completar("2");
+    if (hay("21") && sinCausas) completar("21");
+    if (hay("15") && conHijos) vaciar("15");
+    if (hay("18") && conHijos) vaciar("18");
+    for (const auto& a : avisos) dialogo.avisar(common::TipoAviso::Advertencia, a);
+    return avisos;
 }
 
 }  // namespace validacion

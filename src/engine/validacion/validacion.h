@@ -8,6 +8,7 @@
 
 #include "common/dialogo.h"
 #include "common/fechas.h"
+#include "master/personal.h"
 #include "store/conexion.h"
 
 namespace nomira::engine {
@@ -28,6 +29,12 @@ struct Hallazgo {
 std::vector<Hallazgo> validarMes(store::Conexion& base, const std::string& empresa,
                                  const common::Mes& mes, common::Dialogo& dialogo,
                                  bool unoPorUno = true);
+
+// ValidarSeguroSalud: al entrar al mes de una persona, sus beneficiarios contra
+// los códigos de seguro de salud de sus tres actividades (un hijo ya mayor de
+// edad no cuenta). Cada mensaje se avisa y se devuelve.
+std::vector<std::string> validarSeguroSalud(store::Conexion& base, const master::Persona& p,
+                                            const common::Mes& mes, common::Dialogo& dialogo);
 
 }  // namespace validacion
 }  // namespace nomira::engine
