@@ -10,18 +10,22 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTableView>
+#include <QTableWidget>
 #include <QTest>
 
 #include "common/formato.h"
 #include "engine/calculos/liquido.h"
 #include "engine/mes/mes_persona.h"
 #include "engine/mes/renglon.h"
+#include "engine/validacion/validacion.h"
 #include "frame/ventana/campo_numero.h"
 #include "frame/ventana/ventana_principal.h"
 #include "master/variables.h"
@@ -77,6 +81,30 @@ TEST_F(PantallaHaberes, ElNombreEnOtrasMayusculasEligeLaPersona) {
     w<QComboBox>("nombre")->lineEdit()->selectAll();
     QTest::keyClick(w<QComboBox>("nombre")->lineEdit(), Qt::Key_Backspace);
     EXPECT_TRUE(texto("nrofun").isEmpty());
+}
+
+// F12 valida el mes de la empresa y muestra los hallazgos juntos, para copiarlos.
+TEST_F(PantallaHaberes, ValidarMuestraLosHallazgosEnUnaLista) {
+    abrir("Form42");
+    pulsar("Validar");
+    EXPECT_EQ(dialogo.ultimoMensaje(), engine::kFaltanCamposValidacion);
+
+    persona("PEREZ, JUAN", "1", "30000", "2020-01-01");  // sin sucursal
+    abrirMes("0226", "PEREZ, JUAN");
+    pulsar("Validar");
+    auto* lista = pantalla->findChild<QDialog*>("ListaValidacion");
+    ASSERT_NE(lista, nullptr);
+    auto* tabla = lista->findChild<QTableWidget*>("hallazgos");
+    bool sucursal = false;
+    for (int i = 0; i < tabla->rowCount(); ++i)
+        if (tabla->item(i, 0)->text() == "4" && tabla->item(i, 1)->text() == "PEREZ, JUAN")
+            sucursal = true;
+    EXPECT_TRUE(sucursal);
+    lista->findChild<QPushButton*>("Copiar")->click();
+    EXPECT_TRUE(QApplication::clipboard()->text().contains(
+        "4. PEREZ, JUAN: El funcionario PEREZ, JUAN no tiene asignado el nrosuc donde trabaja."));
+    EXPECT_TRUE(QApplication::clipboard()->text().endsWith("Validación terminada.\n"));
+    lista->findChild<QPushButton*>("Salir")->click();
 }
 
 // Las teclas Alt de la pantalla llegan a su botón o a su campo aunque el foco esté
@@ -501,9 +529,10 @@ TEST_F(PantallaHaberes, ControlHLaAbreYF10AbreLosConceptos) {
     QApplication::setActiveWindow(form42);
     QTest::keyClick(form42->findChild<QLineEdit*>("codigo"), Qt::Key_F10);
     EXPECT_NE(form42->findChild<QWidget*>("Form4"), nullptr);
-    // F8, F9 y F12 esperan a sus pantallas.
-    for (const char* b : {"Imp.", "Copiar", "Validar"})
+    // F8 y F9 esperan a los recibos; F12 valida.
+    for (const char* b : {"Imp.", "Copiar"})
         EXPECT_FALSE(form42->findChild<QPushButton*>(b)->isEnabled()) << b;
+    EXPECT_TRUE(form42->findChild<QPushButton*>("Validar")->isEnabled());
 }
 
 TEST(TextosHaberes, ObservacionesPorMesYTituloDelMes) {

@@ -8,8 +8,10 @@
 
 #include "common/formato.h"
 #include "common/numeros.h"
+#include "engine/validacion/validacion.h"
 #include "frame/ventana/registro_pantallas.h"
 #include "frame/ventana/texto_qt.h"
+#include "screens/haberes/lista_validacion.h"
 #include "screens/haberes/partes_liquidacion.h"
 
 namespace nomira::pantallas {
@@ -105,10 +107,10 @@ QWidget* PantallaHaberes::armarTeclas() {
         {Qt::Key_F8, "F8 Imp.", [] {}},
         {Qt::Key_F9, "F9 Copiar", [] {}},
         {Qt::Key_F10, "F10 Concep.", [this] { abrirRegistrada("Form4"); }},
-        {Qt::Key_F12, "F12 Validar", [] {}},
+        {Qt::Key_F12, "F12 Validar", [this] { Validar_Click(); }},
     }));
     // Los recibos, la copia y la validación llegan con sus pantallas.
-    teclasPendientes(teclas, {"Imp.", "Copiar", "Validar"});
+    teclasPendientes(teclas, {"Imp.", "Copiar"});
     return teclas;
 }
 
@@ -161,6 +163,24 @@ void PantallaHaberes::mostrarIRPF(const engine::ImporteImpuesto& imp) {
         irpf_->mostrarDiciembre(*imp.irpfDiciembre);
     else if (imp.irpfMes)
         irpf_->mostrarMes(*imp.irpfMes, mp.desglose.montoirpf, mp.desglose.montonominal);
+}
+
+void PantallaHaberes::Validar_Click() {
+    intentar("Validar_Click", [this] {
+        const auto mes = cabecera_->mes();
+        if (cabecera_->empresa().empty() || cabecera_->mesVacio() || !mes) {
+            advertir(engine::kFaltanCamposValidacion);
+            return;
+        }
+        const auto hallazgos =
+            engine::validarMes(base(), cabecera_->empresa(), *mes, dialogo(), false);
+        auto* lista = new ListaValidacion(
+            "Validación de " + cabecera_->empresa() + " del " + mes->texto(), hallazgos, this);
+        lista->setAttribute(Qt::WA_DeleteOnClose);
+        connect(lista, &ListaValidacion::imprimir, this,
+                [this, lista] { imprimirInforme(lista->lineas(), "Validación"); });
+        lista->open();
+    });
 }
 
 void PantallaHaberes::prepararCaptura() {

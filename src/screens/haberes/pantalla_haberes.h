@@ -33,6 +33,8 @@ class PantallaHaberes : public ventana::Pantalla {
     // Consultar_Click: las grillas y las cifras del mes abierto.
     void Consultar_Click();
     void Refrescar();
+    // F12: la validación del mes de la empresa, con sus hallazgos en una lista.
+    void Validar_Click();
     void olvidarMes();
     // Después de escribir: el mes se vuelve a leer entero.
     void releer();
