@@ -8,21 +8,13 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "common/formato.h"
 #include "engine/aguinaldo/aguinaldo.h"
+#include "engine/calculos/explicacion.h"
 #include "frame/ventana/registro_pantallas.h"
 #include "frame/ventana/texto_qt.h"
 #include "screens/haberes/partes_liquidacion.h"
 
 namespace nomira::pantallas {
-
-namespace {
-
-std::string pesos(common::Dinero d) {
-    return common::formatear(d.aDouble(), "##,##0.00");
-}
-
-}  // namespace
 
 PantallaAguinaldo::PantallaAguinaldo(frame::Sesion& sesion, QWidget* padre)
     : Pantalla(sesion, "Form43", "Aguinaldos", padre), mes_(base(), dialogo()) {
@@ -147,17 +139,15 @@ void PantallaAguinaldo::olvidar() {
 void PantallaAguinaldo::Consultar_Click() {
     intentar("Consultar_Click", [this] {
         olvidar();
-        const auto mes = cabecera_->mes();
-        if (cabecera_->empresa().empty() || cabecera_->nombre().empty() || !mes) return;
-        const auto filas =
-            engine::filasDeLaPersona(base(), cabecera_->empresa(), cabecera_->nombre(), *mes,
-                                     engine::TablaLiquidacion::Aguinaldos);
+        const auto leidas = cabecera_->filasDe(engine::TablaLiquidacion::Aguinaldos);
+        if (!leidas) return;
+        const auto& filas = *leidas;
         std::vector<std::vector<std::string>> hab, des;
         for (const auto& f : filas) {
             if (f.tipo == "Hab")
-                hab.push_back({f.mes, f.concepto, f.aclab, pesos(f.total)});
+                hab.push_back({f.mes, f.concepto, f.aclab, engine::pesos(f.total)});
             else
-                des.push_back({f.concepto, pesos(f.total)});
+                des.push_back({f.concepto, engine::pesos(f.total)});
         }
         haberes_->mostrar({"Mes", "Concepto", "Act.", "Total"}, hab, {0, 3});
         descuentos_->mostrar({"Concepto", "Total"}, des, {1});
@@ -169,7 +159,7 @@ void PantallaAguinaldo::Consultar_Click() {
                                        {"aguinaldo", c.haberes},
                                        {"totaldes", c.descuentos},
                                        {"liquidoacobrar", c.liquido}})
-            cifras_.at(nombre)->setText(ventana::aQt(pesos(importe)));
+            cifras_.at(nombre)->setText(ventana::aQt(engine::pesos(importe)));
     });
 }
 

@@ -113,11 +113,9 @@ void PantallaEgreso::olvidar() {
 void PantallaEgreso::Consultar_Click() {
     intentar("Consultar_Click", [this] {
         olvidar();
-        const auto mes = cabecera_->mes();
-        if (cabecera_->empresa().empty() || cabecera_->nombre().empty() || !mes) return;
-        const auto filas =
-            engine::filasDeLaPersona(base(), cabecera_->empresa(), cabecera_->nombre(), *mes,
-                                     engine::TablaLiquidacion::Egresos);
+        const auto leidas = cabecera_->filasDe(engine::TablaLiquidacion::Egresos);
+        if (!leidas) return;
+        const auto& filas = *leidas;
         std::vector<std::vector<std::string>> hab, des;
         for (const auto& f : filas)
             (f.tipo == "Hab" ? hab : des)

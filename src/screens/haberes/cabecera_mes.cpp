@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "common/reloj.h"
+#include "engine/mes/lectura.h"
 #include "engine/mes/mes_en_pantalla.h"
 #include "frame/ventana/texto_qt.h"
 #include "master/empresas.h"
@@ -145,6 +146,12 @@ bool CabeceraMes::completa(const char* faltanCampos) {
         return false;
     }
     return true;
+}
+
+std::optional<std::vector<engine::FilaMes>> CabeceraMes::filasDe(engine::TablaLiquidacion tabla) {
+    const auto m = mes();
+    if (empresa().empty() || nombre().empty() || !m) return std::nullopt;
+    return engine::filasDeLaPersona(pantalla_.base(), empresa(), nombre(), *m, tabla);
 }
 
 bool CabeceraMes::releer() {

@@ -8,6 +8,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "common/fechas.h"
 #include "engine/mes/descuentos.h"
@@ -34,6 +35,9 @@ class CabeceraMes : public QWidget {
     // Empresa, persona y mes completos y bien escritos; si no, avisa (con el
     // mensaje de la pantalla si faltan campos).
     bool completa(const char* faltanCampos = engine::kFaltanCamposMes);
+    // Las filas de esa tabla de la persona y el mes en pantalla, con sus
+    // explicaciones; nada si falta la empresa, la persona o el mes.
+    std::optional<std::vector<engine::FilaMes>> filasDe(engine::TablaLiquidacion tabla);
     // Abre de nuevo el mes de la persona en pantalla (después de escribir).
     bool releer();
     void cargarEmpresas();
